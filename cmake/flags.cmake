@@ -1,0 +1,24 @@
+# One interface target that all our code links: language, warnings and sanitizers.
+add_library(nimbrel_flags INTERFACE)
+target_compile_features(nimbrel_flags INTERFACE cxx_std_20)
+target_include_directories(nimbrel_flags INTERFACE ${CMAKE_SOURCE_DIR}/src ${CMAKE_BINARY_DIR}/generated)
+target_compile_options(nimbrel_flags INTERFACE
+  -Wall -Wextra -Wpedantic -Werror # a warning is a fault found early
+  -Wconversion -Wsign-conversion   # bytes, singles and sizes meet everywhere; each narrowing is to be meant
+  -Wshadow                         # a reused name hides what a loop over a table works on
+  -Wold-style-cast                 # casts are to be found by their name
+  -Wnon-virtual-dtor               # ports are owned through their base
+  -Woverloaded-virtual             # a port's twin must override, not hide
+)
+if(NIMBREL_SANITIZE)
+  target_compile_options(nimbrel_flags INTERFACE
+    -fsanitize=${NIMBREL_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(nimbrel_flags INTERFACE -fsanitize=${NIMBREL_SANITIZE})
+endif()
+
+# nimbrel_library(NAME SOURCES ... LINKS ...): one folder of src as a target that sees only what it links.
+function(nimbrel_library name)
+  cmake_parse_arguments(arg "" "" "SOURCES;LINKS" ${ARGN})
+  add_library(${name} STATIC ${arg_SOURCES})
+  target_link_libraries(${name} PUBLIC nimbrel_flags ${arg_LINKS})
+endfunction()

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "platform/file_system.h"
+
+namespace nimbrel {
+
+/// The file system of the machine.
+class HostFileSystem : public FileSystem {
+ public:
+  bool isFile(std::string_view path) const override;
+  bool isFolder(std::string_view path) const override;
+  std::string read(std::string_view path) const override;
+  void replace(std::string_view path, std::string_view bytes) override;
+  void copy(std::string_view from, std::string_view to) override;
+  void remove(std::string_view path) override;
+  void makeFolder(std::string_view path) override;
+  std::vector<std::string> filesIn(std::string_view folder) const override;
+};
+
+}  // namespace nimbrel

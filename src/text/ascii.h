@@ -1,0 +1,28 @@
+#pragma once
+
+#include <algorithm>
+#include <string>
+#include <string_view>
+
+/// What is known of a byte without a locale: the letters and digits of ASCII alone.
+namespace nimbrel {
+
+constexpr bool isDigit(char c) {
+  return c >= '0' && c <= '9';
+}
+
+constexpr char toLower(char c) {
+  return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+constexpr bool equalIgnoringCase(std::string_view a, std::string_view b) {
+  return std::ranges::equal(a, b, {}, toLower, toLower);
+}
+
+inline std::string lowered(std::string_view text) {
+  std::string result(text);
+  std::ranges::transform(result, result.begin(), toLower);
+  return result;
+}
+
+}  // namespace nimbrel

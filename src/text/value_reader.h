@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string_view>
+
+namespace nimbrel {
+
+/// Reads one-byte text value by value, as comma-separated input:
+/// - blanks and tabs ahead of a value are skipped; an empty line is an empty value;
+/// - a value that begins with a double quote is what stands up to the next one, and what follows that up to
+///   the comma or line end is dropped;
+/// - any other value runs up to the comma or line end, less the blanks (byte 32) behind it;
+/// - the comma or line end goes with the value; a line end is CR, LF or CR LF and ends every value.
+/// Values are views into the text, which is to outlive them.
+class ValueReader {
+ public:
+  explicit ValueReader(std::string_view text) : text_(text) {}
+
+  /// The next value, or none where nothing but blanks is left. A last value needs no line end.
+  std::optional<std::string_view> next();
+
+  /// Whether blanks, tabs and line ends alone are left.
+  bool atEnd() const;
+
+  /// The line, from 1, on which the value read last began.
+  std::size_t line() const { return line_; }
+
+ private:
+  void consumeDelimiter();
+
+  std::string_view text_;
+  std::size_t position_ = 0;
+  std::size_t line_ = 1;
+  std::size_t nextLine_ = 1;
+};
+
+}  // namespace nimbrel
