@@ -1,0 +1,21 @@
+#include "cli/commands.h"
+#include "cli/menu_input.h"
+#include "compiler/inspection.h"
+
+namespace nimbrel {
+
+ExitStatus checkCommand(const Console& console, const FileSystem& files, const std::string& menu) {
+  MenuInput input(menu);
+  Findings findings;
+  try {
+    input.load(files);
+    findings = inspect(input.document, files, input.path);
+  } catch (const FileError& error) {
+    findings.push_back(error.finding());
+  }
+  const auto ofReading = console.faults(input.notes);
+  const auto ofDocument = console.faults(findings);
+  return ofReading == done ? ofDocument : ofReading;
+}
+
+}  // namespace nimbrel

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "cli/console.h"
+#include "platform/file_system.h"
+
+namespace nimbrel {
+
+/// A whole run of `nbrc` with the words of its call behind the program's name; gives the exit status.
+int nbrc(const Console& console, FileSystem& files, std::vector<std::string> words);
+
+}  // namespace nimbrel

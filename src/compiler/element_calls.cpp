@@ -1,0 +1,292 @@
+#include "compiler/element_calls.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+#include <vector>
+
+#include "text/numbers.h"
+
+namespace nimbrel {
+namespace {
+
+/// One call in the making: a prefix, arguments, the end.
+class Call {
+ public:
+  explicit Call(std::string prefix) : text_(std::move(prefix)) {}
+
+  std::string finished() && { return std::move(text_) + ");"; }
+
+  void number(std::uint8_t value) { appendGeneral(next(), value); }
+  void number(float value) { appendGeneral(next(), value); }
+  void constant(std::string_view value) { next() += value; }
+  void null() { constant("n"); }
+  void id(const SharedText& styleId) { constant(styleId); }
+  void idOrNull(const SharedText& styleId) { constant(styleId.empty() ? "n" : styleId.view()); }
+
+  /// An image of the element is numbered from 1, in the script from 0.
+  void image(float number) {
+    if (number == 0) {
+      null();
+    } else {
+      this->number(number - 1);
+    }
+  }
+
+  void text(std::string_view value) {
+    std::string& out = next();
+    out += '"';
+    appendEscaped(out, value);
+    out += '"';
+  }
+
+  void name(std::string_view value) {
+    std::string escaped;
+    appendEscaped(escaped, value);
+    next().append(1, '"').append(EscapeEdgeSpaces(escaped)).append(1, '"');
+  }
+
+  /// Code of the author's, whose double quotes become single ones.
+  void command(const SharedText& value) {
+    if (value == notSet) return null();
+    std::string& out = next();
+    out += '"';
+    const auto begin = static_cast<std::ptrdiff_t>(out.size());
+    out += value.view();
+    std::replace(out.begin() + begin, out.end(), '"', '\'');
+    out += '"';
+  }
+
+  void plain(const SharedText& value) {
+    if (value == notSet) return null();
+    next().append(1, '"').append(value.view()).append(1, '"');
+  }
+
+ private:
+  static void appendEscaped(std::string& out, std::string_view value) {
+    for (const char c : value) {
+      if (c == '\\' || c == '"') out += '\\';
+      out += c;
+    }
+  }
+
+  std::string& next() {
+    if (std::exchange(hasArguments_, true)) text_ += ',';
+    return text_;
+  }
+
+  std::string text_;
+  bool hasArguments_ = false;
+};
+
+// The shared runs of arguments, in the order of the runtime's parameters.
+
+template <class Container>
+void titleText(Call& call, const Container& container, const SharedText& name) {
+  call.id(container.ContainerStyleID);
+  call.idOrNull(container.TitleStyleID);
+  if (container.DisplayNameAsTitle == 1) {
+    call.name(name);
+  } else {
+    call.null();
+  }
+  call.text(container.TitleTooltip);
+}
+
+/// `hasImage` is what the form at hand takes for "there is a title image".
+template <class Container>
+void titleImage(Call& call, const Container& container, bool hasImage) {
+  constexpr std::uint8_t noTitle = 2;
+  if (container.DisplayNameAsTitle != noTitle && hasImage) {
+    call.number(container.TitleImageNo - 1);
+  } else {
+    call.null();
+  }
+  if (hasImage) {
+    call.number(container.TitleImageAlignment);
+  } else {
+    call.constant("1");
+  }
+}
+
+template <class Container>
+void items(Call& call, const Container& container, std::uint8_t type) {
+  call.number(container.DistanceBetweenItems);
+  if (type == 0) {
+    call.constant("1");
+  } else {
+    call.number(container.UniformItemWidths);
+  }
+  if (type > 0) {
+    call.constant("1");
+  } else {
+    call.number(container.UniformItemHeights);
+  }
+  call.command(container.JavascriptOnOpen);
+  call.command(container.JavascriptOnClose);
+}
+
+/// The text of state 2 or 3; null tells the runtime to keep that of the Normal state.
+void itemName(Call& call, const ItemObj& item, std::uint8_t display, const SharedText& name) {
+  if (display != 1) {
+    call.text("");
+  } else if (name == item.ItemName1 && item.DisplayNameAsTitle1 != 0) {
+    call.null();
+  } else {
+    call.name(name);
+  }
+}
+
+void append(std::string& script, std::string_view line) {
+  script.append("\r\n").append(line);
+}
+
+void appendCall(const Document& document, const Node& node, int level, std::string& script) {
+  const Element* element = document.element(node);
+  if (element == nullptr) return;
+  append(script,
+         std::visit([level](const auto& object) { return JavascriptInitString(object, level); }, *element));
+}
+
+/// A container at level 0 that is not the root of the tree stands as a main menu.
+void appendFirstCall(const Document& document, const Node& container, std::string& script) {
+  const auto* submenu = std::get_if<SubmenuObj>(document.element(container));
+  if (submenu != nullptr && container.Key != document.tvTreeView.root()->Key) {
+    append(script, JavascriptInitStringMimicMenu(*submenu));
+  } else {
+    appendCall(document, container, 0, script);
+  }
+}
+
+}  // namespace
+
+std::string EscapeEdgeSpaces(std::string_view text) {
+  constexpr std::string_view blank = "&nbsp";  // kept: without its semicolon
+  const auto repeated = [&](std::size_t count) {
+    std::string result;
+    while (count-- > 0) result += blank;
+    return result;
+  };
+  const auto leading = std::min(text.find_first_not_of(' '), text.size());
+  std::string inner(text.substr(leading));
+  // kept: in a text of blanks alone, the blank that stands for the leading ones is taken for a trailing one.
+  if (leading > 0) inner.insert(0, 1, ' ');
+  if (inner.empty()) return inner;
+  const auto size = inner.find_last_not_of(' ') + 1;
+  const auto trailing = inner.size() - size;
+  inner.resize(size);
+  if (trailing > 0) inner.append(1, ' ').append(repeated(trailing));
+  return repeated(leading) + inner;
+}
+
+std::string JavascriptInitString(const MenuObj& menu, int) {
+  Call call("var s0=nbrCreateMenu(");
+  call.number(menu.Collapsable);
+  call.constant("0,0");
+  call.number(menu.MenuHow);
+  call.number(menu.UnfoldDirection);
+  call.constant("0");
+  call.number(menu.Movable);
+  call.number(menu.Drifty);
+  call.number(menu.CornerForPositioning);
+  call.number(menu.HorizontalDistanceFromCorner);
+  call.number(menu.VerticalDistanceFromCorner);
+  call.number(menu.StickySubmenus);
+  call.number(menu.MenuType);
+  titleText(call, menu, menu.menuname);
+  titleImage(call, menu, menu.TitleImageNo != 0);
+  items(call, menu, menu.MenuType);
+  return std::move(call).finished();
+}
+
+std::string JavascriptInitString(const SubmenuObj& submenu, int submenuLevel) {
+  Call call("var s" + std::to_string(submenuLevel) + "=it.addSubmenu(");
+  call.number(submenu.SubmenuType);
+  call.number(submenu.SubmenuWhen);
+  call.number(submenu.SubmenuWhere);
+  call.number(submenu.SubmenuHow);
+  call.number(submenu.UnfoldDirection);
+  call.number(submenu.SubmenuAlignment);
+  call.number(submenu.OpenDirection);
+  titleText(call, submenu, submenu.SubmenuName);
+  titleImage(call, submenu, submenu.TitleImageNo != 0);
+  items(call, submenu, submenu.SubmenuType);
+  return std::move(call).finished();
+}
+
+std::string JavascriptInitStringMimicMenu(const SubmenuObj& submenu) {
+  Call call("var s0=nbrCreateMenu(");
+  call.constant("1");
+  call.number(submenu.SubmenuWhen);
+  call.number(submenu.SubmenuWhere);
+  call.number(submenu.SubmenuHow);
+  call.number(submenu.UnfoldDirection);
+  call.number(submenu.SubmenuAlignment);
+  call.constant("0,1,0,0,0,0");
+  call.number(submenu.SubmenuType);
+  titleText(call, submenu, submenu.SubmenuName);
+  // kept: this form asks for the property, so that a title image whose file is missing has the number -1.
+  titleImage(call, submenu, submenu.TitleImage != notSet);
+  items(call, submenu, submenu.SubmenuType);
+  return std::move(call).finished();
+}
+
+std::string JavascriptInitString(const ItemObj& item, int submenuLevel) {
+  // Whether the item has pictures is asked of the properties: one whose file is missing counts.
+  const bool withImages =
+      std::ranges::any_of(std::array{&item.ItemImage1, &item.ItemImage2, &item.ItemImage3,
+                                     &item.HasSubmenuImage1, &item.HasSubmenuImage2, &item.HasSubmenuImage3},
+                          [](const SharedText* image) { return *image != notSet; });
+  Call call("it=s" + std::to_string(submenuLevel) + (withImages ? ".addItemWithImages(" : ".addItem("));
+  call.id(item.ItemStyleID1);
+  call.id(item.ItemStyleID2);
+  call.id(item.ItemStyleID3);
+  if (item.DisplayNameAsTitle1 == 1) {
+    call.name(item.ItemName1);
+  } else {
+    call.text("");
+  }
+  itemName(call, item, item.DisplayNameAsTitle2, item.ItemName2);
+  itemName(call, item, item.DisplayNameAsTitle3, item.ItemName3);
+  call.text(item.ItemTooltip);
+  if (withImages) {
+    for (const float number : {item.ItemImage1No, item.ItemImage2No, item.ItemImage3No}) call.image(number);
+    for (const auto place : {item.ImageAlignment1, item.ImageAlignment2, item.ImageAlignment3})
+      call.number(place);
+    for (const float number : {item.HasSubmenuImage1No, item.HasSubmenuImage2No, item.HasSubmenuImage3No}) {
+      call.image(number);
+    }
+  }
+  call.text(item.StatusBarText);
+  call.command(item.JavascriptCommand1);
+  call.command(item.JavascriptCommand2);
+  call.command(item.JavascriptCommand3);
+  call.plain(item.URL);
+  call.plain(item.TargetFrame);
+  return std::move(call).finished();
+}
+
+void CollectElementStrings(const Document& document, const Node& container, bool includeSubmenus,
+                           std::string_view behindContainer, std::string& script) {
+  appendFirstCall(document, container, script);
+  if (!behindContainer.empty()) append(script, behindContainer);
+
+  // The next item of each menu that the walk is in; a menu's level is its place here.
+  std::vector<const Node*> nextItems{container.Child()};
+  while (!nextItems.empty()) {
+    const int level = static_cast<int>(nextItems.size()) - 1;
+    const Node* item = nextItems.back();
+    if (item == nullptr) {
+      nextItems.pop_back();
+      continue;
+    }
+    nextItems.back() = item->Next();
+    appendCall(document, *item, level, script);
+    if (const Node* submenu = item->Child(); includeSubmenus && submenu != nullptr) {
+      appendCall(document, *submenu, level + 1, script);
+      nextItems.push_back(submenu->Child());
+    }
+  }
+}
+
+}  // namespace nimbrel

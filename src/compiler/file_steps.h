@@ -1,0 +1,37 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/file_system.h"
+
+namespace nimbrel {
+
+/// What a run of file steps made, by path, and what it met on the way.
+struct StepReport {
+  std::vector<std::string> made;
+  Findings findings;
+};
+
+/// File operations that go on without the ones that fail: a failure becomes a finding.
+class FileSteps {
+ public:
+  FileSteps(FileSystem& files, StepReport& report) : files_(files), report_(report) {}
+
+  const FileSystem& files() const { return files_; }
+  void copy(std::string_view from, std::string_view to);
+  void replace(std::string_view path, std::string_view bytes);
+  void makeFolder(std::string_view path);
+  void removeFilesIn(std::string_view folder);
+  void note(Finding finding) { report_.findings.push_back(std::move(finding)); }
+
+ private:
+  template <class Step>
+  bool attempt(Step step);
+
+  FileSystem& files_;
+  StepReport& report_;
+};
+
+}  // namespace nimbrel

@@ -1,0 +1,81 @@
+#include "compiler/image_collection.h"
+
+#include "text/paths.h"
+
+namespace nimbrel {
+
+bool ImageFolder::has(const std::string& picture, const Node& user) {
+  const auto [entry, isNew] = known_.try_emplace(picture, false);
+  if (isNew) {
+    entry->second = steps_.files().isFile(picture);
+    // An empty path names nothing that could be missed.
+    if (!entry->second && !picture.empty()) {
+      steps_.note({picture, "there is no such picture (used by " + user.Key + ")"});
+    }
+  }
+  return entry->second;
+}
+
+CImageInfo ImageFolder::take(const std::string& picture) {
+  const auto [measured, isNew] = measured_.try_emplace(picture);
+  if (isNew) {
+    try {
+      measured->second = ReadImageInfo(steps_.files().read(picture));
+    } catch (const FileError&) {
+      // The copy, which meets the same fault, tells of it; the size stays 0 by 0.
+    }
+  }
+  std::string& source = sources_[std::string(fileName(picture))];
+  if (source != picture) {
+    steps_.copy(picture, GalleryImagePath(picture, path_));
+    source = picture;
+  }
+  return measured->second;
+}
+
+float ImageCollection::numberOf(std::string_view path, const Node& user) {
+  if (path == notSet) return 0;
+  const auto [number, isNew] = numbers_.try_emplace(std::string(path), 0.F);
+  if (!isNew || !folder_.has(number->first, user)) return number->second;
+
+  // kept: only the bare name counts, so that of two pictures of one name the first is the one that is shown.
+  const auto [position, isNewName] =
+      positions_.try_emplace(std::string(fileName(path)), ImageNames.size() + 1);
+  if (isNewName) {
+    const auto info = folder_.take(number->first);
+    ImageNames.push_back(position->first);
+    ImageWidths.push_back(info.Width);
+    ImageHeights.push_back(info.Height);
+  }
+  return number->second = static_cast<float>(position->second);
+}
+
+void ImageCollection::CollectImages(Document& document, const Node& top, bool includeSubmenus) {
+  // kept: what tells the main menu from its items is the text of the node, not its key.
+  const SharedText textOfRoot = document.tvTreeView.root()->Text;
+  for (const Node* node = &top; node != nullptr;) {
+    if (Element* element = document.element(*node)) {
+      for (int slot = 0;; ++slot) {
+        const auto path = getImage(*element, slot);
+        const bool last = path == noMoreImages;
+        setImageNo(*element, slot, last ? 0 : numberOf(path, *node));
+        if (last) break;
+      }
+    }
+    const bool goesDown = includeSubmenus || node->Text == textOfRoot;
+    node = goesDown ? following(node, &top) : followingPastChildren(node, &top);
+  }
+}
+
+std::string ImageCollection::tableLine() const {
+  if (ImageNames.empty()) return {};
+  std::string line = "nbrImagesColl=[";
+  for (std::size_t i = 0; i < ImageNames.size(); ++i) {
+    if (i > 0) line += ',';
+    line.append(1, '\'').append(ImageNames[i]).append("',").append(std::to_string(ImageWidths[i]));
+    line.append(1, ',').append(std::to_string(ImageHeights[i]));
+  }
+  return line + "];";
+}
+
+}  // namespace nimbrel

@@ -1,0 +1,178 @@
+#include "compiler/image_info.h"
+
+#include <limits>
+#include <stdexcept>
+#include <unordered_set>
+
+namespace nimbrel {
+namespace {
+
+/// A read past the buffer, or a value that its field cannot hold: the probe ends with what it has.
+struct ProbeEnds : std::exception {};
+
+/// The bytes of a picture with one spare zero byte behind them, read at positions from 0.
+class Buffer {
+ public:
+  explicit Buffer(std::string_view bytes) : bytes_(bytes) {}
+
+  std::int64_t size() const { return static_cast<std::int64_t>(bytes_.size()); }
+
+  int at(std::int64_t position) const {
+    if (position < 0 || position > size()) throw ProbeEnds();
+    if (position == size()) return 0;
+    return static_cast<std::uint8_t>(bytes_[static_cast<std::size_t>(position)]);
+  }
+
+  // kept: words are signed, so that a size of 32768 or more comes out negative.
+  std::int16_t LittleWord(std::int64_t p) const { return word(at(p), at(p + 1)); }
+  std::int16_t BigWord(std::int64_t p) const { return word(at(p + 1), at(p)); }
+  std::int32_t LittleLong(std::int64_t p) const { return longOf(at(p), at(p + 1), at(p + 2), at(p + 3)); }
+  std::int32_t BigLong(std::int64_t p) const { return longOf(at(p + 3), at(p + 2), at(p + 1), at(p)); }
+
+ private:
+  static std::int16_t word(int low, int high) { return static_cast<std::int16_t>(low | (high << 8)); }
+  static std::int32_t longOf(int a, int b, int c, int d) {
+    return static_cast<std::int32_t>(static_cast<std::uint32_t>(a) | static_cast<std::uint32_t>(b) << 8 |
+                                     static_cast<std::uint32_t>(c) << 16 |
+                                     static_cast<std::uint32_t>(d) << 24);
+  }
+
+  std::string_view bytes_;
+};
+
+std::uint8_t depthOf(int bits) {
+  if (bits < 0 || bits > std::numeric_limits<std::uint8_t>::max()) throw ProbeEnds();
+  return static_cast<std::uint8_t>(bits);
+}
+
+void readPng(const Buffer& buffer, CImageInfo& info) {
+  info.Type = ImageType::Png;
+  constexpr int bitDepthAt = 24;
+  constexpr int colourTypeAt = 25;
+  switch (buffer.at(colourTypeAt)) {
+    case 0: info.Depth = depthOf(buffer.at(bitDepthAt)); break;
+    case 2: info.Depth = depthOf(buffer.at(bitDepthAt) * 3); break;
+    case 3: info.Depth = 8; break;
+    case 4: info.Depth = depthOf(buffer.at(bitDepthAt) * 2); break;
+    case 6: info.Depth = depthOf(buffer.at(bitDepthAt) * 4); break;
+    default: info.Type = ImageType::Unknown; return;
+  }
+  // kept: only the low halves of the 32-bit sizes are read.
+  info.Width = buffer.BigWord(18);
+  info.Height = buffer.BigWord(22);
+}
+
+void readGif(const Buffer& buffer, CImageInfo& info) {
+  info.Type = ImageType::Gif;
+  info.Width = buffer.LittleWord(6);
+  info.Height = buffer.LittleWord(8);
+  info.Depth = depthOf((buffer.at(10) & 7) + 1);
+}
+
+void readBmp(const Buffer& buffer, CImageInfo& info) {
+  info.Type = ImageType::Bmp;
+  info.Width = buffer.LittleWord(18);
+  info.Height = buffer.LittleWord(22);
+  info.Depth = depthOf(buffer.at(28));
+}
+
+void readPcx(const Buffer& buffer, CImageInfo& info) {
+  info.Type = ImageType::Pcx;
+  info.Width = buffer.LittleWord(8) - buffer.LittleWord(4) + 1;
+  info.Height = buffer.LittleWord(10) - buffer.LittleWord(6) + 1;
+  info.Depth = depthOf(buffer.at(65) * buffer.at(3));
+}
+
+/// TIFF in either order of bytes.
+class TiffReader {
+ public:
+  TiffReader(const Buffer& buffer, bool bigEndian) : buffer_(buffer), bigEndian_(bigEndian) {}
+
+  void read(CImageInfo& info) const {
+    const std::int64_t directory = longAt(4);
+    const int count = wordAt(directory);
+    for (int i = 0; i < count; ++i) {
+      constexpr int entrySize = 12;
+      const std::int64_t entry = directory + 2 + std::int64_t{i} * entrySize;
+      switch (wordAt(entry)) {
+        case 256: info.Width = valueOf(entry); break;
+        case 257: info.Height = valueOf(entry); break;
+        case 258: info.Depth = depthOf(valueOf(entry)); break;
+        default: break;
+      }
+    }
+    if (info.Depth > 0 && info.Width > 0 && info.Height > 0) {
+      info.Type = ImageType::Tiff;
+    } else {
+      info = CImageInfo{.FileSize = info.FileSize};
+    }
+  }
+
+ private:
+  int wordAt(std::int64_t p) const { return bigEndian_ ? buffer_.BigWord(p) : buffer_.LittleWord(p); }
+  std::int32_t longAt(std::int64_t p) const {
+    return bigEndian_ ? buffer_.BigLong(p) : buffer_.LittleLong(p);
+  }
+
+  std::int32_t valueOf(std::int64_t entry) const {
+    switch (wordAt(entry + 2)) {
+      case 1: return buffer_.at(entry + 8);
+      case 3: return wordAt(entry + 8);
+      case 4: return longAt(entry + 8);
+      default: return 0;
+    }
+  }
+
+  const Buffer& buffer_;
+  bool bigEndian_;
+};
+
+/// Looks for the frame header, marker by marker. What stands ahead of the first marker is skipped.
+void readJpeg(std::string_view bytes, const Buffer& buffer, CImageInfo& info) {
+  const std::int64_t end = buffer.size() - 10;
+  const auto start = bytes.find("\xFF\xD8\xFF");
+  auto position = start == std::string_view::npos ? end : static_cast<std::int64_t>(start) + 2;
+  // A segment's length may be negative; a scan that comes back to a marker it has seen ends.
+  std::unordered_set<std::int64_t> seen;
+  while (position < end) {
+    while (buffer.at(position) != 0xFF || buffer.at(position + 1) == 0xFF) {
+      if (++position >= end) return;
+    }
+    const std::int64_t marker = position + 1;
+    if (!seen.insert(marker).second) return;
+    if (buffer.at(marker) >= 192 && buffer.at(marker) <= 195) {
+      info.Type = ImageType::Jpeg;
+      info.Height = buffer.BigWord(marker + 4);
+      info.Width = buffer.BigWord(marker + 6);
+      info.Depth = depthOf(buffer.at(marker + 8) * 8);
+      return;
+    }
+    position = marker + buffer.BigWord(marker + 1);
+  }
+}
+
+void probe(std::string_view bytes, CImageInfo& info) {
+  const Buffer buffer(bytes);
+  if (bytes.starts_with("\x89PN")) readPng(buffer, info);
+  if (bytes.starts_with("GIF")) readGif(buffer, info);
+  if (bytes.starts_with("BM")) readBmp(buffer, info);
+  if (bytes.starts_with('\x0A')) readPcx(buffer, info);
+  if (bytes.starts_with("II*")) TiffReader(buffer, false).read(info);
+  if (bytes.starts_with("MM*")) TiffReader(buffer, true).read(info);
+  if (info.Type == ImageType::Unknown) readJpeg(bytes, buffer, info);
+}
+
+}  // namespace
+
+CImageInfo ReadImageInfo(std::string_view bytes) {
+  CImageInfo info;
+  info.FileSize = static_cast<std::int32_t>(bytes.size());
+  try {
+    probe(bytes, info);
+  } catch (const ProbeEnds&) {
+    return info;  // kept: what was set ahead of the end stands
+  }
+  return info;
+}
+
+}  // namespace nimbrel

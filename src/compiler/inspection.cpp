@@ -1,0 +1,115 @@
+#include "compiler/inspection.h"
+
+#include <map>
+
+#include "compiler/image_info.h"
+#include "text/paths.h"
+
+namespace nimbrel {
+namespace {
+
+class Inspector {
+ public:
+  Inspector(const Document& document, const FileSystem& files, const std::string& path)
+      : document_(document), files_(files), path_(path) {}
+
+  Findings run() {
+    if (document_.tvTreeView.empty()) say("there is no main menu");
+    for (const Node* node = document_.tvTreeView.root(); node != nullptr; node = following(node)) {
+      inspectPlace(*node);
+      if (const Element* element = document_.element(*node)) inspectValues(*node, *element);
+    }
+    return std::move(findings_);
+  }
+
+ private:
+  void say(std::string reason) { findings_.push_back({path_, std::move(reason)}); }
+
+  void inspectPlace(const Node& node) {
+    const auto kind = kindOf(node.Key);
+    const auto* parent = node.Parent();
+    const auto above = parent == nullptr ? Kind::None : kindOf(parent->Key);
+    if (kind == Kind::None) say(node.Key + " is neither a menu, a submenu nor an item");
+    if (parent == nullptr && node.Previous() != nullptr)
+      say(node.Key + " is a second root, which is not saved");
+    if (parent == nullptr && kind != Kind::Menu) say(node.Key + " is the root and not a main menu");
+    if (parent != nullptr && kind == Kind::Menu) say(node.Key + " is a main menu below the root");
+    if (kind == Kind::Item && parent != nullptr && above == Kind::Item) {
+      say(node.Key + " is an item that hangs from the item " + parent->Key);
+    }
+    if (kind == Kind::Submenu && parent != nullptr && above != Kind::Item) {
+      say(node.Key + " is a submenu that does not hang from an item");
+    }
+    if (kind == Kind::Submenu && above == Kind::Item && node.Previous() != nullptr) {
+      say(node.Key + " is a second submenu of the item " + parent->Key);
+    }
+  }
+
+  void inspectValues(const Node& node, const Element& element) {
+    std::visit(
+        [&]<class E>(const E& object) {
+          eachProperty<E>([&](const Property<E>& property, auto field) {
+            if constexpr (std::is_same_v<decltype(field), SharedText E::*>) {
+              inspectText(node.Key, property.name, property.form, object.*field);
+              if (property.isImage()) inspectPicture(node.Key, (object.*field).str());
+            }
+          });
+        },
+        element);
+  }
+
+  void inspectText(const std::string& key, std::string_view name, Form form, std::string_view value) {
+    const auto of = std::string(name) + " of " + key + " holds ";
+    if (value.find_first_of("\r\n") != std::string_view::npos)
+      say(of + "a line break, which ends the value in the file");
+    if (form == Form::Raw && value.find(',') != std::string_view::npos) {
+      say(of + "a comma, which shifts the values behind it in the file");
+    }
+    if (form == Form::Raw && value.find('\'') != std::string_view::npos)
+      say(of + "a single quote, which breaks the script");
+    const bool isPlain = name == "URL" || name == "TargetFrame";
+    if (isPlain && value.find('"') != std::string_view::npos)
+      say(of + "a double quote, which breaks the script");
+  }
+
+  void inspectPicture(const std::string& key, const std::string& picture) {
+    if (picture == notSet || picture.empty()) return;
+    const auto [user, isNew] = users_.try_emplace(picture, key);
+    if (!isNew) return;
+    if (!files_.isFile(picture)) {
+      findings_.push_back({picture, "there is no such picture (used by " + key + ")"});
+      return;
+    }
+    try {
+      if (ReadImageInfo(files_.read(picture)).Type == ImageType::Unknown) {
+        findings_.push_back({picture, "is of no known picture format (used by " + key + ")"});
+      }
+    } catch (const FileError& error) {
+      findings_.push_back(error.finding());
+    }
+    const auto name = std::string(fileName(picture));
+    if (name.find('\'') != std::string_view::npos) {
+      findings_.push_back({picture, "has a single quote in its name, which breaks the script"});
+    }
+    const auto [first, isNewName] = firstOfName_.try_emplace(name, picture);
+    if (!isNewName) {
+      findings_.push_back(
+          {picture, "has the name of another picture, which is shown in its place (used by " + key + ")"});
+    }
+  }
+
+  const Document& document_;
+  const FileSystem& files_;
+  const std::string& path_;
+  Findings findings_;
+  std::map<std::string, std::string> users_;  // the first element to use a picture, by the picture's path
+  std::map<std::string, std::string> firstOfName_;  // the picture that is shown for a file name
+};
+
+}  // namespace
+
+Findings inspect(const Document& document, const FileSystem& files, const std::string& path) {
+  return Inspector(document, files, path).run();
+}
+
+}  // namespace nimbrel

@@ -1,0 +1,171 @@
+#include "compiler/script_assembly.h"
+
+#include "compiler/element_calls.h"
+#include "compiler/image_collection.h"
+#include "compiler/style_strings.h"
+#include "text/numbers.h"
+#include "text/paths.h"
+#include "text/product.h"
+
+namespace nimbrel {
+namespace {
+
+constexpr std::string_view lineEnd = "\r\n";
+constexpr std::string_view dot = "dot.gif";
+constexpr std::string_view markerImage = "nbrmenupath.gif";
+
+constexpr std::string_view supportTest =
+    R"(var nbrSupported=(navigator.appName + navigator.appVersion.substring(0,1)=="Netscape5" || )"
+    R"(document.all || document.layers || navigator.userAgent.indexOf('Opera')>-1)?1:0;)";
+
+constexpr std::string_view runtimeChoice =
+    "var nua=navigator.userAgent,scriptNo=(nua.indexOf('Gecko')>-1)?2:((document.layers)?3:"
+    "((nua.indexOf('Opera')>-1)?4:((nua.indexOf('Mac')>-1)?5:1)));";
+
+void append(std::string& script, std::string_view line) {
+  script.append(lineEnd).append(line);
+}
+
+std::string optimizeLine(const CompileSettings& settings) {
+  return settings.nbrOptimize ? "var nbrOptimize=1;" : "var nbrOptimize=0;";
+}
+
+std::string lastCompileFolder(const CompileSettings& settings) {
+  if (settings.CompiledPath.empty()) return " ";
+  std::string doubled;
+  for (const char c : settings.CompiledPath) doubled.append(c == '\\' ? 2 : 1, c);
+  return doubled;
+}
+
+/// Everything that one call of `buildMenu()` builds: pictures, styles, elements. Numbers start anew.
+void appendGroup(Document& document, const Node& container, ImageFolder& folder, bool includeSubmenus,
+                 std::string_view behindContainer, std::string& script) {
+  ImageCollection images(folder);
+  images.CollectImages(document, container, includeSubmenus);
+  if (const auto table = images.tableLine(); !table.empty()) append(script, table);
+
+  StyleCollection styles;
+  styles.CollectStyles(document, container, includeSubmenus);
+  for (const auto& style : styles.StyleStrings()) append(script, style);
+
+  CollectElementStrings(document, container, includeSubmenus, behindContainer, script);
+  append(script, "s0.pm.buildMenu();");
+}
+
+/// The line that gives the runtime its stacking order, from the main menu.
+std::string zIndexLine(const Document& document) {
+  const auto first = document.ElementColl.begin();
+  const auto* menu = first == document.ElementColl.end() ? nullptr : std::get_if<MenuObj>(&first->second);
+  if (menu == nullptr) return {};
+  const auto value = menu->ZIndex == 0 ? "'auto'" : generalForm(menu->ZIndex);
+  return "nbrzindex=" + value + ";\r\n";
+}
+
+}  // namespace
+
+std::string ScriptMaker::overridden(std::string_view name, std::string_view line) const {
+  const auto path = joinPath(programFolder_, name);
+  if (!steps_.files().isFile(path)) return std::string(line);
+  try {
+    return steps_.files().read(path);
+  } catch (const FileError& error) {
+    steps_.note(error.finding());
+    return std::string(line);
+  }
+}
+
+void ScriptMaker::copyFromProgram(std::string_view name, std::string_view to) {
+  steps_.copy(joinPath(programFolder_, name), to);
+}
+
+void ScriptMaker::InstallLibraries(const ScriptTarget& target) {
+  const auto folder = target.basePath + '\\' + target.libraryFolder;
+  constexpr int libraries = 6;
+  for (int i = 0; i < libraries; ++i) {
+    const auto name = "nbrlib" + std::to_string(i) + ".js";
+    copyFromProgram("libraries\\" + name, joinPath(folder, name));
+  }
+  // kept: the one-pixel image goes to the library folder, also where the image folder is another.
+  copyFromProgram(dot, joinPath(folder, dot));
+  copyFromProgram(dot, target.basePath + '\\' + std::string(markerImage));
+}
+
+std::string ScriptMaker::CreateScriptPrologue(const Document& document, const ScriptTarget& target) const {
+  const auto image = "nbrMenuPathImg-" + target.menuName + "'].src;";
+  std::string head = "//----------DHTML Menu Created using ";
+  head.append(productTitle).append(" ver ").append(productVersion).append("-#").append(productBuild);
+  head.append("---------------");
+  append(head, "var nbrMenuName='" + target.menuName + "';");
+  append(head, "var nbrLibraryPath='/" + target.libraryFolder + "';");
+  append(head, "var nbrImagesPath='/" + target.imageFolder + "';");
+  append(head, overridden("auc", supportTest));
+  append(head, "if (nbrAltUrl!='' && !nbrSupported) window.location.replace(nbrAltUrl);");
+  append(head, "if (nbrSupported){");
+  append(head, "var nbrMenuPath;");
+  append(head, "if (document.all) mpi=document.all['" + image);
+  append(head, "if (document.layers) mpi=document.images['" + image);
+  append(head, R"(if (navigator.appName + navigator.appVersion.substring(0,1)=="Netscape5" || )"
+               R"(navigator.userAgent.indexOf('Opera')>-1) mpi=document.getElementById('nbrMenuPathImg-)" +
+                   target.menuName + "').src;");
+  // 16 is the length of "/nbrmenupath.gif".
+  append(head, "nbrMenuPath=mpi.substring(0,mpi.length-16);");
+  append(head, overridden("bsc", runtimeChoice));
+  append(
+      head,
+      R"(document.write("<SCRIPT SRC='"+nbrMenuPath+nbrLibraryPath+"/nbrlib"+scriptNo+".js'><\/SCRIPT>");)");
+  append(head, "var n=null;");
+  head.append(lineEnd).append(zIndexLine(document)).append("}").append(lineEnd);
+  return head;
+}
+
+std::string ScriptMaker::CreateMenuScript(ScriptMode mode, Document& document, const ScriptTarget& target,
+                                          bool includeSubmenus) {
+  if (mode == ScriptMode::Gallery) {
+    copyFromProgram(dot, target.basePath + '\\' + target.libraryFolder + '\\' + std::string(dot));
+  } else {
+    InstallLibraries(target);
+  }
+  const CompileSettings& settings = document.settings;
+  std::string script = CreateScriptPrologue(document, target);
+  append(script, "var nbrSubmenusFrame='" +
+                     (mode == ScriptMode::Compile ? settings.nbrSubmenusFrame : std::string()) + "';");
+  append(script, "var nbrSubmenusFrameOffset;");  // declared only: the submenus file gives the value
+  append(script, optimizeLine(settings));
+  if (settings.nbrFrontPageSupport) append(script, "document.write('</table>');");
+  if (mode == ScriptMode::Preview) append(script, "var nbrprp='" + lastCompileFolder(settings) + "';");
+  append(script, "function nbrBuildMenu(){");
+  append(script, "if (nbrSupported){");
+  ImageFolder folder(steps_, target.basePath + '\\' + target.imageFolder);
+  appendGroup(document, *document.tvTreeView.root(), folder, includeSubmenus, {}, script);
+  append(script, "}}");
+  return script;
+}
+
+std::string ScriptMaker::CreateSubmenusScript(Document& document, const ScriptTarget& target) {
+  std::string list;
+  std::string body;
+  ImageFolder folder(steps_, target.basePath + '\\' + target.imageFolder);
+  int position = 0;  // over all items, those without a submenu too
+  for (const Node* item = document.tvTreeView.root()->Child(); item != nullptr; item = item->Next()) {
+    ++position;
+    if (item->Child() == nullptr) continue;
+    const auto group = target.menuName + "_" + std::to_string(position);
+    list.append(list.empty() ? "nbr" : ",nbr").append(group);
+    append(body, "nbrMenuName='" + group + "';");
+    appendGroup(document, *item->Child(), folder, true, "nbr" + group + "=s0;", body);
+  }
+  if (body.empty()) return {};
+
+  const CompileSettings& settings = document.settings;
+  std::string script = CreateScriptPrologue(document, target);
+  append(script, "var nbrSubmenusFrame='';");
+  append(script, "var nbrSubmenusFrameOffset=" + std::to_string(settings.nbrSubmenusFrameOffset) + ";");
+  append(script, optimizeLine(settings));
+  append(script, "var " + list + ";");
+  // kept: no line break ahead of the closing braces, and a test that the main file's line does not have.
+  append(script, "function nbrBuildMenu(){if(nbrSupported){" + body + "}}");
+  if (settings.nbrFrontPageSupport) append(script, "if (document.layers) document.write('</table>');");
+  return script;
+}
+
+}  // namespace nimbrel

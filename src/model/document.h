@@ -1,0 +1,72 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <variant>
+
+#include "model/element.h"
+#include "model/tree.h"
+
+namespace nimbrel {
+
+/// What steers a compile. It travels with the document.
+struct CompileSettings {
+  std::string CompiledPath;      ///< folder of the last compile, empty until there was one
+  std::string CompiledName;      ///< file name of the last compile, with its extension
+  std::string nbrLibraryPath;    ///< library folder under CompiledPath, empty for the default
+  std::string nbrImagePath;      ///< image folder under CompiledPath, empty for the default
+  bool nbrOptimize = false;      ///< Mouse Click looks as Mouse Over
+  std::string nbrSubmenusFrame;  ///< frame that receives the submenus; not empty: cross-frame output
+  std::int32_t nbrSubmenusFrameOffset = 0;  ///< offset of the submenus in that frame, pixels
+  bool nbrFrontPageSupport = false;         ///< shared borders are supported
+
+  bool operator==(const CompileSettings&) const = default;
+};
+
+/// One value of the menu file's header.
+struct CompileSetting {
+  std::string_view name;
+  std::variant<std::string CompileSettings::*, bool CompileSettings::*, std::int32_t CompileSettings::*>
+      field;
+};
+
+/// In file order.
+inline constexpr std::array compileSettings{
+    CompileSetting{"CompiledPath", &CompileSettings::CompiledPath},
+    CompileSetting{"CompiledName", &CompileSettings::CompiledName},
+    CompileSetting{"nbrLibraryPath", &CompileSettings::nbrLibraryPath},
+    CompileSetting{"nbrImagePath", &CompileSettings::nbrImagePath},
+    CompileSetting{"nbrOptimize", &CompileSettings::nbrOptimize},
+    CompileSetting{"nbrSubmenusFrame", &CompileSettings::nbrSubmenusFrame},
+    CompileSetting{"nbrSubmenusFrameOffset", &CompileSettings::nbrSubmenusFrameOffset},
+    CompileSetting{"nbrFrontPageSupport", &CompileSettings::nbrFrontPageSupport},
+};
+
+/// The document: the tree says what hangs from what, `ElementColl` holds the element of each node under the
+/// node's key. A document that was built here holds the same keys in both, one main menu as its root, items
+/// under menus, and at most one submenu under an item. A file may say otherwise, so whoever walks a document
+/// takes it as it is.
+struct Document {
+  Tree tvTreeView;
+  Elements ElementColl;
+  /// The number of the next new key, greater than every number in use.
+  std::int16_t NextKeyNumber = 0;
+  CompileSettings settings;
+
+  /// The element of a node, none for a foreign node that a file brought.
+  Element* element(const Node& node) { return ElementColl.find(node.Key); }
+  const Element* element(const Node& node) const { return ElementColl.find(node.Key); }
+
+  /// The element of a node if it is of that class.
+  template <class E>
+  E* get(const Node& node) {
+    return std::get_if<E>(element(node));
+  }
+
+  /// Equal trees, elements, counters and settings. The order of adding has no meaning.
+  bool operator==(const Document& other) const;
+};
+
+}  // namespace nimbrel

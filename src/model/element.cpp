@@ -1,0 +1,170 @@
+#include "model/element.h"
+
+#include <algorithm>
+#include <array>
+#include <type_traits>
+#include <utility>
+
+namespace nimbrel {
+namespace {
+
+template <class E>
+void setDefaults(E& element) {
+  eachProperty<E>([&](const Property<E>& property, auto field) {
+    using Value = std::remove_reference_t<decltype(element.*field)>;
+    if constexpr (std::is_same_v<Value, SharedText>) {
+      element.*field = std::get<std::string_view>(property.initial);
+    } else if (const auto* number = std::get_if<float>(&property.initial)) {
+      element.*field = static_cast<Value>(*number);
+    }
+  });
+}
+
+template <class E>
+E copyOfProperties(const E& element) {
+  E copy;
+  eachProperty<E>([&](const Property<E>&, auto field) { copy.*field = element.*field; });
+  return copy;
+}
+
+template <class Target, class Source>
+constexpr bool offersWhatTravels(Style style) {
+  for (const auto& property : Target::properties()) {
+    if ((property.style & style) != 0 && findProperty<Source>(property.name) == nullptr) return false;
+  }
+  return true;
+}
+
+/// Sets the target's properties that travel with `style` from the source's of the same name.
+template <Style style, class Target, class Source>
+void copyStyle(Target& target, const Source& source) {
+  static_assert(offersWhatTravels<Target, Source>(style));
+  eachProperty<Target>([&](const Property<Target>& property, auto field) {
+    if ((property.style & style) == 0) return;
+    using Value = std::remove_reference_t<decltype(target.*field)>;
+    const auto& from = findProperty<Source>(property.name)->field;
+    target.*field = source.*std::get<Value Source::*>(from);
+  });
+}
+
+template <class E>
+consteval std::size_t countImages() {
+  return static_cast<std::size_t>(std::ranges::count_if(E::properties(), &Property<E>::isImage));
+}
+
+/// The rows of the images in table order, which is the order of the slots.
+template <class E>
+consteval auto imageRows() {
+  std::array<const Property<E>*, countImages<E>()> rows{};
+  std::size_t slot = 0;
+  for (const auto& property : E::properties()) {
+    if (property.isImage()) rows[slot++] = &property;
+  }
+  return rows;
+}
+
+template <class E>
+const Property<E>* imageSlot(int slot) {
+  static constexpr auto rows = imageRows<E>();
+  return slot >= 0 && std::cmp_less(slot, rows.size()) ? rows[static_cast<std::size_t>(slot)] : nullptr;
+}
+
+}  // namespace
+
+std::optional<Element> newElement(Kind kind) {
+  switch (kind) {
+    case Kind::Menu: return MenuObj{};
+    case Kind::Submenu: return SubmenuObj{};
+    case Kind::Item: return ItemObj{};
+    case Kind::None: break;
+  }
+  return std::nullopt;
+}
+
+void SetDefaultValues(MenuObj& element) {
+  setDefaults(element);
+}
+
+// kept: the zero meant for `SubmenuType` goes to `SubmenuName`, which ends as "0"; the type stays as it was.
+void SetDefaultValues(SubmenuObj& element) {
+  setDefaults(element);
+}
+
+void SetDefaultValues(ItemObj& element) {
+  setDefaults(element);
+}
+
+MenuObj clone(const MenuObj& element) {
+  MenuObj copy = copyOfProperties(element);
+  // kept: three properties take the title's display, and uniform widths are not copied.
+  copy.Collapsable = copy.MenuHow = copy.UnfoldDirection = element.DisplayNameAsTitle;
+  copy.UniformItemWidths = 0;
+  return copy;
+}
+
+SubmenuObj clone(const SubmenuObj& element) {
+  return copyOfProperties(element);
+}
+
+ItemObj clone(const ItemObj& element) {
+  ItemObj copy = copyOfProperties(element);
+  // kept: a copied item has its Mouse Click font for Mouse Over too.
+  copy.FontFamily2 = element.FontFamily3;
+  return copy;
+}
+
+Element clone(const Element& element) {
+  return std::visit([](const auto& object) -> Element { return clone(object); }, element);
+}
+
+void CopyStyleValuesFromObject(MenuObj& target, const MenuObj& CopyItem) {
+  copyStyle<StyleOfClass>(target, CopyItem);
+}
+
+void CopyStyleValuesFromObject(MenuObj& target, const SubmenuObj& CopyItem) {
+  copyStyle<StyleOfClass>(target, CopyItem);
+}
+
+void CopyStyleValuesFromObject(SubmenuObj& target, const SubmenuObj& CopyItem) {
+  copyStyle<StyleOfClass>(target, CopyItem);
+}
+
+void CopyStyleValuesFromObject(ItemObj& target, const ItemObj& CopyItem) {
+  copyStyle<StyleOfClass>(target, CopyItem);
+}
+
+void CopyStyleValuesFromMenuObject(SubmenuObj& target, const MenuObj& CopyItem) {
+  copyStyle<StyleOfMenu>(target, CopyItem);
+}
+
+std::string_view getImage(const Element& element, int slot) {
+  return std::visit(
+      [slot]<class E>(const E& object) -> std::string_view {
+        const auto* property = imageSlot<E>(slot);
+        if (property == nullptr) return noMoreImages;
+        return object.*std::get<SharedText E::*>(property->field);
+      },
+      element);
+}
+
+void setImageNo(Element& element, int slot, float number) {
+  std::visit(
+      [slot, number]<class E>(E& object) {
+        if (const auto* property = imageSlot<E>(slot)) object.*(property->imageNo) = number;
+      },
+      element);
+}
+
+SharedText NodeText(const Element& element) {
+  struct Label {
+    SharedText operator()(const MenuObj& menu) const { return menu.menuname; }
+    SharedText operator()(const SubmenuObj& submenu) const { return submenu.SubmenuName; }
+    SharedText operator()(const ItemObj& item) const {
+      if (item.ItemName1 == item.ItemName2 && item.ItemName1 == item.ItemName3) return item.ItemName1;
+      return item.ItemName1.str() + " - " + item.ItemName2.str() + " - " + item.ItemName3.str();
+    }
+  };
+  return std::visit(Label{}, element);
+}
+
+}  // namespace nimbrel

@@ -1,0 +1,170 @@
+#pragma once
+
+#include <span>
+
+#include "model/properties.h"
+
+namespace nimbrel {
+
+/// An item. Nearly everything stands three times, for its states 1 Normal, 2 Mouse Over and 3 Mouse Click.
+/// A new object holds empty texts and zeros until `SetDefaultValues` or a reader fills it.
+struct ItemObj {
+  SharedText ItemName1;                  ///< text of the item in state 1
+  SharedText ItemName2;                  ///< text of the item in state 2
+  SharedText ItemName3;                  ///< text of the item in state 3
+  std::uint8_t DisplayNameAsTitle1 = 0;  ///< what the item shows in state 1 (name, image)
+  std::uint8_t DisplayNameAsTitle2 = 0;  ///< what the item shows in state 2 (name, image)
+  std::uint8_t DisplayNameAsTitle3 = 0;  ///< what the item shows in state 3 (name, image)
+  SharedText ItemImage1;                 ///< image file of the item in state 1
+  SharedText ItemImage2;                 ///< image file of the item in state 2
+  SharedText ItemImage3;                 ///< image file of the item in state 3
+  std::uint8_t ImageAlignment1 = 0;      ///< position of the image against the text in state 1
+  std::uint8_t ImageAlignment2 = 0;      ///< position of the image against the text in state 2
+  std::uint8_t ImageAlignment3 = 0;      ///< position of the image against the text in state 3
+  std::uint8_t ItemAlignment1 = 0;       ///< alignment of the content in state 1
+  std::uint8_t ItemAlignment2 = 0;       ///< alignment of the content in state 2
+  std::uint8_t ItemAlignment3 = 0;       ///< alignment of the content in state 3
+  SharedText ItemTooltip;                ///< tooltip of the item
+  std::uint8_t ItemCursor = 0;           ///< mouse cursor over the item, by list position
+  float ItemPadding1 = 0;                ///< padding in state 1
+  float ItemPadding2 = 0;                ///< padding in state 2
+  float ItemPadding3 = 0;                ///< padding in state 3
+  SharedText FontFamily1;                ///< font in state 1
+  SharedText FontFamily2;                ///< font in state 2
+  SharedText FontFamily3;                ///< font in state 3
+  SharedText FontSize1;                  ///< font size in state 1, as text with unit or keyword
+  SharedText FontSize2;                  ///< font size in state 2, as text with unit or keyword
+  SharedText FontSize3;                  ///< font size in state 3, as text with unit or keyword
+  std::uint8_t FontBold1 = 0;            ///< bold in state 1
+  std::uint8_t FontBold2 = 0;            ///< bold in state 2
+  std::uint8_t FontBold3 = 0;            ///< bold in state 3
+  std::uint8_t FontItalic1 = 0;          ///< italic in state 1
+  std::uint8_t FontItalic2 = 0;          ///< italic in state 2
+  std::uint8_t FontItalic3 = 0;          ///< italic in state 3
+  std::uint8_t FontUnderlined1 = 0;      ///< underlined in state 1
+  std::uint8_t FontUnderlined2 = 0;      ///< underlined in state 2
+  std::uint8_t FontUnderlined3 = 0;      ///< underlined in state 3
+  SharedText FontColor1;                 ///< text colour in state 1
+  SharedText FontColor2;                 ///< text colour in state 2
+  SharedText FontColor3;                 ///< text colour in state 3
+  SharedText HasSubmenuImage1;           ///< image that marks an item with a submenu, in state 1
+  SharedText HasSubmenuImage2;           ///< image that marks an item with a submenu, in state 2
+  SharedText HasSubmenuImage3;           ///< image that marks an item with a submenu, in state 3
+  SharedText BorderStyle1;               ///< border style in state 1
+  SharedText BorderStyle2;               ///< border style in state 2
+  SharedText BorderStyle3;               ///< border style in state 3
+  std::uint8_t BorderWidth1 = 0;         ///< border width in state 1
+  std::uint8_t BorderWidth2 = 0;         ///< border width in state 2
+  std::uint8_t BorderWidth3 = 0;         ///< border width in state 3
+  SharedText BorderColor1;               ///< border colour in state 1
+  SharedText BorderColor2;               ///< border colour in state 2
+  SharedText BorderColor3;               ///< border colour in state 3
+  SharedText BGColor1;                   ///< background colour in state 1
+  SharedText BGColor2;                   ///< background colour in state 2
+  SharedText BGColor3;                   ///< background colour in state 3
+  SharedText BGImage1;                   ///< background image file in state 1
+  SharedText BGImage2;                   ///< background image file in state 2
+  SharedText BGImage3;                   ///< background image file in state 3
+  SharedText StatusBarText;              ///< text for the browser status bar
+  SharedText JavascriptCommand1;         ///< script command of state 1
+  SharedText JavascriptCommand2;         ///< script command of state 2
+  SharedText JavascriptCommand3;         ///< script command of state 3
+  SharedText URL;                        ///< address that the item leads to
+  SharedText TargetFrame;                ///< frame or window in which the address opens
+  float HasSubmenu = 0;  ///< not zero: flagged in the file; the tree alone tells whether there is one
+
+  // Calculated by each compile, never stored, copied or compared: the numbers of shared styles as text
+  // (empty: none) and of images in the compiled menu (from 1, 0: none).
+  SharedText ItemStyleID1;
+  SharedText ItemStyleID2;
+  SharedText ItemStyleID3;
+  float ItemImage1No = 0;
+  float ItemImage2No = 0;
+  float ItemImage3No = 0;
+  float HasSubmenuImage1No = 0;
+  float HasSubmenuImage2No = 0;
+  float HasSubmenuImage3No = 0;
+  float BGImage1No = 0;
+  float BGImage2No = 0;
+  float BGImage3No = 0;
+
+  /// The stored properties in file order.
+  static constexpr std::span<const Property<ItemObj>> properties();
+
+  bool operator==(const ItemObj& other) const { return sameProperties(*this, other); }
+};
+
+// clang-format off
+inline constexpr auto itemProperties = std::to_array<Property<ItemObj>>({
+    {"ItemName1",           &ItemObj::ItemName1,           "Item", Form::Marked},
+    {"ItemName2",           &ItemObj::ItemName2,           "Item", Form::Marked},
+    {"ItemName3",           &ItemObj::ItemName3,           "Item", Form::Marked},
+    {"DisplayNameAsTitle1", &ItemObj::DisplayNameAsTitle1, 1, StyleOfClass},
+    {"DisplayNameAsTitle2", &ItemObj::DisplayNameAsTitle2, 1, StyleOfClass},
+    {"DisplayNameAsTitle3", &ItemObj::DisplayNameAsTitle3, 1, StyleOfClass},
+    {"ItemImage1",          &ItemObj::ItemImage1,          notSet, Form::Escaped, NoStyle, &ItemObj::ItemImage1No},
+    {"ItemImage2",          &ItemObj::ItemImage2,          notSet, Form::Escaped, NoStyle, &ItemObj::ItemImage2No},
+    {"ItemImage3",          &ItemObj::ItemImage3,          notSet, Form::Escaped, NoStyle, &ItemObj::ItemImage3No},
+    {"ImageAlignment1",     &ItemObj::ImageAlignment1,     0, StyleOfClass},
+    {"ImageAlignment2",     &ItemObj::ImageAlignment2,     0, StyleOfClass},
+    {"ImageAlignment3",     &ItemObj::ImageAlignment3,     0, StyleOfClass},
+    {"ItemAlignment1",      &ItemObj::ItemAlignment1,      1, StyleOfClass},
+    {"ItemAlignment2",      &ItemObj::ItemAlignment2,      1, StyleOfClass},
+    {"ItemAlignment3",      &ItemObj::ItemAlignment3,      1, StyleOfClass},
+    {"ItemTooltip",         &ItemObj::ItemTooltip,         "", Form::Escaped},
+    {"ItemCursor",          &ItemObj::ItemCursor,          1, StyleOfClass},
+    {"ItemPadding1",        &ItemObj::ItemPadding1,        0, StyleOfClass},
+    {"ItemPadding2",        &ItemObj::ItemPadding2,        0, StyleOfClass},
+    {"ItemPadding3",        &ItemObj::ItemPadding3,        0, StyleOfClass},
+    {"FontFamily1",         &ItemObj::FontFamily1,         "sans-serif", Form::Raw, StyleOfClass},
+    {"FontFamily2",         &ItemObj::FontFamily2,         "sans-serif", Form::Raw, StyleOfClass},
+    {"FontFamily3",         &ItemObj::FontFamily3,         "sans-serif", Form::Raw, StyleOfClass},
+    {"FontSize1",           &ItemObj::FontSize1,           "4mm", Form::Raw, StyleOfClass},
+    {"FontSize2",           &ItemObj::FontSize2,           "4mm", Form::Raw, StyleOfClass},
+    {"FontSize3",           &ItemObj::FontSize3,           "4mm", Form::Raw, StyleOfClass},
+    {"FontBold1",           &ItemObj::FontBold1,           0, StyleOfClass},
+    {"FontBold2",           &ItemObj::FontBold2,           0, StyleOfClass},
+    {"FontBold3",           &ItemObj::FontBold3,           0, StyleOfClass},
+    {"FontItalic1",         &ItemObj::FontItalic1,         0, StyleOfClass},
+    {"FontItalic2",         &ItemObj::FontItalic2,         0, StyleOfClass},
+    {"FontItalic3",         &ItemObj::FontItalic3,         0, StyleOfClass},
+    {"FontUnderlined1",     &ItemObj::FontUnderlined1,     0, StyleOfClass},
+    {"FontUnderlined2",     &ItemObj::FontUnderlined2,     0, StyleOfClass},
+    {"FontUnderlined3",     &ItemObj::FontUnderlined3,     0, StyleOfClass},
+    {"FontColor1",          &ItemObj::FontColor1,          "#000000", Form::Raw, StyleOfClass},
+    {"FontColor2",          &ItemObj::FontColor2,          "#FFFFFF", Form::Raw, StyleOfClass},
+    {"FontColor3",          &ItemObj::FontColor3,          "#FFFFFF", Form::Raw, StyleOfClass},
+    {"HasSubmenuImage1",    &ItemObj::HasSubmenuImage1,    notSet, Form::Escaped, StyleOfClass, &ItemObj::HasSubmenuImage1No},
+    {"HasSubmenuImage2",    &ItemObj::HasSubmenuImage2,    notSet, Form::Escaped, StyleOfClass, &ItemObj::HasSubmenuImage2No},
+    {"HasSubmenuImage3",    &ItemObj::HasSubmenuImage3,    notSet, Form::Escaped, StyleOfClass, &ItemObj::HasSubmenuImage3No},
+    {"BorderStyle1",        &ItemObj::BorderStyle1,        "none", Form::Raw, StyleOfClass},
+    {"BorderStyle2",        &ItemObj::BorderStyle2,        "none", Form::Raw, StyleOfClass},
+    {"BorderStyle3",        &ItemObj::BorderStyle3,        "none", Form::Raw, StyleOfClass},
+    {"BorderWidth1",        &ItemObj::BorderWidth1,        1, StyleOfClass},
+    {"BorderWidth2",        &ItemObj::BorderWidth2,        1, StyleOfClass},
+    {"BorderWidth3",        &ItemObj::BorderWidth3,        1, StyleOfClass},
+    {"BorderColor1",        &ItemObj::BorderColor1,        notSet, Form::Raw, StyleOfClass},
+    {"BorderColor2",        &ItemObj::BorderColor2,        notSet, Form::Raw, StyleOfClass},
+    {"BorderColor3",        &ItemObj::BorderColor3,        notSet, Form::Raw, StyleOfClass},
+    {"BGColor1",            &ItemObj::BGColor1,            notSet, Form::Raw, StyleOfClass},
+    {"BGColor2",            &ItemObj::BGColor2,            "#000080", Form::Raw, StyleOfClass},
+    {"BGColor3",            &ItemObj::BGColor3,            "#408080", Form::Raw, StyleOfClass},
+    {"BGImage1",            &ItemObj::BGImage1,            notSet, Form::Escaped, StyleOfClass, &ItemObj::BGImage1No},
+    {"BGImage2",            &ItemObj::BGImage2,            notSet, Form::Escaped, StyleOfClass, &ItemObj::BGImage2No},
+    {"BGImage3",            &ItemObj::BGImage3,            notSet, Form::Escaped, StyleOfClass, &ItemObj::BGImage3No},
+    {"StatusBarText",       &ItemObj::StatusBarText,       "", Form::Marked},
+    {"JavascriptCommand1",  &ItemObj::JavascriptCommand1,  notSet, Form::Escaped},
+    {"JavascriptCommand2",  &ItemObj::JavascriptCommand2,  notSet, Form::Escaped},
+    {"JavascriptCommand3",  &ItemObj::JavascriptCommand3,  notSet, Form::Escaped},
+    {"URL",                 &ItemObj::URL,                 notSet, Form::Escaped},
+    {"TargetFrame",         &ItemObj::TargetFrame,         notSet, Form::Escaped},
+    {"HasSubmenu",          &ItemObj::HasSubmenu,          0, NoStyle, Form::Flag},
+});
+// clang-format on
+static_assert(itemProperties.size() == 63);
+
+constexpr std::span<const Property<ItemObj>> ItemObj::properties() {
+  return itemProperties;
+}
+
+}  // namespace nimbrel

@@ -1,0 +1,94 @@
+#pragma once
+
+#include <cstddef>
+#include <list>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <utility>
+
+#include "text/short_hash.h"
+
+namespace nimbrel {
+
+/// An ordered collection whose values are reached by key, hashed, and by position. The order is the order of
+/// adding. Values stay where they are in memory until they are removed.
+template <class T>
+class KeyedList {
+ public:
+  using Entry = std::pair<const std::string, T>;
+
+  KeyedList() = default;
+  ~KeyedList() = default;
+  KeyedList(KeyedList&&) noexcept = default;
+  KeyedList& operator=(KeyedList&&) noexcept = default;
+  KeyedList(const KeyedList& other) : entries_(other.entries_) { index(); }
+  KeyedList& operator=(const KeyedList& other) {
+    if (this != &other) *this = KeyedList(other);
+    return *this;
+  }
+
+  std::size_t size() const { return entries_.size(); }
+  bool empty() const { return entries_.empty(); }
+  auto begin() const { return entries_.begin(); }
+  auto end() const { return entries_.end(); }
+  auto begin() { return entries_.begin(); }
+  auto end() { return entries_.end(); }
+
+  /// Throws `std::invalid_argument` where the key is taken.
+  Entry& add(std::string key, T value) {
+    entries_.emplace_back(std::move(key), std::move(value));
+    const auto added = std::prev(entries_.end());
+    if (!byKey_.try_emplace(added->first, added).second) {
+      const auto text = "key " + added->first + " is taken";
+      entries_.pop_back();
+      throw std::invalid_argument(text);
+    }
+    return *added;
+  }
+
+  T* find(std::string_view key) {
+    const auto found = byKey_.find(key);
+    return found == byKey_.end() ? nullptr : &found->second->second;
+  }
+  const T* find(std::string_view key) const {
+    const auto found = byKey_.find(key);
+    return found == byKey_.end() ? nullptr : &found->second->second;
+  }
+
+  /// The value at a position counted from 1, which takes as many steps; none past the last.
+  T* at(std::size_t position) {
+    if (position < 1 || position > entries_.size()) return nullptr;
+    return &std::next(entries_.begin(), static_cast<std::ptrdiff_t>(position - 1))->second;
+  }
+
+  /// A key that is not there is no error.
+  void remove(std::string_view key) {
+    const auto found = byKey_.find(key);
+    if (found == byKey_.end()) return;
+    const auto entry = found->second;
+    byKey_.erase(found);  // ahead of the entry, whose key the index looks at
+    entries_.erase(entry);
+  }
+
+  void clear() {
+    byKey_.clear();
+    entries_.clear();
+  }
+
+ private:
+  void index() {
+    for (auto entry = entries_.begin(); entry != entries_.end(); ++entry) byKey_.emplace(entry->first, entry);
+  }
+
+  struct Hash {
+    std::size_t operator()(std::string_view key) const { return shortHash(key); }
+  };
+
+  std::list<Entry> entries_;
+  std::unordered_map<std::string_view, typename std::list<Entry>::iterator, Hash>
+      byKey_;  // keys lie in entries_
+};
+
+}  // namespace nimbrel

@@ -1,0 +1,95 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+#include <utility>
+#include <variant>
+
+#include "text/shared_text.h"
+
+/// What the property tables of the three element classes are made of.
+///
+/// The same encodings hold in all three: "n" in a text means nothing there (no image, no colour, no script,
+/// no address); a colour is "#" and six capital hexadecimal digits; a font size goes into a style as it
+/// stands ("4mm", "small"); a yes-or-no property is the byte 1 or 0; a list property is a byte, the position
+/// in its list; an image is a file path. Lengths on the page are pixels.
+namespace nimbrel {
+
+/// The text that stands for "not set".
+inline constexpr std::string_view notSet = "n";
+
+/// How a value stands in the property line of a file.
+enum class Form : std::uint8_t {
+  Marked,   ///< between "!" marks, commas escaped
+  Escaped,  ///< commas escaped
+  Raw,      ///< as it stands
+  Number,   ///< in general form
+  Flag,     ///< "1" if not zero, else "0"
+};
+
+/// Which copies of a look a property travels with.
+enum Style : unsigned {
+  NoStyle = 0,
+  StyleOfClass = 1,  ///< with `CopyStyleValuesFromObject`
+  StyleOfMenu = 2,   ///< with `CopyStyleValuesFromMenuObject`
+};
+
+/// Nothing, for the one property that its class's defaults leave alone.
+struct NoDefault {};
+
+/// One stored property of an element class. The table's order is the order in the file.
+template <class E>
+struct Property {
+  using Field = std::variant<SharedText E::*, std::uint8_t E::*, float E::*>;
+  using Initial = std::variant<NoDefault, std::string_view, float>;
+
+  // One constructor a type: a default of the wrong kind does not compile.
+  consteval Property(std::string_view n, SharedText E::*f, std::string_view i, Form form_,
+                     unsigned s = NoStyle, float E::*number = nullptr)
+      : name(n), field(f), initial(i), form(form_), style(s), imageNo(number) {}
+  consteval Property(std::string_view n, std::uint8_t E::*f, int i, unsigned s = NoStyle)
+      : name(n), field(f), initial(static_cast<float>(i)), form(Form::Number), style(s) {}
+  consteval Property(std::string_view n, std::uint8_t E::*f, NoDefault i)
+      : name(n), field(f), initial(i), form(Form::Number), style(NoStyle) {}
+  consteval Property(std::string_view n, float E::*f, int i, unsigned s = NoStyle, Form form_ = Form::Number)
+      : name(n), field(f), initial(static_cast<float>(i)), form(form_), style(s) {}
+
+  constexpr bool isImage() const { return imageNo != nullptr; }
+
+  std::string_view name;
+  Field field;
+  Initial initial;
+  Form form;
+  unsigned style;
+  /// Of an image: where its number in the compiled menu goes. Images in table order are the image slots.
+  float E::*imageNo = nullptr;
+};
+
+/// Calls `f(property, member pointer)` for each stored property, in file order.
+template <class E, class F>
+void eachProperty(F&& f) {
+  for (const Property<E>& property : E::properties()) {
+    std::visit([&](auto field) { f(property, field); }, property.field);
+  }
+}
+
+/// The row of that name, none if the class has none.
+template <class E>
+constexpr const Property<E>* findProperty(std::string_view name) {
+  for (const Property<E>& property : E::properties()) {
+    if (property.name == name) return &property;
+  }
+  return nullptr;
+}
+
+/// Whether two elements of a class agree in all stored properties.
+template <class E>
+bool sameProperties(const E& a, const E& b) {
+  bool same = true;
+  eachProperty<E>([&](const Property<E>&, auto field) { same = same && a.*field == b.*field; });
+  return same;
+}
+
+}  // namespace nimbrel

@@ -1,0 +1,121 @@
+#include "model/structure.h"
+
+#include <limits>
+#include <stdexcept>
+#include <string>
+#include <utility>
+
+namespace nimbrel {
+namespace {
+
+constexpr Message notAnItem{"Cannot create submenu",
+                            "A submenu can descend only from an item, not from a menu or another submenu"};
+constexpr Message hasSubmenu{"Cannot create submenu",
+                             "A submenu already exists for the selected item. You\r"
+                             "may select the existing submenu and add items to it"};
+
+/// The number for a new key; the caller steps the counter once the element stands.
+std::string nextNumber(const Document& document) {
+  if (document.NextKeyNumber == std::numeric_limits<std::int16_t>::max()) {
+    throw std::overflow_error("the document has used up its 32767 key numbers");
+  }
+  return std::to_string(document.NextKeyNumber);
+}
+
+/// Enters element and node together, under one key.
+Node& enter(Document& document, std::string key, Element element, Node* relative, Relationship relationship) {
+  auto text = NodeText(element);
+  Node& node = relative == nullptr ? document.tvTreeView.addRoot(key, std::move(text))
+                                   : document.tvTreeView.add(*relative, relationship, key, std::move(text));
+  document.ElementColl.add(std::move(key), std::move(element));
+  ++document.NextKeyNumber;
+  return node;
+}
+
+/// Dresses a new submenu as the container of its item: a main menu or a submenu.
+void dress(Document& document, SubmenuObj& submenu, const Node* container) {
+  if (container == nullptr) return;
+  if (const auto* menu = document.get<MenuObj>(*container)) {
+    CopyStyleValuesFromMenuObject(submenu, *menu);
+    submenu.TitleCursor = 0;
+  } else if (const auto* parent = document.get<SubmenuObj>(*container)) {
+    CopyStyleValuesFromObject(submenu, *parent);
+  }
+}
+
+/// Dresses a new item as the one ahead of it, else as the one that owns its submenu.
+void dress(Document& document, ItemObj& item, const Node& node) {
+  const Node* like = nullptr;
+  if (const Node* parent = node.Parent()) {
+    if (parent->Children() > 1) {
+      like = node.Previous();
+    } else if (kindOf(parent->Key) == Kind::Submenu) {
+      like = parent->Parent();
+    }
+  }
+  const auto* source = like == nullptr ? nullptr : document.get<ItemObj>(*like);
+  if (source != nullptr) CopyStyleValuesFromObject(item, *source);
+  item.HasSubmenuImage1 = item.HasSubmenuImage2 = item.HasSubmenuImage3 = notSet;
+}
+
+}  // namespace
+
+Node& AddMainMenu(Document& document) {
+  MenuObj menu;
+  SetDefaultValues(menu);
+  return enter(document, "M" + nextNumber(document), std::move(menu), nullptr, Relationship::Child);
+}
+
+const Message* refusalOfSubmenu(const Document& document, std::string_view parentKey) {
+  if (kindOf(parentKey) != Kind::Item) return &notAnItem;
+  const Node* parent = document.tvTreeView.find(parentKey);
+  return parent != nullptr && parent->Child() != nullptr ? &hasSubmenu : nullptr;
+}
+
+Node* AddSubmenu(Document& document, std::string_view parentKey) {
+  Node* parent = document.tvTreeView.find(parentKey);
+  if (parent == nullptr || refusalOfSubmenu(document, parentKey) != nullptr) return nullptr;
+  const auto number = nextNumber(document);
+  SubmenuObj submenu;
+  SetDefaultValues(submenu);
+  submenu.SubmenuName = "Submenu" + number;
+  dress(document, submenu, parent->Parent());
+  return &enter(document, "S" + number, std::move(submenu), parent, Relationship::Child);
+}
+
+Node* AddItem(Document& document, std::string_view selectedKey) {
+  Node* selected = document.tvTreeView.find(selectedKey);
+  if (selected == nullptr) return nullptr;
+  const auto number = nextNumber(document);
+  ItemObj item;
+  SetDefaultValues(item);
+  item.ItemName1 = item.ItemName2 = item.ItemName3 = "Item" + number;
+  const auto relationship = kindOf(selectedKey) == Kind::Item ? Relationship::Next : Relationship::Child;
+  Node& node = enter(document, "I" + number, std::move(item), selected, relationship);
+  dress(document, *document.get<ItemObj>(node), node);
+  return &node;
+}
+
+void RemoveSubtree(Document& document, std::string_view key) {
+  const Node* top = document.tvTreeView.find(key);
+  if (top == nullptr) return;
+  for (const Node* node = top; node != nullptr; node = following(node, top)) {
+    document.ElementColl.remove(node->Key);
+  }
+  document.tvTreeView.remove(key);
+}
+
+void BuildDefaultDocument(Document& document) {
+  document.NextKeyNumber = 0;
+  document.ElementColl.clear();
+  document.tvTreeView.clear();
+  const Node* selected = &AddMainMenu(document);
+  for (int i = 0; i < 3; ++i) {
+    selected = AddItem(document, selected->Key);
+    auto& item = *document.get<ItemObj>(*selected);
+    item.URL = homePage;
+    item.TargetFrame = "new";
+  }
+}
+
+}  // namespace nimbrel

@@ -1,0 +1,149 @@
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <limits>
+
+#include "persistence/menu_file.h"
+#include "persistence/menu_file_layout.h"
+#include "persistence/property_line.h"
+#include "text/numbers.h"
+#include "text/paths.h"
+#include "text/product.h"
+
+namespace nimbrel {
+namespace {
+
+using RecordReader = void (*)(FileHandle&, std::string_view FPath, SubmenuCarryOver&, Element&);
+
+void readCurrentRecord(FileHandle& file, std::string_view FPath, SubmenuCarryOver&, Element& element) {
+  ReadPropertiesFromFile20(file, FPath, element);
+}
+
+/// One version of the menu file: how many of the compile settings its header has, whether "[Menu Tree]" ends
+/// the header, and what reads a record.
+struct Version {
+  std::string_view magic;
+  std::size_t settings;
+  bool hasTreeMark;
+  RecordReader readRecord;
+};
+
+constexpr auto versions = std::to_array<Version>({
+    {"nbr110", 0, false, ReadPropertiesFromFile11},
+    {"nbr120", 0, false, ReadPropertiesFromFile12},
+    {"nbr130", 2, false, ReadPropertiesFromFile12},
+    {currentMagic, compileSettings.size(), true, readCurrentRecord},
+});
+
+void convert(FileHandle&, std::string_view, std::string_view value, std::string& field) {
+  field = value;
+}
+
+void convert(FileHandle& file, std::string_view name, std::string_view value, bool& field) {
+  const auto flag = parseBoolean(value);
+  if (!flag) file.fail(std::string(name) + ": " + quoted(value) + " is neither True nor False");
+  field = *flag;
+}
+
+void convert(FileHandle& file, std::string_view name, std::string_view value, std::int32_t& field) {
+  const auto number = parseInteger(value);
+  if (!number) file.fail(std::string(name) + ": " + quoted(value) + " is not a whole number");
+  field = *number;
+}
+
+void readHeader(FileHandle& file, const Version& version, CompileSettings& settings) {
+  settings = {};
+  if (file.atEnd()) return;  // the magic line alone: a document without nodes
+  for (const CompileSetting& setting : std::span(compileSettings).first(version.settings)) {
+    std::visit([&](auto field) { convert(file, setting.name, file.next(), settings.*field); }, setting.field);
+  }
+  // A later version's header may have more lines.
+  while (version.hasTreeMark && file.next() != treeMark) continue;
+}
+
+std::int16_t numberOf(FileHandle& file, std::string_view key) {
+  std::int16_t number = -1;
+  const auto digits = key.substr(std::min<std::size_t>(key.size(), 1));
+  const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
+  if (error != std::errc{} || end != digits.data() + digits.size() || number < 0 || digits.front() == '-') {
+    file.fail("key " + quoted(key) + " is not a letter and a number up to 32767");
+  }
+  return number;
+}
+
+Node* parentOf(FileHandle& file, Document& document, std::string_view parentKey) {
+  if (parentKey == rootParent) return nullptr;
+  Node* parent = document.tvTreeView.find(parentKey);
+  if (parent == nullptr) file.fail("parent " + quoted(parentKey) + " is not in the tree");
+  return parent;
+}
+
+/// Reads one node and its element, which enter the document together or not at all.
+void readNode(FileHandle& file, const Version& version, std::string_view folder, SubmenuCarryOver& carryOver,
+              Document& document) {
+  file.beginRecord();
+  const auto parentKey = file.next();
+  auto text = unmarked(file, "text of the node", file.next());
+  const std::string key(file.next());
+  const auto number = numberOf(file, key);
+  Node* parent = parentOf(file, document, parentKey);
+  if (document.tvTreeView.find(key) != nullptr) file.fail("key " + quoted(key) + " is in the file twice");
+
+  auto element = newElement(kindOf(key));
+  if (element) {
+    version.readRecord(file, folder, carryOver, *element);
+    document.ElementColl.add(key, std::move(*element));
+  } else {
+    file.note("key " + quoted(key) + " is of no known kind: a node without an element");
+  }
+  document.NextKeyNumber = std::max(document.NextKeyNumber, number);
+  if (parent == nullptr) {
+    document.tvTreeView.addRoot(key, std::move(text));
+  } else {
+    document.tvTreeView.add(*parent, Relationship::Child, key, std::move(text));
+  }
+}
+
+/// Makes the counter greater than every number in use, as far as it goes.
+void stepCounter(Document& document) {
+  if (document.NextKeyNumber < std::numeric_limits<std::int16_t>::max()) ++document.NextKeyNumber;
+}
+
+void clear(Document& document) {
+  document.NextKeyNumber = 0;
+  document.ElementColl.clear();
+  document.tvTreeView.clear();
+}
+
+}  // namespace
+
+NotAMenuFile::NotAMenuFile(std::string path)
+    : FileError(std::move(path), "This file is not a valid " + std::string(productTitle) + " file") {}
+
+void readMenuFile(std::string_view bytes, const std::string& path, std::string_view folder,
+                  SubmenuCarryOver& carryOver, Document& document, Findings& notes) {
+  clear(document);
+  FileHandle file(path, bytes, notes);
+  const auto magic = file.atEnd() ? std::string_view{} : file.next();
+  const auto version = std::ranges::find(versions, magic, &Version::magic);
+  if (version == versions.end()) throw NotAMenuFile(path);
+
+  readHeader(file, *version, document.settings);
+  try {
+    while (!file.atEnd()) readNode(file, *version, folder, carryOver, document);
+  } catch (const FileError&) {
+    stepCounter(document);  // what was read can be worked on: its keys are taken
+    throw;
+  }
+  stepCounter(document);
+}
+
+void LoadMenuFile(const FileSystem& files, std::string_view folder, std::string_view fileName,
+                  SubmenuCarryOver& carryOver, Document& document, Findings& notes) {
+  clear(document);
+  const auto path = joinPath(folder, fileName);
+  const auto bytes = files.read(path);
+  readMenuFile(bytes, path, folder, carryOver, document, notes);
+}
+
+}  // namespace nimbrel

@@ -1,0 +1,53 @@
+#include "persistence/menu_file.h"
+#include "persistence/menu_file_layout.h"
+#include "persistence/property_line.h"
+#include "text/numbers.h"
+
+namespace nimbrel {
+namespace {
+
+constexpr std::string_view lineEnd = "\r\n";
+
+std::string lineOf(const std::string& value) {
+  return value;
+}
+std::string lineOf(bool value) {
+  return value ? "True" : "False";
+}
+std::string lineOf(std::int32_t value) {
+  return printedForm(value);
+}
+
+void WriteNode(std::string& out, const Document& document, const Node& node) {
+  out.append(node.Parent() == nullptr ? printedForm(0) : node.Parent()->Key).append(lineEnd);
+  appendMarked(out, node.Text);
+  out.append(lineEnd).append(node.Key).append(lineEnd);
+  // A foreign node without an element is written as it was read, without a property line.
+  if (const Element* element = document.element(node)) {
+    appendParameterString(out, *element);
+    out += lineEnd;
+  }
+}
+
+}  // namespace
+
+std::string menuFileText(const Document& document) {
+  std::string out(currentMagic);
+  out += lineEnd;
+  for (const CompileSetting& setting : compileSettings) {
+    std::visit([&](auto field) { out.append(lineOf(document.settings.*field)).append(lineEnd); },
+               setting.field);
+  }
+  out.append(treeMark).append(lineEnd);
+  // kept: a second root, which only a foreign file brings, is not written.
+  const Node* root = document.tvTreeView.root();
+  for (const Node* node = root; node != nullptr; node = following(node, root))
+    WriteNode(out, document, *node);
+  return out;
+}
+
+void SaveMenuFile(FileSystem& files, std::string_view path, const Document& document) {
+  files.replace(path, menuFileText(document));
+}
+
+}  // namespace nimbrel
