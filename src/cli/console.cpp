@@ -8,13 +8,9 @@
 
 namespace nimbrel {
 
-void Console::printText(std::string_view oneByteText) const {
-  out_ << toUtf8(oneByteText) << '\n';
-}
+void Console::printText(std::string_view oneByteText) const { out_ << toUtf8(oneByteText) << '\n'; }
 
-void Console::printPath(std::string_view documentPath) const {
-  out_ << toHostPath(documentPath) << '\n';
-}
+void Console::printPath(std::string_view documentPath) const { out_ << toHostPath(documentPath) << '\n'; }
 
 void Console::fault(const Finding& finding) const {
   err_ << "nbrc: " << toHostPath(finding.path) << ": " << toUtf8(finding.text()) << '\n';

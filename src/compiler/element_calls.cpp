@@ -5,17 +5,20 @@
 #include <utility>
 #include <vector>
 
+#include "text/ascii.h"
 #include "text/numbers.h"
 
 namespace nimbrel {
 namespace {
 
-/// One call in the making: a prefix, arguments, the end.
+/// One call in the making: its arguments, then the end, are appended to a script that ends in an open
+/// parenthesis.
 class Call {
  public:
-  explicit Call(std::string prefix) : text_(std::move(prefix)) {}
-
-  std::string finished() && { return std::move(text_) + ");"; }
+  explicit Call(std::string& script) : script_(script) {}
+  Call(const Call&) = delete;
+  Call& operator=(const Call&) = delete;
+  ~Call() { script_ += ");"; }
 
   void number(std::uint8_t value) { appendGeneral(next(), value); }
   void number(float value) { appendGeneral(next(), value); }
@@ -41,9 +44,12 @@ class Call {
   }
 
   void name(std::string_view value) {
-    std::string escaped;
-    appendEscaped(escaped, value);
-    next().append(1, '"').append(EscapeEdgeSpaces(escaped)).append(1, '"');
+    const bool hasEdge = value.starts_with(' ') || value.ends_with(' ');
+    if (hasEdge) {
+      text(EscapeEdgeSpaces(value));
+    } else {
+      text(value);
+    }
   }
 
   /// Code of the author's, whose double quotes become single ones.
@@ -71,11 +77,11 @@ class Call {
   }
 
   std::string& next() {
-    if (std::exchange(hasArguments_, true)) text_ += ',';
-    return text_;
+    if (std::exchange(hasArguments_, true)) script_ += ',';
+    return script_;
   }
 
-  std::string text_;
+  std::string& script_;
   bool hasArguments_ = false;
 };
 
@@ -137,22 +143,20 @@ void itemName(Call& call, const ItemObj& item, std::uint8_t display, const Share
   }
 }
 
-void append(std::string& script, std::string_view line) {
-  script.append("\r\n").append(line);
-}
+void append(std::string& script, std::string_view line) { script.append("\r\n").append(line); }
 
 void appendCall(const Document& document, const Node& node, int level, std::string& script) {
   const Element* element = document.element(node);
   if (element == nullptr) return;
-  append(script,
-         std::visit([level](const auto& object) { return JavascriptInitString(object, level); }, *element));
+  script += lineEnd;
+  std::visit([&](const auto& object) { JavascriptInitString(object, level, script); }, *element);
 }
 
 /// A container at level 0 that is not the root of the tree stands as a main menu.
 void appendFirstCall(const Document& document, const Node& container, std::string& script) {
   const auto* submenu = std::get_if<SubmenuObj>(document.element(container));
   if (submenu != nullptr && container.Key != document.tvTreeView.root()->Key) {
-    append(script, JavascriptInitStringMimicMenu(*submenu));
+    JavascriptInitStringMimicMenu(*submenu, script += lineEnd);
   } else {
     appendCall(document, container, 0, script);
   }
@@ -179,8 +183,8 @@ std::string EscapeEdgeSpaces(std::string_view text) {
   return repeated(leading) + inner;
 }
 
-std::string JavascriptInitString(const MenuObj& menu, int) {
-  Call call("var s0=nbrCreateMenu(");
+void JavascriptInitString(const MenuObj& menu, int, std::string& script) {
+  Call call(script += "var s0=nbrCreateMenu(");
   call.number(menu.Collapsable);
   call.constant("0,0");
   call.number(menu.MenuHow);
@@ -196,11 +200,10 @@ std::string JavascriptInitString(const MenuObj& menu, int) {
   titleText(call, menu, menu.menuname);
   titleImage(call, menu, menu.TitleImageNo != 0);
   items(call, menu, menu.MenuType);
-  return std::move(call).finished();
 }
 
-std::string JavascriptInitString(const SubmenuObj& submenu, int submenuLevel) {
-  Call call("var s" + std::to_string(submenuLevel) + "=it.addSubmenu(");
+void JavascriptInitString(const SubmenuObj& submenu, int submenuLevel, std::string& script) {
+  Call call(script += "var s" + std::to_string(submenuLevel) + "=it.addSubmenu(");
   call.number(submenu.SubmenuType);
   call.number(submenu.SubmenuWhen);
   call.number(submenu.SubmenuWhere);
@@ -211,11 +214,10 @@ std::string JavascriptInitString(const SubmenuObj& submenu, int submenuLevel) {
   titleText(call, submenu, submenu.SubmenuName);
   titleImage(call, submenu, submenu.TitleImageNo != 0);
   items(call, submenu, submenu.SubmenuType);
-  return std::move(call).finished();
 }
 
-std::string JavascriptInitStringMimicMenu(const SubmenuObj& submenu) {
-  Call call("var s0=nbrCreateMenu(");
+void JavascriptInitStringMimicMenu(const SubmenuObj& submenu, std::string& script) {
+  Call call(script += "var s0=nbrCreateMenu(");
   call.constant("1");
   call.number(submenu.SubmenuWhen);
   call.number(submenu.SubmenuWhere);
@@ -228,16 +230,16 @@ std::string JavascriptInitStringMimicMenu(const SubmenuObj& submenu) {
   // kept: this form asks for the property, so that a title image whose file is missing has the number -1.
   titleImage(call, submenu, submenu.TitleImage != notSet);
   items(call, submenu, submenu.SubmenuType);
-  return std::move(call).finished();
 }
 
-std::string JavascriptInitString(const ItemObj& item, int submenuLevel) {
+void JavascriptInitString(const ItemObj& item, int submenuLevel, std::string& script) {
   // Whether the item has pictures is asked of the properties: one whose file is missing counts.
   const bool withImages =
       std::ranges::any_of(std::array{&item.ItemImage1, &item.ItemImage2, &item.ItemImage3,
                                      &item.HasSubmenuImage1, &item.HasSubmenuImage2, &item.HasSubmenuImage3},
                           [](const SharedText* image) { return *image != notSet; });
-  Call call("it=s" + std::to_string(submenuLevel) + (withImages ? ".addItemWithImages(" : ".addItem("));
+  script.append("it=s").append(std::to_string(submenuLevel));
+  Call call(script += withImages ? ".addItemWithImages(" : ".addItem(");
   call.id(item.ItemStyleID1);
   call.id(item.ItemStyleID2);
   call.id(item.ItemStyleID3);
@@ -263,13 +265,12 @@ std::string JavascriptInitString(const ItemObj& item, int submenuLevel) {
   call.command(item.JavascriptCommand3);
   call.plain(item.URL);
   call.plain(item.TargetFrame);
-  return std::move(call).finished();
 }
 
 void CollectElementStrings(const Document& document, const Node& container, bool includeSubmenus,
                            std::string_view behindContainer, std::string& script) {
   appendFirstCall(document, container, script);
-  if (!behindContainer.empty()) append(script, behindContainer);
+  if (!behindContainer.empty()) script.append(lineEnd).append(behindContainer);
 
   // The next item of each menu that the walk is in; a menu's level is its place here.
   std::vector<const Node*> nextItems{container.Child()};

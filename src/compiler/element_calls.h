@@ -9,13 +9,13 @@
 /// the elements. A text goes through whatever it holds: what it does to the script is the author's matter.
 namespace nimbrel {
 
-/// The level is the nesting depth of the menu: of the container itself, or of the one that the item is in.
-std::string JavascriptInitString(const MenuObj& element, int submenuLevel);
-std::string JavascriptInitString(const SubmenuObj& element, int submenuLevel);
-std::string JavascriptInitString(const ItemObj& element, int submenuLevel);
+/// Each appends a call, without a line end. The level is the nesting depth of the menu: of the container itself, or of the one that the item is in.
+void JavascriptInitString(const MenuObj& element, int submenuLevel, std::string& script);
+void JavascriptInitString(const SubmenuObj& element, int submenuLevel, std::string& script);
+void JavascriptInitString(const ItemObj& element, int submenuLevel, std::string& script);
 
 /// A submenu as a main menu of its own, for the cross-frame submenus file.
-std::string JavascriptInitStringMimicMenu(const SubmenuObj& element);
+void JavascriptInitStringMimicMenu(const SubmenuObj& element, std::string& script);
 
 /// Makes the blanks at the edges of a name survive in HTML.
 std::string EscapeEdgeSpaces(std::string_view text);

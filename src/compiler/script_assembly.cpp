@@ -3,6 +3,7 @@
 #include "compiler/element_calls.h"
 #include "compiler/image_collection.h"
 #include "compiler/style_strings.h"
+#include "text/ascii.h"
 #include "text/numbers.h"
 #include "text/paths.h"
 #include "text/product.h"
@@ -10,7 +11,6 @@
 namespace nimbrel {
 namespace {
 
-constexpr std::string_view lineEnd = "\r\n";
 constexpr std::string_view dot = "dot.gif";
 constexpr std::string_view markerImage = "nbrmenupath.gif";
 
@@ -22,9 +22,7 @@ constexpr std::string_view runtimeChoice =
     "var nua=navigator.userAgent,scriptNo=(nua.indexOf('Gecko')>-1)?2:((document.layers)?3:"
     "((nua.indexOf('Opera')>-1)?4:((nua.indexOf('Mac')>-1)?5:1)));";
 
-void append(std::string& script, std::string_view line) {
-  script.append(lineEnd).append(line);
-}
+void append(std::string& script, std::string_view line) { script.append(lineEnd).append(line); }
 
 std::string optimizeLine(const CompileSettings& settings) {
   return settings.nbrOptimize ? "var nbrOptimize=1;" : "var nbrOptimize=0;";

@@ -65,9 +65,8 @@ void appendFont(std::string& call, const Look& look) {
 }
 
 /// kept: no semicolon behind the call of a title or an item; the line end ends it.
-std::string contentCall(char marker, const Look& look) {
-  std::string call = "nbrCreateCSS(";
-  call.append(1, marker).append(",2,");
+void appendContent(std::string& call, char marker, const Look& look) {
+  call.append("nbrCreateCSS(").append(1, marker).append(",2,");
   appendGeneral(call, look.alignment);
   call += ',';
   appendColor(call, look.fontColor);
@@ -83,61 +82,56 @@ std::string contentCall(char marker, const Look& look) {
   appendGeneral(call, look.padding);
   call += ',';
   appendGeneral(call, look.cursor);
-  return call += ')';
+  call += ')';
 }
 
 template <class Container>
-std::string titleCall(const Container& c) {
-  if (c.DisplayNameAsTitle == 0 && c.TitleImage == notSet) return {};
+void appendTitle(std::string& call, const Container& c) {
+  if (c.DisplayNameAsTitle == 0 && c.TitleImage == notSet) return;
   constexpr float noImage = 0;
-  return contentCall(
-      '1', {c.TitleTextAlignment, c.TitleFontColor, c.TitleBGColor, noImage, c.TitleFontBold,
-            c.TitleFontItalic, c.TitleFontUnderlined, c.TitleFontSize, c.TitleFontFamily, c.TitleBorderStyle,
-            c.TitleBorderWidth, c.TitleBorderColor, c.TitlePadding, c.TitleCursor});
+  appendContent(call, '1',
+                {c.TitleTextAlignment, c.TitleFontColor, c.TitleBGColor, noImage, c.TitleFontBold,
+                 c.TitleFontItalic, c.TitleFontUnderlined, c.TitleFontSize, c.TitleFontFamily,
+                 c.TitleBorderStyle, c.TitleBorderWidth, c.TitleBorderColor, c.TitlePadding, c.TitleCursor});
 }
 
 template <class Container>
-std::string containerCall(const Container& c) {
-  std::string call = "nbrCreateCSS(0,1,0,n,";
+void appendContainer(std::string& call, const Container& c) {
+  call += "nbrCreateCSS(0,1,0,n,";
   appendColor(call, c.BGColor);
   call += ',';
   appendImage(call, c.BGImageNo);
   call += ",n,n,";
   appendBorder(call, c.BorderStyle, c.BorderWidth, c.BorderColor);
-  return call += ",0,0);";
+  call += ",0,0);";
 }
 
 }  // namespace
 
-std::string TitleStyleString(const MenuObj& element) {
-  return titleCall(element);
-}
-std::string TitleStyleString(const SubmenuObj& element) {
-  return titleCall(element);
-}
-std::string ContainerStyleString(const MenuObj& element) {
-  return containerCall(element);
-}
-std::string ContainerStyleString(const SubmenuObj& element) {
-  return containerCall(element);
+void TitleStyleString(const MenuObj& element, std::string& call) { appendTitle(call, element); }
+void TitleStyleString(const SubmenuObj& element, std::string& call) { appendTitle(call, element); }
+void ContainerStyleString(const MenuObj& element, std::string& call) { appendContainer(call, element); }
+void ContainerStyleString(const SubmenuObj& element, std::string& call) { appendContainer(call, element); }
+
+void ItemStyleString1(const ItemObj& i, std::string& call) {
+  appendContent(call, '1',
+                {i.ItemAlignment1, i.FontColor1, i.BGColor1, i.BGImage1No, i.FontBold1, i.FontItalic1,
+                 i.FontUnderlined1, i.FontSize1, i.FontFamily1, i.BorderStyle1, i.BorderWidth1,
+                 i.BorderColor1, i.ItemPadding1, i.ItemCursor});
 }
 
-std::string ItemStyleString1(const ItemObj& i) {
-  return contentCall('1', {i.ItemAlignment1, i.FontColor1, i.BGColor1, i.BGImage1No, i.FontBold1,
-                           i.FontItalic1, i.FontUnderlined1, i.FontSize1, i.FontFamily1, i.BorderStyle1,
-                           i.BorderWidth1, i.BorderColor1, i.ItemPadding1, i.ItemCursor});
+void ItemStyleString2(const ItemObj& i, std::string& call) {
+  appendContent(call, '0',
+                {i.ItemAlignment2, i.FontColor2, i.BGColor2, i.BGImage2No, i.FontBold2, i.FontItalic2,
+                 i.FontUnderlined2, i.FontSize2, i.FontFamily2, i.BorderStyle2, i.BorderWidth2,
+                 i.BorderColor2, i.ItemPadding2, i.ItemCursor});
 }
 
-std::string ItemStyleString2(const ItemObj& i) {
-  return contentCall('0', {i.ItemAlignment2, i.FontColor2, i.BGColor2, i.BGImage2No, i.FontBold2,
-                           i.FontItalic2, i.FontUnderlined2, i.FontSize2, i.FontFamily2, i.BorderStyle2,
-                           i.BorderWidth2, i.BorderColor2, i.ItemPadding2, i.ItemCursor});
-}
-
-std::string ItemStyleString3(const ItemObj& i) {
-  return contentCall('0', {i.ItemAlignment3, i.FontColor3, i.BGColor3, i.BGImage3No, i.FontBold3,
-                           i.FontItalic3, i.FontUnderlined3, i.FontSize3, i.FontFamily3, i.BorderStyle3,
-                           i.BorderWidth3, i.BorderColor3, i.ItemPadding3, i.ItemCursor});
+void ItemStyleString3(const ItemObj& i, std::string& call) {
+  appendContent(call, '0',
+                {i.ItemAlignment3, i.FontColor3, i.BGColor3, i.BGImage3No, i.FontBold3, i.FontItalic3,
+                 i.FontUnderlined3, i.FontSize3, i.FontFamily3, i.BorderStyle3, i.BorderWidth3,
+                 i.BorderColor3, i.ItemPadding3, i.ItemCursor});
 }
 
 SharedText StyleCollection::GetStyleID(std::string_view styleString) {
@@ -150,25 +144,29 @@ SharedText StyleCollection::GetStyleID(std::string_view styleString) {
 }
 
 void StyleCollection::CollectStyles(Document& document, const Node& container, bool includeSubmenus) {
-  const auto number = [this](auto& element) {
-    using E = std::remove_reference_t<decltype(element)>;
-    if constexpr (std::is_same_v<E, ItemObj>) {
-      element.ItemStyleID1 = GetStyleID(ItemStyleString1(element));
-      element.ItemStyleID2 = GetStyleID(ItemStyleString2(element));
-      element.ItemStyleID3 = GetStyleID(ItemStyleString3(element));
-    } else {
-      element.TitleStyleID = GetStyleID(TitleStyleString(element));
-      element.ContainerStyleID = GetStyleID(ContainerStyleString(element));
-    }
+  std::string call;  // one buffer for them all
+  const auto numberOf = [&]<class E>(const E& element, void (*styleString)(const E&, std::string&)) {
+    call.clear();
+    styleString(element, call);
+    return GetStyleID(call);
+  };
+  const auto numberContainer = [&](auto& container_) {
+    container_.TitleStyleID = numberOf(container_, TitleStyleString);
+    container_.ContainerStyleID = numberOf(container_, ContainerStyleString);
   };
   std::vector<const Node*> waiting{&container};
   while (!waiting.empty()) {
     const Node* node = waiting.back();
     waiting.pop_back();
-    if (auto* menu = document.get<MenuObj>(*node)) number(*menu);
-    if (auto* submenu = document.get<SubmenuObj>(*node)) number(*submenu);
+    Element* element = document.element(*node);
+    if (auto* menu = std::get_if<MenuObj>(element)) numberContainer(*menu);
+    if (auto* submenu = std::get_if<SubmenuObj>(element)) numberContainer(*submenu);
     for (const Node* child = node->Child(); child != nullptr; child = child->Next()) {
-      if (auto* item = document.get<ItemObj>(*child)) number(*item);
+      auto* item = document.get<ItemObj>(*child);
+      if (item == nullptr) continue;
+      item->ItemStyleID1 = numberOf(*item, ItemStyleString1);
+      item->ItemStyleID2 = numberOf(*item, ItemStyleString2);
+      item->ItemStyleID3 = numberOf(*item, ItemStyleString3);
     }
     if (!includeSubmenus || node->Child() == nullptr) continue;
     // The last one first, since the waiting are taken from the end.

@@ -11,14 +11,14 @@
 /// the elements before their style strings are made.
 namespace nimbrel {
 
-/// Empty where the element has no title: neither a name nor an image is shown.
-std::string TitleStyleString(const MenuObj& element);
-std::string TitleStyleString(const SubmenuObj& element);
-std::string ContainerStyleString(const MenuObj& element);
-std::string ContainerStyleString(const SubmenuObj& element);
-std::string ItemStyleString1(const ItemObj& element);
-std::string ItemStyleString2(const ItemObj& element);
-std::string ItemStyleString3(const ItemObj& element);
+/// Each appends a call, without a line end. A title's is empty where the element has none: neither a name nor an image is shown.
+void TitleStyleString(const MenuObj& element, std::string& call);
+void TitleStyleString(const SubmenuObj& element, std::string& call);
+void ContainerStyleString(const MenuObj& element, std::string& call);
+void ContainerStyleString(const SubmenuObj& element, std::string& call);
+void ItemStyleString1(const ItemObj& element, std::string& call);
+void ItemStyleString2(const ItemObj& element, std::string& call);
+void ItemStyleString3(const ItemObj& element, std::string& call);
 
 /// The distinct style calls of one script, in the order of their first use. A call's number is its position,
 /// from 0, and the runtime counts the calls the same way.

@@ -39,15 +39,26 @@ std::string endMarker(std::string_view menu) {
 std::string BuildLinkSnippet(const LinkNames& names, std::string_view altUrl) {
   // kept: `nbrAltUrl` stands behind a semicolon, so it is assigned and not declared as the two ahead of it.
   std::string lines = joined({
-      "\r\n<img name='nbrMenuPathImg-", names.menu, "' id='nbrMenuPathImg-", names.menu, "' src='",
-      names.folder, "/nbrmenupath.gif' alt=''>\r\n",
-      "<script type='text/javascript'>var MenuLinkedBy='Nimbrel [2]', nbrBN='", productBuild,
-      "'; nbrAltUrl='", altUrl, "';</script>\r\n",
-      "<script src='", names.relativePath, "' language='JavaScript1.2' type='text/javascript'></script>\r\n",
+      "\r\n<img name='nbrMenuPathImg-",
+      names.menu,
+      "' id='nbrMenuPathImg-",
+      names.menu,
+      "' src='",
+      names.folder,
+      "/nbrmenupath.gif' alt=''>\r\n",
+      "<script type='text/javascript'>var MenuLinkedBy='Nimbrel [2]', nbrBN='",
+      productBuild,
+      "'; nbrAltUrl='",
+      altUrl,
+      "';</script>\r\n",
+      "<script src='",
+      names.relativePath,
+      "' language='JavaScript1.2' type='text/javascript'></script>\r\n",
       "<script type='text/javascript'>nbrBuildMenu();</script>\r\n",
   });
   if (!altUrl.empty()) {
-    lines += joined({"<noscript><meta http-equiv=\"refresh\" content=\"1; url=", altUrl, "\"></noscript>\r\n"});
+    lines +=
+        joined({"<noscript><meta http-equiv=\"refresh\" content=\"1; url=", altUrl, "\"></noscript>\r\n"});
   }
   return lines;
 }

@@ -1,6 +1,6 @@
 #include "linking/page_text.h"
 
-#include <utility>
+#include <algorithm>
 
 #include "text/ascii.h"
 
@@ -32,7 +32,9 @@ bool hasCrLfAlone(std::string_view bytes) {
 class Probe {
  public:
   Probe(std::string_view wanted, std::size_t offset)
-      : offset_(offset), low_(toLower(wanted[offset])), caseBit_(low_ >= 'a' && low_ <= 'z' ? 'a' ^ 'A' : 0) {}
+      : offset_(offset),
+        low_(toLower(wanted[offset])),
+        caseBit_(low_ >= 'a' && low_ <= 'z' ? 'a' ^ 'A' : 0) {}
 
   unsigned char matches(const char* start) const { return (start[offset_] | caseBit_) == low_; }
 
@@ -77,7 +79,7 @@ std::string withCrLf(std::string bytes) {
   while (cr != npos || lf != npos) {
     const std::size_t end = std::min(cr, lf);
     result.append(bytes, done, end - done) += "\r\n";
-    done = end + (lf == cr + 1 ? 2 : 1);
+    done = end + (end == cr && lf == cr + 1 ? 2 : 1);
     // Each is looked for anew only when it has been passed, so that all is read once.
     if (cr < done) cr = bytes.find('\r', done);
     if (lf < done) lf = bytes.find('\n', done);
@@ -87,17 +89,18 @@ std::string withCrLf(std::string bytes) {
 
 std::size_t findIgnoringCase(std::string_view text, std::string_view wanted, std::size_t from) {
   if (wanted.size() > text.size()) return std::string_view::npos;
-  const std::size_t end = text.size() - wanted.size() + 1;
   const Probes probes(wanted);
-  std::size_t blockEnd = from;
-  for (std::size_t start = from; start < end; ++start) {
-    while (start == blockEnd && end - start >= blockSize) {
-      blockEnd += blockSize;
-      if (!probes.matchInBlock(text.data() + start)) start = blockEnd;
-    }
-    if (start < end && probes.match(text.data() + start) != 0 &&
-        equalIgnoringCase(text.substr(start, wanted.size()), wanted)) {
-      return start;
+  const std::size_t end = text.size() - wanted.size() + 1;
+  std::size_t start = from;
+  while (start < end) {
+    const std::size_t blockEnd = start + std::min(blockSize, end - start);
+    const bool isWhole = blockEnd - start == blockSize;
+    if (isWhole && !probes.matchInBlock(text.data() + start)) start = blockEnd;
+    for (; start < blockEnd; ++start) {
+      if (probes.match(text.data() + start) != 0 &&
+          equalIgnoringCase(text.substr(start, wanted.size()), wanted)) {
+        return start;
+      }
     }
   }
   return std::string_view::npos;

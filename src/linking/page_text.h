@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace nimbrel {
 
@@ -24,7 +25,9 @@ class PageText {
   std::size_t find(std::string_view wanted, std::size_t from = 0) const {
     return findIgnoringCase(text_, wanted, from);
   }
-  bool hasLineEndAt(std::size_t place) const { return std::string_view(text_).substr(place).starts_with("\r\n"); }
+  bool hasLineEndAt(std::size_t place) const {
+    return std::string_view(text_).substr(place).starts_with("\r\n");
+  }
 
   /// Takes out what stands from `begin` up to `end`.
   void remove(std::size_t begin, std::size_t end) { text_.erase(begin, end - begin); }

@@ -42,8 +42,6 @@ std::string_view PathFolder(std::string_view path) {
   return slash == std::string_view::npos ? std::string_view{} : path.substr(0, slash);
 }
 
-std::string_view PathFileName(std::string_view path) {
-  return path.substr(path.rfind('/') + 1);
-}
+std::string_view PathFileName(std::string_view path) { return path.substr(path.rfind('/') + 1); }
 
 }  // namespace nimbrel

@@ -81,18 +81,12 @@ std::optional<Element> newElement(Kind kind) {
   return std::nullopt;
 }
 
-void SetDefaultValues(MenuObj& element) {
-  setDefaults(element);
-}
+void SetDefaultValues(MenuObj& element) { setDefaults(element); }
 
 // kept: the zero meant for `SubmenuType` goes to `SubmenuName`, which ends as "0"; the type stays as it was.
-void SetDefaultValues(SubmenuObj& element) {
-  setDefaults(element);
-}
+void SetDefaultValues(SubmenuObj& element) { setDefaults(element); }
 
-void SetDefaultValues(ItemObj& element) {
-  setDefaults(element);
-}
+void SetDefaultValues(ItemObj& element) { setDefaults(element); }
 
 MenuObj clone(const MenuObj& element) {
   MenuObj copy = copyOfProperties(element);
@@ -102,9 +96,7 @@ MenuObj clone(const MenuObj& element) {
   return copy;
 }
 
-SubmenuObj clone(const SubmenuObj& element) {
-  return copyOfProperties(element);
-}
+SubmenuObj clone(const SubmenuObj& element) { return copyOfProperties(element); }
 
 ItemObj clone(const ItemObj& element) {
   ItemObj copy = copyOfProperties(element);

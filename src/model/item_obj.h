@@ -163,8 +163,6 @@ inline constexpr auto itemProperties = std::to_array<Property<ItemObj>>({
 // clang-format on
 static_assert(itemProperties.size() == 63);
 
-constexpr std::span<const Property<ItemObj>> ItemObj::properties() {
-  return itemProperties;
-}
+constexpr std::span<const Property<ItemObj>> ItemObj::properties() { return itemProperties; }
 
 }  // namespace nimbrel

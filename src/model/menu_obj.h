@@ -107,8 +107,6 @@ inline constexpr auto menuProperties = std::to_array<Property<MenuObj>>({
 // clang-format on
 static_assert(menuProperties.size() == 39);
 
-constexpr std::span<const Property<MenuObj>> MenuObj::properties() {
-  return menuProperties;
-}
+constexpr std::span<const Property<MenuObj>> MenuObj::properties() { return menuProperties; }
 
 }  // namespace nimbrel

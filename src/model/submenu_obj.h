@@ -99,8 +99,6 @@ inline constexpr auto submenuProperties = std::to_array<Property<SubmenuObj>>({
 // clang-format on
 static_assert(submenuProperties.size() == 35);
 
-constexpr std::span<const Property<SubmenuObj>> SubmenuObj::properties() {
-  return submenuProperties;
-}
+constexpr std::span<const Property<SubmenuObj>> SubmenuObj::properties() { return submenuProperties; }
 
 }  // namespace nimbrel

@@ -61,13 +61,9 @@ Tree& Tree::operator=(Tree&& other) noexcept {
   return *this;
 }
 
-Node* Tree::find(std::string_view key) {
-  return nodes_.find(key);
-}
+Node* Tree::find(std::string_view key) { return nodes_.find(key); }
 
-const Node* Tree::find(std::string_view key) const {
-  return nodes_.find(key);
-}
+const Node* Tree::find(std::string_view key) const { return nodes_.find(key); }
 
 Node& Tree::create(std::string key, SharedText text) {
   Node node;

@@ -5,9 +5,10 @@
 namespace nimbrel {
 
 std::string_view FileHandle::next() {
-  const auto value = values_.next();
-  if (!value) fail(record_ == 0 ? "the file ends inside its header" : "the file ends inside a record");
-  return *value;
+  std::string_view value;
+  if (!values_.next(value))
+    fail(record_ == 0 ? "the file ends inside its header" : "the file ends inside a record");
+  return value;
 }
 
 const SharedText& FileHandle::shared(std::string_view text) {
@@ -16,13 +17,9 @@ const SharedText& FileHandle::shared(std::string_view text) {
   return recent;
 }
 
-void FileHandle::fail(const std::string& reason) const {
-  throw FileError(finding(reason));
-}
+void FileHandle::fail(const std::string& reason) const { throw FileError(finding(reason)); }
 
-void FileHandle::note(const std::string& reason) {
-  notes_.push_back(finding(reason));
-}
+void FileHandle::note(const std::string& reason) { notes_.push_back(finding(reason)); }
 
 std::string quoted(std::string_view value) {
   constexpr std::size_t longest = 40;

@@ -2,6 +2,7 @@
 #include <array>
 #include <charconv>
 #include <limits>
+#include <stdexcept>
 
 #include "persistence/menu_file.h"
 #include "persistence/menu_file_layout.h"
@@ -35,9 +36,7 @@ constexpr auto versions = std::to_array<Version>({
     {currentMagic, compileSettings.size(), true, readCurrentRecord},
 });
 
-void convert(FileHandle&, std::string_view, std::string_view value, std::string& field) {
-  field = value;
-}
+void convert(FileHandle&, std::string_view, std::string_view value, std::string& field) { field = value; }
 
 void convert(FileHandle& file, std::string_view name, std::string_view value, bool& field) {
   const auto flag = parseBoolean(value);
@@ -61,48 +60,70 @@ void readHeader(FileHandle& file, const Version& version, CompileSettings& setti
   while (version.hasTreeMark && file.next() != treeMark) continue;
 }
 
-std::int16_t numberOf(FileHandle& file, std::string_view key) {
-  std::int16_t number = -1;
-  const auto digits = key.substr(std::min<std::size_t>(key.size(), 1));
-  const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
-  if (error != std::errc{} || end != digits.data() + digits.size() || number < 0 || digits.front() == '-') {
-    file.fail("key " + quoted(key) + " is not a letter and a number up to 32767");
-  }
-  return number;
-}
+/// Reads the node records of one file.
+class NodeReader {
+ public:
+  NodeReader(FileHandle& file, const Version& version, std::string_view folder, SubmenuCarryOver& carryOver,
+             Document& document)
+      : file_(file), version_(version), folder_(folder), carryOver_(carryOver), document_(document) {}
 
-Node* parentOf(FileHandle& file, Document& document, std::string_view parentKey) {
-  if (parentKey == rootParent) return nullptr;
-  Node* parent = document.tvTreeView.find(parentKey);
-  if (parent == nullptr) file.fail("parent " + quoted(parentKey) + " is not in the tree");
-  return parent;
-}
-
-/// Reads one node and its element, which enter the document together or not at all.
-void readNode(FileHandle& file, const Version& version, std::string_view folder, SubmenuCarryOver& carryOver,
-              Document& document) {
-  file.beginRecord();
-  const auto parentKey = file.next();
-  auto text = unmarked(file, "text of the node", file.next());
-  const std::string key(file.next());
-  const auto number = numberOf(file, key);
-  Node* parent = parentOf(file, document, parentKey);
-  if (document.tvTreeView.find(key) != nullptr) file.fail("key " + quoted(key) + " is in the file twice");
-
-  auto element = newElement(kindOf(key));
-  if (element) {
-    version.readRecord(file, folder, carryOver, *element);
-    document.ElementColl.add(key, std::move(*element));
-  } else {
-    file.note("key " + quoted(key) + " is of no known kind: a node without an element");
+  /// Reads one node and its element, which enter the document together or not at all.
+  void read() {
+    file_.beginRecord();
+    const auto parentKey = file_.next();
+    auto text = unmarked(file_, "text of the node", file_.next());
+    const std::string key(file_.next());
+    const auto number = numberOf(key);
+    Node* parent = parentOf(parentKey);
+    auto element = newElement(kindOf(key));
+    if (element) {
+      version_.readRecord(file_, folder_, carryOver_, *element);
+    } else {
+      file_.note("key " + quoted(key) + " is of no known kind: a node without an element");
+    }
+    try {
+      if (element) document_.ElementColl.add(key, std::move(*element));
+      addNode(parent, key, std::move(text));
+    } catch (const std::invalid_argument&) {
+      file_.fail("key " + quoted(key) + " is in the file twice");
+    }
+    document_.NextKeyNumber = std::max(document_.NextKeyNumber, number);
   }
-  document.NextKeyNumber = std::max(document.NextKeyNumber, number);
-  if (parent == nullptr) {
-    document.tvTreeView.addRoot(key, std::move(text));
-  } else {
-    document.tvTreeView.add(*parent, Relationship::Child, key, std::move(text));
+
+ private:
+  std::int16_t numberOf(std::string_view key) const {
+    std::int16_t number = -1;
+    const auto digits = key.substr(std::min<std::size_t>(key.size(), 1));
+    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
+    if (error != std::errc{} || end != digits.data() + digits.size() || digits.front() == '-') {
+      file_.fail("key " + quoted(key) + " is not a letter and a number up to 32767");
+    }
+    return number;
   }
-}
+
+  Node* parentOf(std::string_view key) {
+    if (key == rootParent) return nullptr;
+    // Most nodes hang from the one that the node ahead of them hangs from.
+    if (lastParent_ == nullptr || lastParent_->Key != key) lastParent_ = document_.tvTreeView.find(key);
+    if (lastParent_ == nullptr) file_.fail("parent " + quoted(key) + " is not in the tree");
+    return lastParent_;
+  }
+
+  void addNode(Node* parent, const std::string& key, SharedText text) {
+    if (parent == nullptr) {
+      document_.tvTreeView.addRoot(key, std::move(text));
+    } else {
+      document_.tvTreeView.add(*parent, Relationship::Child, key, std::move(text));
+    }
+  }
+
+  FileHandle& file_;
+  const Version& version_;
+  std::string_view folder_;
+  SubmenuCarryOver& carryOver_;
+  Document& document_;
+  Node* lastParent_ = nullptr;
+};
 
 /// Makes the counter greater than every number in use, as far as it goes.
 void stepCounter(Document& document) {
@@ -129,8 +150,9 @@ void readMenuFile(std::string_view bytes, const std::string& path, std::string_v
   if (version == versions.end()) throw NotAMenuFile(path);
 
   readHeader(file, *version, document.settings);
+  NodeReader nodes(file, *version, folder, carryOver, document);
   try {
-    while (!file.atEnd()) readNode(file, *version, folder, carryOver, document);
+    while (!file.atEnd()) nodes.read();
   } catch (const FileError&) {
     stepCounter(document);  // what was read can be worked on: its keys are taken
     throw;

@@ -1,22 +1,16 @@
 #include "persistence/menu_file.h"
 #include "persistence/menu_file_layout.h"
 #include "persistence/property_line.h"
+#include "text/ascii.h"
 #include "text/numbers.h"
 
 namespace nimbrel {
 namespace {
 
-constexpr std::string_view lineEnd = "\r\n";
 
-std::string lineOf(const std::string& value) {
-  return value;
-}
-std::string lineOf(bool value) {
-  return value ? "True" : "False";
-}
-std::string lineOf(std::int32_t value) {
-  return printedForm(value);
-}
+std::string lineOf(const std::string& value) { return value; }
+std::string lineOf(bool value) { return value ? "True" : "False"; }
+std::string lineOf(std::int32_t value) { return printedForm(value); }
 
 void WriteNode(std::string& out, const Document& document, const Node& node) {
   out.append(node.Parent() == nullptr ? printedForm(0) : node.Parent()->Key).append(lineEnd);

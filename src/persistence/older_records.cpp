@@ -59,9 +59,7 @@ constexpr auto itemValues = std::to_array<OlderValue>({
 // clang-format on
 static_assert(menuValues.size() == 33 && submenuValues.size() == 24 && itemValues.size() == 56);
 
-bool isFontSize(std::string_view name) {
-  return name.find("FontSize") != std::string_view::npos;
-}
+bool isFontSize(std::string_view name) { return name.find("FontSize") != std::string_view::npos; }
 
 /// Earlier releases numbered the browser's sizes.
 std::string_view fontSizeKeyword(float number) {
@@ -129,15 +127,9 @@ void complete(SubmenuObj& submenu, const SubmenuCarryOver& carryOver) {
 
 void complete(ItemObj&, const SubmenuCarryOver&) {}
 
-constexpr std::span<const OlderValue> valuesOf(const MenuObj&) {
-  return menuValues;
-}
-constexpr std::span<const OlderValue> valuesOf(const SubmenuObj&) {
-  return submenuValues;
-}
-constexpr std::span<const OlderValue> valuesOf(const ItemObj&) {
-  return itemValues;
-}
+constexpr std::span<const OlderValue> valuesOf(const MenuObj&) { return menuValues; }
+constexpr std::span<const OlderValue> valuesOf(const SubmenuObj&) { return submenuValues; }
+constexpr std::span<const OlderValue> valuesOf(const ItemObj&) { return itemValues; }
 
 void readRecord(Record version, FileHandle& file, std::string_view FPath, SubmenuCarryOver& carryOver,
                 Element& element) {

@@ -31,9 +31,7 @@ void append(std::string& out, Form form, const SharedText& value) {
   }
 }
 
-void append(std::string& out, Form, std::uint8_t value) {
-  appendGeneral(out, value);
-}
+void append(std::string& out, Form, std::uint8_t value) { appendGeneral(out, value); }
 
 void append(std::string& out, Form form, float value) {
   if (form == Form::Flag) {

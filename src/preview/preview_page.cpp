@@ -8,9 +8,7 @@ namespace {
 constexpr const char* pageName = "preview.html";
 constexpr const char* dataFolder = "nbrData";
 
-std::string previewFolder(const std::string& programFolder) {
-  return programFolder + "\\preview";
-}
+std::string previewFolder(const std::string& programFolder) { return programFolder + "\\preview"; }
 
 /// Tells the author of a popup menu how to make it appear. kept: the property's name stands once with
 /// entities and once as raw text.

@@ -7,13 +7,12 @@
 /// What is known of a byte without a locale: the letters and digits of ASCII alone.
 namespace nimbrel {
 
-constexpr bool isDigit(char c) {
-  return c >= '0' && c <= '9';
-}
+/// Ends each line of every file we write.
+inline constexpr std::string_view lineEnd = "\r\n";
 
-constexpr char toLower(char c) {
-  return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
+constexpr bool isDigit(char c) { return c >= '0' && c <= '9'; }
+
+constexpr char toLower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 
 constexpr bool equalIgnoringCase(std::string_view a, std::string_view b) {
   return std::ranges::equal(a, b, {}, toLower, toLower);

@@ -96,22 +96,16 @@ std::string generalForm(float value) {
   return text;
 }
 
-std::string printedForm(std::int32_t value) {
-  return (value < 0 ? "" : " ") + std::to_string(value) + " ";
-}
+std::string printedForm(std::int32_t value) { return (value < 0 ? "" : " ") + std::to_string(value) + " "; }
 
-std::optional<float> parseSingle(std::string_view text) {
-  return parseReal<float>(text);
-}
+std::optional<float> parseSingle(std::string_view text) { return parseReal<float>(text); }
 
 std::optional<std::uint8_t> parseByte(std::string_view text) {
   if (text.size() == 1 && isDigit(text[0])) return static_cast<std::uint8_t>(text[0] - '0');
   return parseWhole<std::uint8_t>(text);
 }
 
-std::optional<std::int32_t> parseInteger(std::string_view text) {
-  return parseWhole<std::int32_t>(text);
-}
+std::optional<std::int32_t> parseInteger(std::string_view text) { return parseWhole<std::int32_t>(text); }
 
 std::optional<bool> parseBoolean(std::string_view text) {
   if (equalIgnoringCase(text, "true")) return true;

@@ -2,9 +2,7 @@
 
 namespace nimbrel {
 
-std::string_view fileName(std::string_view path) {
-  return path.substr(path.rfind('\\') + 1);
-}
+std::string_view fileName(std::string_view path) { return path.substr(path.rfind('\\') + 1); }
 
 std::string_view folderName(std::string_view path) {
   const auto last = path.rfind('\\');

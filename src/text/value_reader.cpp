@@ -1,34 +1,44 @@
 #include "text/value_reader.h"
 
+#include <algorithm>
+#include <array>
+
 namespace nimbrel {
 namespace {
 
-constexpr bool endsValue(char c) {
-  return c == ',' || c == '\r' || c == '\n';
-}
+/// The bytes that end a value, by byte.
+constexpr auto endsValue = [] {
+  std::array<bool, 256> ends{};
+  ends[','] = ends['\r'] = ends['\n'] = true;
+  return ends;
+}();
 
 }  // namespace
 
-std::optional<std::string_view> ValueReader::next() {
+std::size_t ValueReader::endOfValue(std::size_t position) const {
+  while (position < text_.size() && !endsValue[static_cast<unsigned char>(text_[position])]) ++position;
+  return position;
+}
+
+bool ValueReader::next(std::string_view& value) {
   const std::size_t size = text_.size();
   while (position_ < size && (text_[position_] == ' ' || text_[position_] == '\t')) ++position_;
-  if (position_ == size) return std::nullopt;
+  if (position_ == size) return false;
 
   line_ = nextLine_;
   std::size_t begin = position_;
-  std::size_t end = begin;
+  std::size_t end = 0;
   if (text_[begin] == '"') {
-    end = ++begin;
-    while (end < size && text_[end] != '"' && text_[end] != '\r' && text_[end] != '\n') ++end;
-    position_ = end;
-    while (position_ < size && !endsValue(text_[position_])) ++position_;
+    ++begin;
+    end = std::min(text_.find_first_of("\"\r\n", begin), size);
+    position_ = endOfValue(end);
   } else {
-    while (end < size && !endsValue(text_[end])) ++end;
-    position_ = end;
+    end = position_ = endOfValue(begin);
     while (end > begin && text_[end - 1] == ' ') --end;
   }
+  value = text_.substr(begin, end - begin);
   consumeDelimiter();
-  return text_.substr(begin, end - begin);
+  return true;
 }
 
 void ValueReader::consumeDelimiter() {

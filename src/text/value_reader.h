@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstddef>
-#include <optional>
 #include <string_view>
 
 namespace nimbrel {
@@ -17,8 +16,8 @@ class ValueReader {
  public:
   explicit ValueReader(std::string_view text) : text_(text) {}
 
-  /// The next value, or none where nothing but blanks is left. A last value needs no line end.
-  std::optional<std::string_view> next();
+  /// Gives the next value; false where nothing but blanks is left. A last value needs no line end.
+  bool next(std::string_view& value);
 
   /// Whether blanks, tabs and line ends alone are left.
   bool atEnd() const;
@@ -27,6 +26,7 @@ class ValueReader {
   std::size_t line() const { return line_; }
 
  private:
+  std::size_t endOfValue(std::size_t position) const;
   void consumeDelimiter();
 
   std::string_view text_;

@@ -35,9 +35,7 @@ std::optional<char> byteOf(char32_t c) {
   return static_cast<char>(0x80 + (found - upperControls.begin()));
 }
 
-bool isSurrogate(char32_t c) {
-  return c >= 0xD800 && c <= 0xDFFF;
-}
+bool isSurrogate(char32_t c) { return c >= 0xD800 && c <= 0xDFFF; }
 
 void appendUtf8(std::string& out, char32_t c) {
   const auto tail = [&](int shift) { out += static_cast<char>(0x80 | ((c >> shift) & 0x3F)); };
@@ -91,9 +89,7 @@ std::optional<Decoded> decodeReference(std::string_view text) {
 }
 
 /// Whether the reference is one that `fromUtf8` writes: of a character that the set lacks.
-bool isOurs(char32_t c) {
-  return c <= 0x10FFFF && !isSurrogate(c) && !byteOf(c);
-}
+bool isOurs(char32_t c) { return c <= 0x10FFFF && !isSurrogate(c) && !byteOf(c); }
 
 bool isOursInNames(char32_t c) {
   return isOurs(c) || c == '&' || c == '\\' || (c >= firstStray && c <= lastStray);
@@ -116,9 +112,7 @@ std::string decode(std::string_view oneByte, IsOurs ours, Append append) {
 
 }  // namespace
 
-std::string toUtf8(std::string_view oneByte) {
-  return decode(oneByte, isOurs, appendUtf8);
-}
+std::string toUtf8(std::string_view oneByte) { return decode(oneByte, isOurs, appendUtf8); }
 
 std::string nameToHost(std::string_view oneByte) {
   return decode(oneByte, isOursInNames, [](std::string& out, char32_t c) {

@@ -8,9 +8,7 @@ void MemoryFileSystem::failIfAsked(std::string_view path) const {
   if (failsNow && failsNow()) throw FileError(std::string(path), "the disk failed");
 }
 
-bool MemoryFileSystem::isFile(std::string_view path) const {
-  return files.contains(path);
-}
+bool MemoryFileSystem::isFile(std::string_view path) const { return files.contains(path); }
 
 bool MemoryFileSystem::isFolder(std::string_view path) const {
   if (folders.contains(path)) return true;
@@ -32,9 +30,7 @@ void MemoryFileSystem::replace(std::string_view path, std::string_view bytes) {
   files.insert_or_assign(std::string(path), std::string(bytes));
 }
 
-void MemoryFileSystem::copy(std::string_view from, std::string_view to) {
-  replace(to, read(from));
-}
+void MemoryFileSystem::copy(std::string_view from, std::string_view to) { replace(to, read(from)); }
 
 void MemoryFileSystem::remove(std::string_view path) {
   failIfAsked(path);
