@@ -54,7 +54,7 @@ void CompileMenu(FileSystem& files, const std::string& programFolder, Document& 
   ScriptTarget target{settings.CompiledPath, layout.libraryFolder, layout.imageFolder, layout.baseName};
   const bool crossFrame = !settings.nbrSubmenusFrame.empty();
   const auto write = [&](const std::string& path, std::string script) {
-    steps.replace(path, script.append("\r\n"));
+    steps.generate(path, script.append("\r\n"));
   };
   write(layout.menuPath, maker.CreateMenuScript(ScriptMode::Compile, document, target, !crossFrame));
   if (crossFrame) {

@@ -143,8 +143,6 @@ void itemName(Call& call, const ItemObj& item, std::uint8_t display, const Share
   }
 }
 
-void append(std::string& script, std::string_view line) { script.append("\r\n").append(line); }
-
 void appendCall(const Document& document, const Node& node, int level, std::string& script) {
   const Element* element = document.element(node);
   if (element == nullptr) return;

@@ -19,8 +19,8 @@ void FileSteps::copy(std::string_view from, std::string_view to) {
   if (attempt([&] { files_.copy(from, to); })) report_.made.emplace_back(to);
 }
 
-void FileSteps::replace(std::string_view path, std::string_view bytes) {
-  if (attempt([&] { files_.replace(path, bytes); })) report_.made.emplace_back(path);
+void FileSteps::generate(std::string_view path, std::string_view bytes) {
+  if (attempt([&] { files_.generate(path, bytes); })) report_.made.emplace_back(path);
 }
 
 void FileSteps::makeFolder(std::string_view path) {

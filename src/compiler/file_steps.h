@@ -21,7 +21,7 @@ class FileSteps {
 
   const FileSystem& files() const { return files_; }
   void copy(std::string_view from, std::string_view to);
-  void replace(std::string_view path, std::string_view bytes);
+  void generate(std::string_view path, std::string_view bytes);
   void makeFolder(std::string_view path);
   void removeFilesIn(std::string_view folder);
   void note(Finding finding) { report_.findings.push_back(std::move(finding)); }

@@ -36,6 +36,7 @@ void removeWithLineEnd(PageText& page, std::size_t begin, std::size_t end) {
 }
 
 /// Removes the first code of the form that starts at `from` or behind it.
+/// kept: a page that carries a form twice keeps the second.
 Outcome removeForm(PageText& page, const Form& form, std::size_t from = 0) {
   const auto begin = page.find(form.start, from);
   if (begin == npos) return Outcome::NoStart;
@@ -57,7 +58,7 @@ Outcome removeForm(PageText& page, const Form& form, std::size_t from = 0) {
 /// False if one of the two has no end.
 bool removeScriptGroup(PageText& page) {
   const auto script = page.find(createdScript.start);
-  if (removeForm(page, createdScript, script) != Outcome::Removed) return true;
+  if (script == npos || removeForm(page, createdScript, script) != Outcome::Removed) return true;
   return removeForm(page, refreshTag, script) != Outcome::NoEnd &&
          removeForm(page, pathImage) != Outcome::NoEnd;
 }

@@ -10,8 +10,8 @@ namespace nimbrel {
 /// The bytes with each line end (CR, LF or CR LF) as CR LF; CR CR LF is two of them.
 std::string withCrLf(std::string bytes);
 
-/// Where `wanted`, which is not empty, first stands in the text at `from` or behind it, or `npos`. The case of
-/// ASCII letters is ignored, all other bytes are exact.
+/// Where `wanted`, which is not empty, first stands at `from`, which is in the text, or behind it, or `npos`. The
+/// case of ASCII letters is ignored, all other bytes are exact.
 std::size_t findIgnoringCase(std::string_view text, std::string_view wanted, std::size_t from = 0);
 
 /// A page while it is rewritten: bytes of no known encoding, whose line ends are CR LF from the start.

@@ -102,7 +102,7 @@ void RemoveSubtree(Document& document, std::string_view key) {
   for (const Node* node = top; node != nullptr; node = following(node, top)) {
     document.ElementColl.remove(node->Key);
   }
-  document.tvTreeView.remove(key);
+  document.tvTreeView.remove(top->Key);  // the key may have lain in what is gone
 }
 
 void BuildDefaultDocument(Document& document) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -7,6 +8,12 @@
 #include "platform/file_error.h"
 
 namespace nimbrel {
+
+/// A file as it is to be.
+struct NewFile {
+  std::string path;
+  std::string bytes;
+};
 
 /// The file system. Paths are in document form, with backslashes. What fails throws `FileError` with the path
 /// and leaves what was there as it was.
@@ -26,7 +33,14 @@ class FileSystem {
   /// read-only stays.
   virtual void replace(std::string_view path, std::string_view bytes) = 0;
 
-  /// Replaces `to` whole by the bytes of `from`. A file copied to itself stays as it is.
+  /// Replaces each file so, all with one wait for the disk. Those that fail are in the findings and stay as
+  /// they were; the others are replaced.
+  virtual Findings replaceAll(std::span<const NewFile> newFiles);
+
+  /// Replaces or makes a file that can be made again at will: as `replace`, but without a wait for the disk.
+  virtual void generate(std::string_view path, std::string_view bytes) = 0;
+
+  /// Generates `to` with the bytes of `from`. A file copied to itself stays as it is.
   virtual void copy(std::string_view from, std::string_view to) = 0;
 
   virtual void remove(std::string_view path) = 0;

@@ -63,11 +63,11 @@ void CreatePreviewFile(FileSystem& files, const std::string& programFolder, bool
 
   const auto* menu = std::get_if<MenuObj>(&document.ElementColl.begin()->second);
   const bool isPopup = menu != nullptr && menu->Collapsable == 1;
-  steps.replace(previewPagePath(programFolder), pageText(isPopup, BlackPreview));
+  steps.generate(previewPagePath(programFolder), pageText(isPopup, BlackPreview));
   const ScriptTarget target{folder, dataFolder, dataFolder, "preview"};
   const auto script =
       ScriptMaker(steps, programFolder).CreateMenuScript(ScriptMode::Preview, document, target, true);
-  steps.replace(folder + "\\preview.js", script + "\r\n");
+  steps.generate(folder + "\\preview.js", script + "\r\n");
 }
 
 }  // namespace nimbrel

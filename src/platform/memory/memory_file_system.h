@@ -15,6 +15,7 @@ class MemoryFileSystem : public FileSystem {
   bool isFolder(std::string_view path) const override;
   std::string read(std::string_view path) const override;
   void replace(std::string_view path, std::string_view bytes) override;
+  void generate(std::string_view path, std::string_view bytes) override { replace(path, bytes); }
   void copy(std::string_view from, std::string_view to) override;
   void remove(std::string_view path) override;
   void makeFolder(std::string_view path) override;

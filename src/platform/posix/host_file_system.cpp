@@ -2,14 +2,17 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <deque>
 #include <fcntl.h>
 #include <filesystem>
+#include <set>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
 #include <utility>
 
 #include "platform/posix/host_paths.h"
+#include "platform/posix/replacement.h"
 
 namespace nimbrel {
 namespace {
@@ -18,93 +21,6 @@ namespace fs = std::filesystem;
 
 [[noreturn]] void fail(std::string_view path, int error) {
   throw FileError(std::string(path), std::generic_category().message(error));
-}
-
-/// An open file, closed with its scope.
-class Handle {
- public:
-  explicit Handle(int descriptor) : descriptor_(descriptor) {}
-  Handle(const Handle&) = delete;
-  Handle& operator=(const Handle&) = delete;
-  ~Handle() {
-    if (descriptor_ >= 0) ::close(descriptor_);
-  }
-  int get() const { return descriptor_; }
-  bool isOpen() const { return descriptor_ >= 0; }
-  /// Closes now, since the last of what was written may fail only then.
-  bool close() { return ::close(std::exchange(descriptor_, -1)) == 0; }
-
- private:
-  int descriptor_;
-};
-
-/// A file that is gone with its scope unless it was renamed.
-class TemporaryFile {
- public:
-  explicit TemporaryFile(const fs::path& folder)
-      : path_((folder / ".nimbrel-XXXXXX").string()), handle_(::mkostemp(path_.data(), O_CLOEXEC)) {}
-  TemporaryFile(const TemporaryFile&) = delete;
-  TemporaryFile& operator=(const TemporaryFile&) = delete;
-  ~TemporaryFile() {
-    if (!path_.empty()) ::unlink(path_.c_str());
-  }
-  Handle& handle() { return handle_; }
-  bool renameTo(const std::string& target) {
-    if (::rename(path_.c_str(), target.c_str()) != 0) return false;
-    path_.clear();
-    return true;
-  }
-
- private:
-  std::string path_;
-  Handle handle_;
-};
-
-bool writeAll(int descriptor, std::string_view bytes) {
-  while (!bytes.empty()) {
-    const auto written = ::write(descriptor, bytes.data(), bytes.size());
-    if (written < 0 && errno == EINTR) continue;
-    if (written < 0) return false;
-    bytes.remove_prefix(static_cast<std::size_t>(written));
-  }
-  return true;
-}
-
-mode_t modeOfNewFiles() {
-  const mode_t mask = ::umask(0);
-  ::umask(mask);
-  return 0666 & ~mask;
-}
-
-/// Gives the new file the mode and owner of the one whose place it takes; refuses one that is no file or is
-/// not to be written.
-void takePlaceOf(std::string_view path, const std::string& target, int descriptor) {
-  struct stat old {};
-  if (::stat(target.c_str(), &old) != 0) {
-    if (errno != ENOENT || ::fchmod(descriptor, modeOfNewFiles()) != 0) fail(path, errno);
-    return;
-  }
-  if (S_ISDIR(old.st_mode)) fail(path, EISDIR);
-  if (!S_ISREG(old.st_mode)) throw FileError(std::string(path), "is not a regular file");
-  // The mark is the author's word, and it counts for the system's administrator too.
-  const bool markedReadOnly = (old.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0;
-  if (markedReadOnly || ::access(target.c_str(), W_OK) != 0)
-    throw FileError(std::string(path), "is read-only");
-  // Only an administrator can keep a foreign owner; for others the file becomes theirs.
-  if (::fchown(descriptor, old.st_uid, old.st_gid) != 0) errno = 0;
-  if (::fchmod(descriptor, old.st_mode & 07777) != 0) fail(path, errno);
-}
-
-/// The file that a chain of links ends at, also where none stands there yet.
-fs::path endOfLinks(fs::path path) {
-  constexpr int longestChain = 40;
-  for (int i = 0; i < longestChain; ++i) {
-    std::error_code error;
-    const auto next = fs::read_symlink(path, error);
-    if (error) break;
-    path = path.parent_path() / next;
-  }
-  return path;
 }
 
 }  // namespace
@@ -143,22 +59,40 @@ std::string HostFileSystem::read(std::string_view path) const {
 }
 
 void HostFileSystem::replace(std::string_view path, std::string_view bytes) {
-  const fs::path target = endOfLinks(toHostPath(path));
-  const fs::path folder = target.has_parent_path() ? target.parent_path() : fs::path(".");
-  TemporaryFile temporary(folder);
-  Handle& file = temporary.handle();
-  if (!file.isOpen()) fail(path, errno);
-  takePlaceOf(path, target.string(), file.get());
-  if (!writeAll(file.get(), bytes) || ::fdatasync(file.get()) != 0 || !file.close() ||
-      !temporary.renameTo(target.string())) {
-    fail(path, errno);
+  Replacement file(path, bytes);
+  file.flush();
+  file.commit();
+}
+
+Findings HostFileSystem::replaceAll(std::span<const NewFile> newFiles) {
+  Findings findings;
+  const auto attempt = [&findings](auto step) {
+    try {
+      step();
+    } catch (const FileError& error) {
+      findings.push_back(error.finding());
+    }
+  };
+  std::deque<Replacement> files;
+  for (const auto& file : newFiles) attempt([&] { files.emplace_back(file.path, file.bytes); });
+  std::set<dev_t> flushedDevices;
+  for (auto& file : files) {
+    attempt([&] {
+      file.flushDevice(flushedDevices);
+      file.commit();
+    });
   }
+  return findings;
+}
+
+void HostFileSystem::generate(std::string_view path, std::string_view bytes) {
+  Replacement(path, bytes).commit();
 }
 
 void HostFileSystem::copy(std::string_view from, std::string_view to) {
   std::error_code error;
   if (fs::equivalent(toHostPath(from), toHostPath(to), error)) return;
-  replace(to, read(from));
+  generate(to, read(from));
 }
 
 void HostFileSystem::remove(std::string_view path) {

@@ -1,0 +1,138 @@
+#include "platform/posix/replacement.h"
+
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <system_error>
+#include <unistd.h>
+#include <utility>
+
+#include "platform/file_error.h"
+#include "platform/posix/host_paths.h"
+
+namespace nimbrel {
+namespace {
+
+namespace fs = std::filesystem;
+
+[[noreturn]] void fail(const std::string& path) {
+  throw FileError(path, std::generic_category().message(errno));
+}
+
+bool writeAll(int descriptor, std::string_view bytes) {
+  while (!bytes.empty()) {
+    const auto written = ::write(descriptor, bytes.data(), bytes.size());
+    if (written < 0 && errno == EINTR) continue;
+    if (written < 0) return false;
+    bytes.remove_prefix(static_cast<std::size_t>(written));
+  }
+  return true;
+}
+
+mode_t modeOfNewFiles() {
+  const mode_t mask = ::umask(0);
+  ::umask(mask);
+  return 0666 & ~mask;
+}
+
+/// The file that a chain of links ends at, also where none stands there yet.
+fs::path endOfLinks(fs::path path) {
+  constexpr int longestChain = 40;
+  for (int i = 0; i < longestChain; ++i) {
+    std::error_code error;
+    const auto next = fs::read_symlink(path, error);
+    if (error) break;
+    path = path.parent_path() / next;
+  }
+  return path;
+}
+
+fs::path folderOf(const fs::path& path) {
+  return path.has_parent_path() ? path.parent_path() : fs::path(".");
+}
+
+}  // namespace
+
+Handle::Handle(Handle&& other) noexcept : descriptor_(std::exchange(other.descriptor_, -1)) {}
+
+Handle& Handle::operator=(Handle&& other) noexcept {
+  std::swap(descriptor_, other.descriptor_);
+  return *this;
+}
+
+Handle::~Handle() { close(); }
+
+bool Handle::close() { return !isOpen() || ::close(std::exchange(descriptor_, -1)) == 0; }
+
+Replacement::Replacement(std::string_view documentPath, std::string_view bytes)
+    : documentPath_(documentPath), target_(endOfLinks(toHostPath(documentPath))) {
+  open(folderOf(target_));
+  takePlace();
+  if (!writeAll(file_.get(), bytes)) fail(documentPath_);
+}
+
+Replacement::~Replacement() {
+  if (file_.isOpen() && !name_.empty()) ::unlink(name_.c_str());
+}
+
+/// Without a name, so that not even a kill leaves anything behind; with one where the system knows no other.
+void Replacement::open(const fs::path& folder) {
+  file_ = Handle(::open(folder.c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, S_IRUSR | S_IWUSR));
+  if (file_.isOpen()) return;
+  if (errno != EOPNOTSUPP && errno != EISDIR && errno != EINVAL) fail(documentPath_);
+  name_ = (folder / ".nimbrel-XXXXXX").string();
+  file_ = Handle(::mkostemp(name_.data(), O_CLOEXEC));
+  if (!file_.isOpen()) fail(documentPath_);
+}
+
+/// Refuses a place that holds no file, or one that is not to be written.
+void Replacement::takePlace() {
+  struct stat old {};
+  if (::stat(target_.c_str(), &old) != 0) {
+    if (errno != ENOENT || ::fchmod(file_.get(), modeOfNewFiles()) != 0) fail(documentPath_);
+    return;
+  }
+  if (S_ISDIR(old.st_mode)) errno = EISDIR, fail(documentPath_);
+  if (!S_ISREG(old.st_mode)) throw FileError(documentPath_, "is not a regular file");
+  // The mark is the author's word, and it counts for the system's administrator too.
+  const bool markedReadOnly = (old.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0;
+  if (markedReadOnly || ::access(target_.c_str(), W_OK) != 0) throw FileError(documentPath_, "is read-only");
+  // Only an administrator can keep a foreign owner; for others the file becomes theirs.
+  if (::fchown(file_.get(), old.st_uid, old.st_gid) != 0) errno = 0;
+  if (::fchmod(file_.get(), old.st_mode & 07777) != 0) fail(documentPath_);
+}
+
+void Replacement::flush() {
+  if (::fdatasync(file_.get()) != 0) fail(documentPath_);
+}
+
+void Replacement::flushDevice(std::set<dev_t>& flushed) {
+  struct stat status {};
+  if (::fstat(file_.get(), &status) != 0) fail(documentPath_);
+  if (flushed.contains(status.st_dev)) return;
+  if (::syncfs(file_.get()) != 0) fail(documentPath_);
+  flushed.insert(status.st_dev);
+}
+
+/// Gives a file without a name one of its own, which only a renaming can turn into that of another file.
+void Replacement::nameIn(const fs::path& folder) {
+  const auto self = "/proc/self/fd/" + std::to_string(file_.get());
+  for (unsigned attempt = 0;; ++attempt) {
+    const auto name = ".nimbrel-" + std::to_string(::getpid()) + "-" + std::to_string(attempt);
+    const auto path = (folder / name).string();
+    if (::linkat(AT_FDCWD, self.c_str(), AT_FDCWD, path.c_str(), AT_SYMLINK_FOLLOW) == 0) {
+      name_ = path;
+      return;
+    }
+    if (errno != EEXIST) fail(documentPath_);
+  }
+}
+
+void Replacement::commit() {
+  if (name_.empty()) nameIn(folderOf(target_));
+  if (::rename(name_.c_str(), target_.c_str()) != 0) fail(documentPath_);
+  name_.clear();
+  if (!file_.close()) fail(documentPath_);
+}
+
+}  // namespace nimbrel
