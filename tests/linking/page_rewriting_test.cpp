@@ -1,0 +1,57 @@
+#include "linking/page_rewriting.h"
+
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <iterator>
+#include <map>
+
+namespace nimbrel {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string bytesOf(const fs::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  EXPECT_TRUE(file) << path;
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+/// The paths and the address of a case; its file `case` has a line for each that differs.
+std::map<std::string, std::string> settingsOf(const fs::path& folder) {
+  std::map<std::string, std::string> settings{{"page", "c:\\site\\index.html"},
+                                              {"compiled", "c:\\site\\m1.js"}};
+  std::ifstream lines(folder / "case");
+  for (std::string name, value; lines >> name && std::getline(lines >> std::ws, value);)
+    settings[name] = value;
+  return settings;
+}
+
+// Each folder is a case: a page, and what linking makes of it.
+TEST(PageRewriting, MakesOfEachPageWhatStandsBesideIt) {
+  int cases = 0;
+  for (const auto& folder : fs::directory_iterator(fs::path(NIMBREL_TEST_DATA) / "../pages")) {
+    SCOPED_TRACE(folder.path().filename());
+    auto settings = settingsOf(folder);
+    EXPECT_EQ(linkedPage(bytesOf(folder.path() / "before.html"), settings["page"], settings["compiled"],
+                         settings["address"]),
+              bytesOf(folder.path() / "after.html"));
+    ++cases;
+  }
+  EXPECT_GT(cases, 0);
+}
+
+TEST(PageRewriting, AddsOneEmptyLineEachTimeThatAPageIsLinkedAgain) {
+  const auto link = [](const std::string& page) { return linkedPage(page, "c:\\a.html", "c:\\m1.js", ""); };
+  for (const std::string page : {"a\r\n</body>\r\n", "a</HTML>", "a", ""}) {
+    // The first time that there is a body of our own, the block moves to its end.
+    auto expected = link(link(page));
+    const auto begin = expected.find(beginMarker("m1"));
+    ASSERT_NE(begin, std::string::npos);
+    expected.insert(begin, "\r\n\r\n");
+    EXPECT_EQ(link(link(link(link(page)))), expected);
+  }
+}
+
+}  // namespace
+}  // namespace nimbrel
