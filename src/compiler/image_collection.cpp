@@ -55,12 +55,12 @@ void ImageCollection::CollectImages(Document& document, const Node& top, bool in
   const SharedText textOfRoot = document.tvTreeView.root()->Text;
   for (const Node* node = &top; node != nullptr;) {
     if (Element* element = document.element(*node)) {
-      for (int slot = 0;; ++slot) {
-        const auto path = getImage(*element, slot);
-        const bool last = path == noMoreImages;
-        setImageNo(*element, slot, last ? 0 : numberOf(path, *node));
-        if (last) break;
-      }
+      eachImage(*element, [&](const SharedText& path, float& number) {
+        // kept: a picture of the name that stands for "no more" ends the element's slots.
+        const bool isLast = path == noMoreImages;
+        number = isLast ? 0 : numberOf(path, *node);
+        return !isLast;
+      });
     }
     const bool goesDown = includeSubmenus || node->Text == textOfRoot;
     node = goesDown ? following(node, &top) : followingPastChildren(node, &top);

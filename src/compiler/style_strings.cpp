@@ -1,5 +1,7 @@
 #include "compiler/style_strings.h"
 
+#include <array>
+#include <tuple>
 #include <vector>
 
 #include "text/numbers.h"
@@ -23,6 +25,12 @@ struct Look {
   const SharedText& borderColor;
   float padding;
   std::uint8_t cursor;
+
+  auto fields() const {
+    return std::tie(alignment, fontColor, bgColor, bgImageNo, bold, italic, underlined, fontSize, fontFamily,
+                    borderStyle, borderWidth, borderColor, padding, cursor);
+  }
+  bool operator==(const Look& other) const { return fields() == other.fields(); }
 };
 
 constexpr std::uint8_t on = 1;  // flags count as on at 1 exactly
@@ -106,6 +114,37 @@ void appendContainer(std::string& call, const Container& c) {
   call += ",0,0);";
 }
 
+Look normalLook(const ItemObj& i) {
+  return {i.ItemAlignment1, i.FontColor1,      i.BGColor1,     i.BGImage1No,  i.FontBold1,
+          i.FontItalic1,    i.FontUnderlined1, i.FontSize1,    i.FontFamily1, i.BorderStyle1,
+          i.BorderWidth1,   i.BorderColor1,    i.ItemPadding1, i.ItemCursor};
+}
+
+Look mouseOverLook(const ItemObj& i) {
+  return {i.ItemAlignment2, i.FontColor2,      i.BGColor2,     i.BGImage2No,  i.FontBold2,
+          i.FontItalic2,    i.FontUnderlined2, i.FontSize2,    i.FontFamily2, i.BorderStyle2,
+          i.BorderWidth2,   i.BorderColor2,    i.ItemPadding2, i.ItemCursor};
+}
+
+Look mouseClickLook(const ItemObj& i) {
+  return {i.ItemAlignment3, i.FontColor3,      i.BGColor3,     i.BGImage3No,  i.FontBold3,
+          i.FontItalic3,    i.FontUnderlined3, i.FontSize3,    i.FontFamily3, i.BorderStyle3,
+          i.BorderWidth3,   i.BorderColor3,    i.ItemPadding3, i.ItemCursor};
+}
+
+/// One state of an item: its look, its call, and where the number of that goes.
+struct State {
+  Look (*look)(const ItemObj&);
+  void (*styleString)(const ItemObj&, std::string&);
+  SharedText ItemObj::*number;
+};
+
+constexpr auto states = std::to_array<State>({
+    {normalLook, ItemStyleString1, &ItemObj::ItemStyleID1},
+    {mouseOverLook, ItemStyleString2, &ItemObj::ItemStyleID2},
+    {mouseClickLook, ItemStyleString3, &ItemObj::ItemStyleID3},
+});
+
 }  // namespace
 
 void TitleStyleString(const MenuObj& element, std::string& call) { appendTitle(call, element); }
@@ -113,25 +152,14 @@ void TitleStyleString(const SubmenuObj& element, std::string& call) { appendTitl
 void ContainerStyleString(const MenuObj& element, std::string& call) { appendContainer(call, element); }
 void ContainerStyleString(const SubmenuObj& element, std::string& call) { appendContainer(call, element); }
 
-void ItemStyleString1(const ItemObj& i, std::string& call) {
-  appendContent(call, '1',
-                {i.ItemAlignment1, i.FontColor1, i.BGColor1, i.BGImage1No, i.FontBold1, i.FontItalic1,
-                 i.FontUnderlined1, i.FontSize1, i.FontFamily1, i.BorderStyle1, i.BorderWidth1,
-                 i.BorderColor1, i.ItemPadding1, i.ItemCursor});
+void ItemStyleString1(const ItemObj& element, std::string& call) {
+  appendContent(call, '1', normalLook(element));
 }
-
-void ItemStyleString2(const ItemObj& i, std::string& call) {
-  appendContent(call, '0',
-                {i.ItemAlignment2, i.FontColor2, i.BGColor2, i.BGImage2No, i.FontBold2, i.FontItalic2,
-                 i.FontUnderlined2, i.FontSize2, i.FontFamily2, i.BorderStyle2, i.BorderWidth2,
-                 i.BorderColor2, i.ItemPadding2, i.ItemCursor});
+void ItemStyleString2(const ItemObj& element, std::string& call) {
+  appendContent(call, '0', mouseOverLook(element));
 }
-
-void ItemStyleString3(const ItemObj& i, std::string& call) {
-  appendContent(call, '0',
-                {i.ItemAlignment3, i.FontColor3, i.BGColor3, i.BGImage3No, i.FontBold3, i.FontItalic3,
-                 i.FontUnderlined3, i.FontSize3, i.FontFamily3, i.BorderStyle3, i.BorderWidth3,
-                 i.BorderColor3, i.ItemPadding3, i.ItemCursor});
+void ItemStyleString3(const ItemObj& element, std::string& call) {
+  appendContent(call, '0', mouseClickLook(element));
 }
 
 SharedText StyleCollection::GetStyleID(std::string_view styleString) {
@@ -161,12 +189,16 @@ void StyleCollection::CollectStyles(Document& document, const Node& container, b
     Element* element = document.element(*node);
     if (auto* menu = std::get_if<MenuObj>(element)) numberContainer(*menu);
     if (auto* submenu = std::get_if<SubmenuObj>(element)) numberContainer(*submenu);
+    const ItemObj* ahead = nullptr;
     for (const Node* child = node->Child(); child != nullptr; child = child->Next()) {
       auto* item = document.get<ItemObj>(*child);
       if (item == nullptr) continue;
-      item->ItemStyleID1 = numberOf(*item, ItemStyleString1);
-      item->ItemStyleID2 = numberOf(*item, ItemStyleString2);
-      item->ItemStyleID3 = numberOf(*item, ItemStyleString3);
+      for (const State& state : states) {
+        // Most items look as the one ahead of them, which is seen sooner than their calls are made.
+        const bool looksTheSame = ahead != nullptr && state.look(*item) == state.look(*ahead);
+        item->*state.number = looksTheSame ? ahead->*state.number : numberOf(*item, state.styleString);
+      }
+      ahead = item;
     }
     if (!includeSubmenus || node->Child() == nullptr) continue;
     // The last one first, since the waiting are taken from the end.

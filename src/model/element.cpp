@@ -48,24 +48,8 @@ void copyStyle(Target& target, const Source& source) {
 }
 
 template <class E>
-consteval std::size_t countImages() {
-  return static_cast<std::size_t>(std::ranges::count_if(E::properties(), &Property<E>::isImage));
-}
-
-/// The rows of the images in table order, which is the order of the slots.
-template <class E>
-consteval auto imageRows() {
-  std::array<const Property<E>*, countImages<E>()> rows{};
-  std::size_t slot = 0;
-  for (const auto& property : E::properties()) {
-    if (property.isImage()) rows[slot++] = &property;
-  }
-  return rows;
-}
-
-template <class E>
 const Property<E>* imageSlot(int slot) {
-  static constexpr auto rows = imageRows<E>();
+  constexpr auto& rows = imageRows<E>;
   return slot >= 0 && std::cmp_less(slot, rows.size()) ? rows[static_cast<std::size_t>(slot)] : nullptr;
 }
 

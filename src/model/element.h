@@ -53,6 +53,18 @@ std::string_view getImage(const Element& element, int slot);
 /// Stores the number of the slot's image in the compiled menu; past the last slot it does nothing.
 void setImageNo(Element& element, int slot, float number);
 
+/// Calls `f(path, number)` for each image slot in order, with the number to be set, until `f` says false.
+template <class F>
+void eachImage(Element& element, F&& f) {
+  std::visit(
+      [&f]<class E>(E& object) {
+        for (const auto* row : imageRows<E>) {
+          if (!f(object.*std::get<SharedText E::*>(row->field), object.*row->imageNo)) return;
+        }
+      },
+      element);
+}
+
 /// The text of the element's node after an edit of its name.
 SharedText NodeText(const Element& element);
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -83,6 +84,18 @@ constexpr const Property<E>* findProperty(std::string_view name) {
   }
   return nullptr;
 }
+
+/// The rows of the images in table order, which is the order of the image slots.
+template <class E>
+inline constexpr auto imageRows = [] {
+  constexpr auto count = std::ranges::count_if(E::properties(), &Property<E>::isImage);
+  std::array<const Property<E>*, static_cast<std::size_t>(count)> rows{};
+  std::size_t slot = 0;
+  for (const auto& property : E::properties()) {
+    if (property.isImage()) rows[slot++] = &property;
+  }
+  return rows;
+}();
 
 /// Whether two elements of a class agree in all stored properties.
 template <class E>

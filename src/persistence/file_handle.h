@@ -24,6 +24,9 @@ class FileHandle {
   /// The text as one that others of the file share, if it was met of late.
   const SharedText& shared(std::string_view text);
 
+  /// As in the reader of values.
+  std::string_view lastAsItStood() const { return values_.lastAsItStood(); }
+  bool skip(std::string_view asItStood) { return values_.skip(asItStood); }
   bool atEnd() const { return values_.atEnd(); }
 
   /// From here on errors tell of the next record.

@@ -14,26 +14,22 @@
 namespace nimbrel {
 namespace {
 
-using RecordReader = void (*)(FileHandle&, std::string_view FPath, SubmenuCarryOver&, Element&);
-
-void readCurrentRecord(FileHandle& file, std::string_view FPath, SubmenuCarryOver&, Element& element) {
-  ReadPropertiesFromFile20(file, FPath, element);
-}
+enum class Records { Version11, Version12, Version20 };
 
 /// One version of the menu file: how many of the compile settings its header has, whether "[Menu Tree]" ends
-/// the header, and what reads a record.
+/// the header, and which records it has.
 struct Version {
   std::string_view magic;
   std::size_t settings;
   bool hasTreeMark;
-  RecordReader readRecord;
+  Records records;
 };
 
 constexpr auto versions = std::to_array<Version>({
-    {"nbr110", 0, false, ReadPropertiesFromFile11},
-    {"nbr120", 0, false, ReadPropertiesFromFile12},
-    {"nbr130", 2, false, ReadPropertiesFromFile12},
-    {currentMagic, compileSettings.size(), true, readCurrentRecord},
+    {"nbr110", 0, false, Records::Version11},
+    {"nbr120", 0, false, Records::Version12},
+    {"nbr130", 2, false, Records::Version12},
+    {currentMagic, compileSettings.size(), true, Records::Version20},
 });
 
 void convert(FileHandle&, std::string_view, std::string_view value, std::string& field) { field = value; }
@@ -65,7 +61,12 @@ class NodeReader {
  public:
   NodeReader(FileHandle& file, const Version& version, std::string_view folder, SubmenuCarryOver& carryOver,
              Document& document)
-      : file_(file), version_(version), folder_(folder), carryOver_(carryOver), document_(document) {}
+      : file_(file),
+        records_(version.records),
+        folder_(folder),
+        carryOver_(carryOver),
+        document_(document),
+        reader20_(file, folder) {}
 
   /// Reads one node and its element, which enter the document together or not at all.
   void read() {
@@ -77,7 +78,7 @@ class NodeReader {
     Node* parent = parentOf(parentKey);
     auto element = newElement(kindOf(key));
     if (element) {
-      version_.readRecord(file_, folder_, carryOver_, *element);
+      readRecord(*element);
     } else {
       file_.note("key " + quoted(key) + " is of no known kind: a node without an element");
     }
@@ -91,6 +92,14 @@ class NodeReader {
   }
 
  private:
+  void readRecord(Element& element) {
+    switch (records_) {
+      case Records::Version11: ReadPropertiesFromFile11(file_, folder_, carryOver_, element); break;
+      case Records::Version12: ReadPropertiesFromFile12(file_, folder_, carryOver_, element); break;
+      case Records::Version20: reader20_.ReadPropertiesFromFile20(element); break;
+    }
+  }
+
   std::int16_t numberOf(std::string_view key) const {
     std::int16_t number = -1;
     const auto digits = key.substr(std::min<std::size_t>(key.size(), 1));
@@ -118,10 +127,11 @@ class NodeReader {
   }
 
   FileHandle& file_;
-  const Version& version_;
+  Records records_;
   std::string_view folder_;
   SubmenuCarryOver& carryOver_;
   Document& document_;
+  RecordReader20 reader20_;
   Node* lastParent_ = nullptr;
 };
 

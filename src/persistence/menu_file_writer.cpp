@@ -7,7 +7,6 @@
 namespace nimbrel {
 namespace {
 
-
 std::string lineOf(const std::string& value) { return value; }
 std::string lineOf(bool value) { return value ? "True" : "False"; }
 std::string lineOf(std::int32_t value) { return printedForm(value); }

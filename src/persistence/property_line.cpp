@@ -145,13 +145,21 @@ template void readProperty(FileHandle&, std::string_view, const Property<MenuObj
 template void readProperty(FileHandle&, std::string_view, const Property<SubmenuObj>&, SubmenuObj&);
 template void readProperty(FileHandle&, std::string_view, const Property<ItemObj>&, ItemObj&);
 
-void ReadPropertiesFromFile20(FileHandle& file, std::string_view FPath, Element& element) {
+void RecordReader20::ReadPropertiesFromFile20(Element& element) {
   std::visit(
-      [&]<class E>(E& object) {
-        for (const auto& property : E::properties()) readProperty(file, FPath, property, object);
+      [this]<class E>(E& object) {
+        auto& last = std::get<LastRecord<E>>(last_);
+        std::size_t i = 0;
+        for (const auto& property : E::properties()) {
+          auto& asItStood = last.values[i++];
+          if (file_.skip(asItStood)) continue;
+          readProperty(file_, FPath_, property, last.element);
+          asItStood = file_.lastAsItStood();
+        }
+        object = last.element;
       },
       element);
-  skipToMarker(file, closingMarker(kindOf(element)));
+  skipToMarker(file_, closingMarker(kindOf(element)));
 }
 
 }  // namespace nimbrel

@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
+#include <cstdint>
+#include <cstring>
 
 namespace nimbrel {
 namespace {
@@ -26,7 +29,8 @@ bool ValueReader::next(std::string_view& value) {
   if (position_ == size) return false;
 
   line_ = nextLine_;
-  std::size_t begin = position_;
+  const std::size_t first = position_;
+  std::size_t begin = first;
   std::size_t end = 0;
   if (text_[begin] == '"') {
     ++begin;
@@ -37,7 +41,29 @@ bool ValueReader::next(std::string_view& value) {
     while (end > begin && text_[end - 1] == ' ') --end;
   }
   value = text_.substr(begin, end - begin);
+  const bool endsInComma = position_ < size && text_[position_] == ',';
+  lastAsItStood_ = text_.substr(first, endsInComma ? position_ + 1 - first : 0);
   consumeDelimiter();
+  return true;
+}
+
+bool ValueReader::skip(std::string_view asItStood) {
+  constexpr std::size_t word = sizeof(std::uint64_t);
+  const std::size_t size = asItStood.size();
+  if (size == 0 || text_.size() - position_ < std::max(size, word)) return false;
+  const char* here = text_.data() + position_;
+  // Most values are shorter than a word. Both places have a whole one ahead of them in the text.
+  if (size <= word && std::endian::native == std::endian::little) {
+    std::uint64_t a = 0;
+    std::uint64_t b = 0;
+    std::memcpy(&a, here, word);
+    std::memcpy(&b, asItStood.data(), word);
+    if ((a ^ b) << (8 * (word - size)) != 0) return false;
+  } else if (std::memcmp(here, asItStood.data(), size) != 0) {
+    return false;
+  }
+  position_ += size;
+  line_ = nextLine_;
   return true;
 }
 

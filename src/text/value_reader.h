@@ -19,6 +19,14 @@ class ValueReader {
   /// Gives the next value; false where nothing but blanks is left. A last value needs no line end.
   bool next(std::string_view& value);
 
+  /// The value read last as it stood there, with its comma; empty if a line end or the end of the text ended
+  /// it.
+  std::string_view lastAsItStood() const { return lastAsItStood_; }
+
+  /// Passes over the next value if it stands there as an earlier one of the same text stood; it then says the
+  /// same. The empty view never does.
+  bool skip(std::string_view asItStood);
+
   /// Whether blanks, tabs and line ends alone are left.
   bool atEnd() const;
 
@@ -30,6 +38,7 @@ class ValueReader {
   void consumeDelimiter();
 
   std::string_view text_;
+  std::string_view lastAsItStood_;
   std::size_t position_ = 0;
   std::size_t line_ = 1;
   std::size_t nextLine_ = 1;
