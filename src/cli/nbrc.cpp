@@ -32,43 +32,51 @@ CLI::App* declare(CLI::App& app, Call& call, const std::string& name, const std:
 void declareDocumentCommands(CLI::App& app, Call& call, const Console& console, FileSystem& files) {
   auto* create = declare(app, call, "new", "Write the default document.",
                          [&] { return newCommand(console, files, call.out); });
-  create->add_option("OUT.nbr", call.out, "the menu file to make")->required();
+  create->add_option("OUT.nbr", call.out, "the menu file to make")->required()->type_name("");
 
   auto* show = declare(app, call, "show", "Print the tree, a line a node, or the whole document as JSON.",
                        [&] { return showCommand(console, files, call.menu, call.asJson); });
-  show->add_option("MENU.nbr", call.menu, "the menu file, of any version")->required();
+  show->add_option("MENU.nbr", call.menu, "the menu file, of any version")->required()->type_name("");
   show->add_flag("--json", call.asJson, "print all properties, as one JSON object");
 
   auto* convert = declare(app, call, "convert", "Read a menu file of any version and write the current one.",
                           [&] { return convertCommand(console, files, call.menu, call.out); });
-  convert->add_option("IN.nbr", call.menu, "the menu file to read")->required();
-  convert->add_option("OUT.nbr", call.out, "the menu file to write; may be the same")->required();
+  convert->add_option("IN.nbr", call.menu, "the menu file to read")->required()->type_name("");
+  convert->add_option("OUT.nbr", call.out, "the menu file to write; may be the same")
+      ->required()
+      ->type_name("");
 
   auto* check = declare(app, call, "check", "Say all in a menu file that would disappoint in the page.",
                         [&] { return checkCommand(console, files, call.menu); });
-  check->add_option("MENU.nbr", call.menu, "the menu file, of any version")->required();
+  check->add_option("MENU.nbr", call.menu, "the menu file, of any version")->required()->type_name("");
 }
 
 void declareOutputCommands(CLI::App& app, Call& call, const Console& console, FileSystem& files) {
   auto* compile =
       declare(app, call, "compile", "Compile a menu, replacing what is there; print each file made.",
               [&] { return compileCommand(console, files, call.home, call.menu, call.out); });
-  compile->add_option("MENU.nbr", call.menu, "the menu file, which is not written")->required();
+  compile->add_option("MENU.nbr", call.menu, "the menu file, which is not written")
+      ->required()
+      ->type_name("");
   compile->add_option("--to", call.out, "the compiled menu; its folder is to be there")
       ->required()
       ->type_name("DIR/NAME.js");
 
   auto* link = declare(app, call, "link", "Link a compiled menu to pages, in place.",
                        [&] { return linkCommand(console, files, call.link); });
-  link->add_option("DIR/NAME.js", call.link.compiled, "the compiled menu")->required();
-  link->add_option("PAGE", call.link.pages, "the pages")->required();
+  link->add_option("DIR/NAME.js", call.link.compiled, "the compiled menu")->required()->type_name("");
+  link->add_option("PAGE", call.link.pages, "the pages")->required()->type_name("");
   link->add_option("--alt-url", call.link.altUrl, "where browsers go that cannot show the menu")
       ->type_name("URL");
 
   auto* preview =
       declare(app, call, "preview", "Write the preview page below the program's folder; print its path.",
               [&] { return previewCommand(console, files, call.home, call.menu); });
-  preview->add_option("MENU.nbr", call.menu, "the menu file")->required();
+  preview->add_option("MENU.nbr", call.menu, "the menu file")->required()->type_name("");
+}
+
+std::string wrongCallText(const std::string& reason) {
+  return "nbrc: " + reason + "\nRun with --help for more information.\n";
 }
 
 ExitStatus runReporting(const Console& console, const Call& call) {
@@ -89,10 +97,10 @@ int nbrc(const Console& console, FileSystem& files, std::vector<std::string> wor
   CLI::App app(std::string(productTitle) + " without a screen: compiles menu files and links them to pages.",
                "nbrc");
   app.footer("Exit status: 0 done; 1 the work could not be done, or not all of it; 2 the call is wrong.");
-  app.require_subcommand(1);
   app.set_version_flag("--version",
                        "nbrc " + std::string(productVersion) + " build " + std::string(productBuild));
   app.add_option("--home", call.home, "the program's folder (libraries, dot.gif, ...)")->type_name("DIR");
+  app.failure_message([](const CLI::App*, const CLI::Error& error) { return wrongCallText(error.what()); });
   declareDocumentCommands(app, call, console, files);
   declareOutputCommands(app, call, console, files);
 
@@ -101,6 +109,10 @@ int nbrc(const Console& console, FileSystem& files, std::vector<std::string> wor
     app.parse(std::move(words));
   } catch (const CLI::ParseError& error) {
     return app.exit(error, console.out(), console.err()) == 0 ? done : wrongCall;
+  }
+  if (!call.run) {
+    console.err() << wrongCallText("A command is required");
+    return wrongCall;
   }
   return runReporting(console, call);
 }

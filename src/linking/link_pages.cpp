@@ -1,5 +1,7 @@
 #include "linking/link_pages.h"
 
+#include <utility>
+
 #include "linking/page_rewriting.h"
 
 namespace nimbrel {

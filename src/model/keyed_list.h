@@ -8,8 +8,6 @@
 #include <unordered_map>
 #include <utility>
 
-#include "text/short_hash.h"
-
 namespace nimbrel {
 
 /// An ordered collection whose values are reached by key, hashed, and by position. The order is the order of
@@ -82,8 +80,14 @@ class KeyedList {
     for (auto entry = entries_.begin(); entry != entries_.end(); ++entry) byKey_.emplace(entry->first, entry);
   }
 
+  /// Keys are a letter and a number. Numbers that follow one another are neighbours here, so that a walk
+  /// through a large document does not jump about in the memory.
   struct Hash {
-    std::size_t operator()(std::string_view key) const { return shortHash(key); }
+    std::size_t operator()(std::string_view key) const {
+      std::size_t hash = 0;
+      for (const char c : key) hash = hash * 10 + static_cast<unsigned char>(c) - '0';
+      return hash;
+    }
   };
 
   std::list<Entry> entries_;

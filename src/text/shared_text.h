@@ -14,10 +14,11 @@ namespace nimbrel {
 class SharedText {
  public:
   SharedText() = default;
-  SharedText(std::string_view text);  // NOLINT(google-explicit-constructor): a text is its bytes
-  SharedText(const std::string& text)
-      : SharedText(std::string_view(text)) {}                           // NOLINT(google-explicit-constructor)
-  SharedText(const char* text) : SharedText(std::string_view(text)) {}  // NOLINT(google-explicit-constructor)
+  // NOLINTBEGIN(google-explicit-constructor): a text is its bytes
+  SharedText(std::string_view text);
+  SharedText(const std::string& text) : SharedText(std::string_view(text)) {}
+  SharedText(const char* text) : SharedText(std::string_view(text)) {}
+  // NOLINTEND(google-explicit-constructor)
   SharedText(const SharedText& other) noexcept : shared_(other.shared_) {
     if (shared_ != nullptr) ++shared_->owners;
   }
