@@ -1,0 +1,111 @@
+#include "compiler/image_info.h"
+
+#include <gtest/gtest.h>
+
+#include "compiler/fixtures.h"
+
+namespace nimbrel {
+namespace {
+
+using namespace std::string_view_literals;
+
+struct Sample {
+  const char* name;
+  std::string bytes;
+  CImageInfo info;  // less the size of the file
+};
+
+std::string png(std::string_view depthAndColourType) {
+  return picture(33, {{0, "\x89PNG"}, {18, "\x01\x02"}, {22, "\x00\x40"sv}, {24, depthAndColourType}});
+}
+
+std::string pcx(std::string_view bits, std::string_view planes) {
+  return picture(128, {{0, "\x0A"}, {3, bits}, {4, "\x05\0\x02\0\x0E\x01\x03\0"sv}, {65, planes}});
+}
+
+// Width, height and bits a sample in an entry of each type, behind a tag that is of no interest.
+const auto littleTiff = picture(62, {{0, "II*\0\x08"sv},
+                                     {8, "\x04"},
+                                     {10, "\xFE\0\x04\0\x01\0\0\0\x07"sv},
+                                     {22, "\0\x01\x04\0\x01\0\0\0\x40\xE2\x01\0"sv},
+                                     {34, "\x01\x01\x03\0\x01\0\0\0\x50"sv},
+                                     {46, "\x02\x01\x01\0\x01\0\0\0\x08"sv}});
+const auto bigTiff = picture(50, {{0, "MM*\0\0\0\0\x08"sv},
+                                  {9, "\x03"},
+                                  {10, "\x01\0\0\x03\0\0\0\x01\x01\x02"sv},
+                                  {22, "\x01\x01\0\x04\0\0\0\x01\0\x01\xE2\x40"sv},
+                                  {34, "\x01\x02\0\x03\0\0\0\x01\0\x08"sv}});
+// Data ahead of the start, a segment to pass, fill bytes, the frame header.
+const auto jpeg = picture(
+    40, {{0, "junk\xFF\xD8\xFF\xE0\0\x06"sv}, {14, "\xFF\xFF\xFF\xC2\0\x11\x08\x02\x01\x01\x40\x03"sv}});
+
+const std::vector<Sample> samples{
+    {"gif", picture(13, {{0, "GIF89a"}, {6, "\x58\x00\x1F\x00\xB3"sv}}), {88, 31, 4, ImageType::Gif}},
+    {"png of greys", png("\x01\x00"sv), {258, 64, 1, ImageType::Png}},
+    {"png of colours", png("\x08\x02"), {258, 64, 24, ImageType::Png}},
+    {"png of a palette", png("\x04\x03"), {258, 64, 8, ImageType::Png}},
+    {"png of greys with alpha", png("\x10\x04"), {258, 64, 32, ImageType::Png}},
+    {"png of colours with alpha", png("\x10\x06"), {258, 64, 64, ImageType::Png}},
+    {"bmp",
+     picture(54, {{0, "BM"}, {18, "\x02\x01"}, {22, "\x10"}, {28, "\x18"}}),
+     {258, 16, 24, ImageType::Bmp}},
+    {"pcx", pcx("\x08", "\x03"), {266, 2, 24, ImageType::Pcx}},
+    {"tiff, little end first", littleTiff, {123456, 80, 8, ImageType::Tiff}},
+    {"tiff, big end first", bigTiff, {258, 123456, 8, ImageType::Tiff}},
+    {"jpeg", jpeg, {320, 513, 24, ImageType::Jpeg}},
+};
+
+TEST(ImageInfo, KnowsSixFormats) {
+  for (auto [name, bytes, info] : samples) {
+    info.FileSize = static_cast<std::int32_t>(bytes.size());
+    EXPECT_EQ(ReadImageInfo(bytes), info) << name;
+  }
+}
+
+TEST(ImageInfo, OfNoFormatIsZeroByZero) {
+  for (const auto& bytes : {std::string(), std::string("GI"), std::string(500, 'x'), png("\x08\x05"),
+                            picture(62, {{0, "II*\0\x08"sv}}), std::string("\xFF\xD8\xFF")}) {
+    EXPECT_EQ(ReadImageInfo(bytes), CImageInfo{.FileSize = static_cast<std::int32_t>(bytes.size())});
+  }
+}
+
+TEST(ImageInfo, ToleratesACutAtEveryLength) {
+  for (const auto& [name, bytes, info] : samples) {
+    for (std::size_t size = 0; size < bytes.size(); ++size) {
+      // A copy without spare bytes, so that the sanitizers see a read too far.
+      const std::vector<char> cut(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(size));
+      const auto found = ReadImageInfo({cut.data(), cut.size()});
+      EXPECT_EQ(found.FileSize, static_cast<std::int32_t>(size));
+      EXPECT_TRUE(found.Type == info.Type || found.Type == ImageType::Unknown) << name << size;
+    }
+  }
+}
+
+TEST(ImageInfo, KeepsWhatWasSetAheadOfTheCut) {
+  const auto& bytes = samples.front().bytes;
+  const auto cut = [&](std::size_t size) { return ReadImageInfo(std::string_view(bytes).substr(0, size)); };
+  EXPECT_EQ(cut(7), (CImageInfo{88, 0, 0, ImageType::Gif, 7})) << "one spare byte counts as zero";
+  EXPECT_EQ(cut(8), (CImageInfo{88, 0, 0, ImageType::Gif, 8}));
+  EXPECT_EQ(cut(9), (CImageInfo{88, 31, 0, ImageType::Gif, 9}));
+  const std::string_view tiff = littleTiff;
+  EXPECT_EQ(ReadImageInfo(tiff.substr(0, 40)), (CImageInfo{123456, 0, 0, ImageType::Unknown, 40}));
+  // A depth that no byte holds ends the probe too.
+  EXPECT_EQ(ReadImageInfo(pcx("\x40", "\x40")), (CImageInfo{266, 2, 0, ImageType::Pcx, 128}));
+}
+
+TEST(ImageInfo, WordsAreSigned) {
+  EXPECT_EQ(ReadImageInfo(picture(13, {{0, "GIF89a"}, {6, "\xFF\x7F\x00\x80"sv}})),
+            (CImageInfo{32767, -32768, 1, ImageType::Gif, 13}));
+  const auto wide = picture(33, {{0, "\x89PNG"}, {16, "\0\x01\0\x05\0\x02\0\x06"sv}, {24, "\x08\x03"}});
+  EXPECT_EQ(ReadImageInfo(wide).Width, 5) << "the low half of 65541";
+}
+
+TEST(ImageInfo, AJpegThatRunsInCirclesEnds) {
+  // The segment's length leads back to its own marker.
+  EXPECT_EQ(ReadImageInfo(picture(40, {{0, "\xFF\xD8\xFF\xE0\xFF\xFF"}})), CImageInfo{.FileSize = 40});
+  // Ahead of the file.
+  EXPECT_EQ(ReadImageInfo(picture(40, {{0, "\xFF\xD8\xFF\xE0\x80\x00"sv}})), CImageInfo{.FileSize = 40});
+}
+
+}  // namespace
+}  // namespace nimbrel

@@ -1,0 +1,99 @@
+#include "platform/posix/host_file_system.h"
+
+#include <gmock/gmock.h>
+#include <sys/stat.h>
+
+#include "platform/posix/host_paths.h"
+#include "support/temporary_folder.h"
+
+namespace nimbrel {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class HostFiles : public testing::Test {
+ protected:
+  /// The path of a name in the folder, in document form.
+  std::string path(const std::string& name) const { return fromHostPath((folder_ / name).string()); }
+
+  TemporaryFolder folder_;
+  HostFileSystem files_;
+};
+
+TEST_F(HostFiles, AreReadAsTheyAre) {
+  const std::string bytes("\0\r\n\xFF", 4);
+  folder_.write("Größe.nbr", bytes);
+  EXPECT_EQ(files_.read(path("Größe.nbr")), bytes);
+  folder_.write("empty", "");
+  EXPECT_EQ(files_.read(path("empty")), "");
+  EXPECT_THROW(files_.read(path("missing")), FileError);
+}
+
+TEST_F(HostFiles, AreNeitherFoldersNorPipes) {
+  fs::create_directory(folder_ / "folder");
+  ASSERT_EQ(::mkfifo((folder_ / "pipe").c_str(), 0600), 0);
+  for (const auto* name : {"folder", "pipe", "missing", ""}) {
+    EXPECT_FALSE(files_.isFile(path(name))) << name;
+    EXPECT_THROW(files_.read(path(name)), FileError) << name;
+  }
+  EXPECT_FALSE(files_.isFile(""));
+  EXPECT_TRUE(files_.isFolder(path("folder")));
+  EXPECT_FALSE(files_.isFolder(path("pipe")));
+}
+
+TEST_F(HostFiles, OfAbsurdSizeAreRefusedUnread) {
+  folder_.write("huge", "");
+  fs::resize_file(folder_ / "huge", HostFileSystem::largestFile + 1);
+  EXPECT_THROW(files_.read(path("huge")), FileError);
+}
+
+TEST_F(HostFiles, AreReplacedTogetherSaveThoseThatFail) {
+  folder_.write("a", "old");
+  const auto findings =
+      files_.replaceAll(std::vector<NewFile>{{path("a"), "new"}, {path("missing/b"), "b"}, {path("c"), "c"}});
+  ASSERT_EQ(findings.size(), 1U);
+  EXPECT_EQ(findings[0].path, path("missing/b"));
+  EXPECT_EQ(folder_.read("a"), "new");
+  EXPECT_EQ(folder_.read("c"), "c");
+}
+
+TEST_F(HostFiles, AreCopiedAndStayWholeUnderTheirOwnName) {
+  folder_.write("a.gif", "picture");
+  files_.copy(path("a.gif"), path("b.gif"));
+  EXPECT_EQ(folder_.read("b.gif"), "picture");
+  fs::create_symlink("a.gif", folder_ / "link.gif");
+  const auto before = fs::last_write_time(folder_ / "a.gif");
+  files_.copy(path("link.gif"), path("a.gif"));
+  EXPECT_EQ(folder_.read("a.gif"), "picture");
+  EXPECT_EQ(fs::last_write_time(folder_ / "a.gif"), before);
+  EXPECT_THROW(files_.copy(path("missing"), path("b.gif")), FileError);
+  EXPECT_EQ(folder_.read("b.gif"), "picture");
+}
+
+TEST_F(HostFiles, AreRemovedButNotFolders) {
+  folder_.write("a", "");
+  files_.remove(path("a"));
+  EXPECT_THROW(files_.remove(path("a")), FileError);
+  files_.makeFolder(path("folder"));
+  EXPECT_THROW(files_.remove(path("folder")), FileError);
+}
+
+TEST_F(HostFiles, LieInFoldersOfOneLevel) {
+  files_.makeFolder(path("folder"));
+  files_.makeFolder(path("folder"));
+  EXPECT_THROW(files_.makeFolder(path("missing/folder")), FileError);
+  folder_.write("file", "");
+  EXPECT_THROW(files_.makeFolder(path("file")), FileError);
+}
+
+TEST_F(HostFiles, AreListedInTheOrderOfTheirBytes) {
+  for (const auto* name : {"b", "ä", "B", "a"}) folder_.write(name, "");
+  fs::create_directory(folder_ / "folder");
+  EXPECT_THAT(files_.filesIn(path(".")), ElementsAre("B", "a", "b", "\xE4"));
+  EXPECT_THAT(files_.filesIn(path("missing")), IsEmpty());
+}
+
+}  // namespace
+}  // namespace nimbrel

@@ -1,0 +1,32 @@
+#include "platform/posix/host_paths.h"
+
+#include <filesystem>
+#include <gtest/gtest.h>
+
+namespace nimbrel {
+namespace {
+
+TEST(HostPaths, TurnSeparatorsAndNames) {
+  EXPECT_EQ(toHostPath("\\home\\me\\Gr\xF6\xDF"
+                       "e.nbr"),
+            "/home/me/Größe.nbr");
+  EXPECT_EQ(fromHostPath("/home/me/Größe.nbr"),
+            "\\home\\me\\Gr\xF6\xDF"
+            "e.nbr");
+  EXPECT_EQ(toHostPath("C:\\site\\a.gif"), "C:/site/a.gif");
+  EXPECT_EQ(toHostPath(""), "");
+}
+
+TEST(HostPaths, ComeBackWhateverTheNames) {
+  for (const auto* path : {"/a\\b/c", "/Меню/&#1052;/m.js", "/\xE4\xFF/m.js", "//a/", "a"}) {
+    EXPECT_EQ(toHostPath(fromHostPath(path)), path);
+  }
+}
+
+TEST(HostPaths, AreMadeAbsolute) {
+  EXPECT_EQ(absoluteHostPath("/a/./b/../c.nbr"), "/a/c.nbr");
+  EXPECT_EQ(absoluteHostPath("c.nbr"), std::filesystem::current_path() / "c.nbr");
+}
+
+}  // namespace
+}  // namespace nimbrel

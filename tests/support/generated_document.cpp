@@ -1,0 +1,106 @@
+#include "support/generated_document.h"
+
+#include <random>
+#include <string>
+#include <vector>
+
+#include "model/structure.h"
+
+namespace nimbrel {
+namespace {
+
+class Chance {
+ public:
+  explicit Chance(unsigned seed) : engine_(seed) {}
+
+  /// A number from 0 to `end` - 1, by our own reckoning: distributions differ between libraries.
+  std::size_t below(std::size_t end) { return engine_() % end; }
+  bool oneIn(std::size_t n) { return below(n) == 0; }
+
+ private:
+  std::mt19937 engine_;
+};
+
+constexpr char escape = '\xB3';  // comes back from a file as a comma
+
+std::string anyText(Chance& chance, std::size_t longest) {
+  std::string text(chance.below(longest + 1), ' ');
+  for (char& c : text) {
+    do c = static_cast<char>(' ' + chance.below(256 - ' '));
+    while (c == escape);
+  }
+  return text;
+}
+
+/// Less what only a value between marks keeps: outer blanks and a quote ahead; a star ahead stands for a folder.
+std::string bare(std::string text) {
+  text.erase(0, text.find_first_not_of(" \"*"));
+  text.erase(text.find_last_not_of(' ') + 1);
+  return text;
+}
+
+/// Less commas, too, which only escaped values keep.
+std::string rawText(Chance& chance, std::size_t longest) {
+  std::string text = anyText(chance, longest);
+  std::erase(text, ',');
+  return bare(std::move(text));
+}
+
+SharedText valueOf(Chance& chance, Form form) {
+  static const std::vector<std::string> frequent{"n", "", "#00FF80", "C:\\site\\pictures\\a, b.gif"};
+  static const std::vector<std::string> names{" outer blanks ", "\"quoted\"", "a, b, \"c\"", "!", ","};
+  switch (form) {
+    case Form::Marked: return chance.oneIn(2) ? names[chance.below(names.size())] : anyText(chance, 30);
+    case Form::Escaped:
+      return chance.oneIn(2) ? frequent[chance.below(frequent.size())] : bare(anyText(chance, 60));
+    default: return chance.oneIn(2) ? frequent[chance.below(3)] : rawText(chance, 12);
+  }
+}
+
+void vary(Chance& chance, Form form, SharedText& value) { value = valueOf(chance, form); }
+
+void vary(Chance& chance, Form, std::uint8_t& value) { value = static_cast<std::uint8_t>(chance.below(256)); }
+
+void vary(Chance& chance, Form form, float& value) {
+  constexpr float flagged = -1;
+  const auto whole = static_cast<float>(chance.below(2001)) - 1000;
+  const auto fraction = static_cast<float>(chance.below(16)) / 16;
+  value = form == Form::Flag ? (chance.oneIn(2) ? flagged : 0) : whole + (chance.oneIn(2) ? fraction : 0);
+}
+
+void vary(Chance& chance, std::string& value) { value = rawText(chance, 30); }
+void vary(Chance& chance, bool& value) { value = chance.oneIn(2); }
+void vary(Chance& chance, std::int32_t& value) {
+  value = static_cast<std::int32_t>(chance.below(2'000'001)) - 1'000'000;
+}
+
+void varyProperties(Chance& chance, Element& element) {
+  std::visit(
+      [&]<class E>(E& object) {
+        eachProperty<E>([&](const Property<E>& row, auto field) { vary(chance, row.form, object.*field); });
+      },
+      element);
+}
+
+}  // namespace
+
+Document generatedDocument(unsigned seed, int elements) {
+  Chance chance(seed);
+  Document document;
+  for (const CompileSetting& setting : compileSettings) {
+    std::visit([&](auto field) { vary(chance, document.settings.*field); }, setting.field);
+  }
+  std::vector<std::string> keys{AddMainMenu(document).Key};
+  while (keys.size() < static_cast<std::size_t>(elements)) {
+    const std::string at = keys[chance.below(keys.size())];
+    const Node* node = chance.oneIn(2) ? AddSubmenu(document, at) : nullptr;
+    keys.push_back(node != nullptr ? node->Key : AddItem(document, at)->Key);
+  }
+  for (auto& [key, element] : document.ElementColl) {
+    varyProperties(chance, element);
+    document.tvTreeView.find(key)->Text = NodeText(element);
+  }
+  return document;
+}
+
+}  // namespace nimbrel
