@@ -4,18 +4,21 @@ import { tmpdir } from 'node:os';
 import { join } from 'node:path';
 import { after, before, test } from 'node:test';
 import { pathToFileURL } from 'node:url';
-import { bin, itemsOf, launch, makeSite, nbrc, open, read } from './site.mjs';
+import { bin, itemsOf, launch, makeSite, nbrc, open, read, serve } from './site.mjs';
 
 let site;
 let browser;
+let server;
 
 before(async () => {
   site = makeSite();
+  server = await serve(site.folder);
   browser = await launch();
 });
 
 after(async () => {
   await browser?.close();
+  server?.stop();
   site?.remove();
 });
 
@@ -48,15 +51,20 @@ function assertWhole(list, items) {
   assert.ok(list.depth > 0);
 }
 
-test('each linked page shows the whole menu without a fault', async () => {
-  const items = itemsOf(site.menu);
-  for (const name of site.pages) {
-    const { page, faults } = await open(browser, address(site.folder, name));
-    assertWhole(await listOf(page), items);
-    assert.deepEqual(faults, [], name);
-    await page.close();
-  }
-});
+for (const [from, addressOf] of [
+  ['disk', (name) => address(site.folder, name)],
+  ['a server', (name) => `${server.address}/${name}`],
+]) {
+  test(`each linked page from ${from} shows the whole menu without a fault`, async () => {
+    const items = itemsOf(site.menu);
+    for (const name of site.pages) {
+      const { page, faults } = await open(browser, addressOf(name));
+      assertWhole(await listOf(page), items);
+      assert.deepEqual(faults, [], name);
+      await page.close();
+    }
+  });
+}
 
 test('each item leads to a place that is there', () => {
   for (const { URL: url } of itemsOf(site.menu)) {
@@ -66,15 +74,15 @@ test('each item leads to a place that is there', () => {
   }
 });
 
-test('the preview page shows the whole menu', async () => {
+test('the preview page shows the whole menu', async (t) => {
   const home = mkdtempSync(join(tmpdir(), 'nimbrel-home-'));
+  t.after(() => rmSync(home, { recursive: true }));
   cpSync(bin, home, { recursive: true });
   const path = nbrc('--home', home, 'preview', site.menu).trim();
   const { page, faults } = await open(browser, address(path));
   assertWhole(await listOf(page), itemsOf(site.menu));
   assert.deepEqual(faults, []);
   await page.close();
-  rmSync(home, { recursive: true });
 });
 
 test('both scripts of a cross-frame menu load, each in its frame', async () => {

@@ -1,8 +1,9 @@
 // What the browser tests share: the sample site compiled and linked in a temporary folder, and a browser.
 import { execFileSync } from 'node:child_process';
 import { cpSync, mkdtempSync, readdirSync, readFileSync, rmSync } from 'node:fs';
+import { createServer } from 'node:http';
 import { tmpdir } from 'node:os';
-import { join } from 'node:path';
+import { extname, join } from 'node:path';
 import puppeteer from 'puppeteer-core';
 
 export const bin = process.env.NIMBREL_BIN ?? 'build/bin';
@@ -35,6 +36,26 @@ export const launch = () => puppeteer.launch({
     '--disable-component-update', '--disable-sync'],
 });
 
+const types = {
+  '.css': 'text/css', '.gif': 'image/gif', '.html': 'text/html', '.js': 'text/javascript', '.png': 'image/png',
+};
+
+// Serves a folder on this machine alone; gives its address and how to stop. Types go out without a character
+// set, as from a server that nobody has set up.
+export async function serve(folder) {
+  const server = createServer((request, response) => {
+    const path = decodeURIComponent(new URL(request.url, 'http://localhost').pathname);
+    try {
+      const content = readFileSync(join(folder, path));
+      response.writeHead(200, { 'content-type': types[extname(path)] }).end(content);
+    } catch {
+      response.writeHead(404).end();
+    }
+  });
+  await new Promise((ready) => server.listen(0, '127.0.0.1', ready));
+  return { address: `http://127.0.0.1:${server.address().port}`, stop: () => server.close() };
+}
+
 // Opens an address; gives the page and, as they come, the faults it met.
 export async function open(browser, address) {
   const page = await browser.newPage();
@@ -42,6 +63,7 @@ export async function open(browser, address) {
   page.on('pageerror', (error) => faults.push(`error: ${error.message}`));
   page.on('console', (message) => message.type() === 'error' && faults.push(`console: ${message.text()}`));
   page.on('requestfailed', (request) => faults.push(`failed: ${request.url()}`));
+  page.on('response', (response) => response.ok() || faults.push(`${response.status()}: ${response.url()}`));
   await page.goto(address, { waitUntil: 'load' });
   return { page, faults };
 }
