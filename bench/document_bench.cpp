@@ -20,7 +20,15 @@ void report(benchmark::State& state, std::size_t bytes) {
                                                    benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
 }
 
-Document documentOf(const benchmark::State& state) { return largeDocument(static_cast<int>(state.range(0))); }
+/// As it comes from a file.
+Document documentOf(const benchmark::State& state) {
+  Document document;
+  SubmenuCarryOver carryOver;
+  Findings notes;
+  readMenuFile(menuFileText(largeDocument(static_cast<int>(state.range(0)))), "", "", carryOver, document,
+               notes);
+  return document;
+}
 
 /// A disk with the program's files, all small, and no pictures: what is timed is our own work.
 MemoryFileSystem productFiles() {

@@ -83,7 +83,7 @@
 
   Menu.prototype.build = function (parent) {
     var title = this.title;
-    if (title.name !== null || title.picture !== null) {
+    if (title.name || (title.picture !== null && title.picture >= 0)) {
       var heading = create('strong', parent);
       if (title.tooltip) heading.title = title.tooltip;
       addPicture(heading, title.picture, title.name ? '' : title.tooltip);

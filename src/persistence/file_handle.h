@@ -34,6 +34,7 @@ class FileHandle {
 
   [[noreturn]] void fail(const std::string& reason) const;
   void note(const std::string& reason);
+  std::size_t notes() const { return notes_.size(); }
 
  private:
   Finding finding(const std::string& reason) const { return {path_, reason, {record_, values_.line()}}; }

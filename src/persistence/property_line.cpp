@@ -153,8 +153,10 @@ void RecordReader20::ReadPropertiesFromFile20(Element& element) {
         for (const auto& property : E::properties()) {
           auto& asItStood = last.values[i++];
           if (file_.skip(asItStood)) continue;
+          const auto notes = file_.notes();
           readProperty(file_, FPath_, property, last.element);
-          asItStood = file_.lastAsItStood();
+          // A value of which there is something to note is looked at each time.
+          asItStood = file_.notes() == notes ? file_.lastAsItStood() : std::string_view{};
         }
         object = last.element;
       },

@@ -43,9 +43,10 @@ TEST(ElementCalls, EveryArgumentOfAMenuHasItsPlace) {
 
 TEST(ElementCalls, EveryArgumentOfASubmenuHasItsPlaceInBothForms) {
   auto submenu = titled<SubmenuObj>();
+  submenu.SubmenuType = 1;
   const std::string tail =
-      R"(,9,70,71,"SubmenuName","TitleTooltip",72,11,31,32,1,"JavascriptOnOpen","JavascriptOnClose");)";
-  EXPECT_EQ(callOf(submenu, 12), "var s12=it.addSubmenu(9,3,4,5,7,8,6" + tail.substr(2));
+      R"(,1,70,71,"SubmenuName","TitleTooltip",72,11,31,32,1,"JavascriptOnOpen","JavascriptOnClose");)";
+  EXPECT_EQ(callOf(submenu, 12), "var s12=it.addSubmenu(1,3,4,5,7,8,6" + tail.substr(2));
   EXPECT_EQ(mimicOf(submenu), "var s0=nbrCreateMenu(1,3,4,5,7,8,0,1,0,0,0,0" + tail);
   submenu.SubmenuType = 0;
   EXPECT_TRUE(callOf(submenu).ends_with(R"(,31,1,33,"JavascriptOnOpen","JavascriptOnClose");)"));
@@ -142,7 +143,8 @@ TEST(ElementCalls, NamesOfTheOtherStates) {
            {1, 1, 1, "b", "b", R"("a","b","b")"},  // never compared with each other
            {0, 1, 1, "a", "a", R"("","a","a")"},   // there is no Normal text to keep
            {2, 1, 1, "a", "a", R"("",n,n)"},       // kept: only 0 counts as none here
-           {1, 0, 2, "a", "b", R"("a","","")"},
+           {1, 0, 1, "b", "b", R"("a","","b")"},
+           {1, 1, 2, "b", "b", R"("a","b","")"},
        }) {
     auto item = withDistinctValues<ItemObj>();
     item.DisplayNameAsTitle1 = display1, item.DisplayNameAsTitle2 = display2,

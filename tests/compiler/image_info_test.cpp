@@ -29,7 +29,7 @@ const auto littleTiff = picture(62, {{0, "II*\0\x08"sv},
                                      {10, "\xFE\0\x04\0\x01\0\0\0\x07"sv},
                                      {22, "\0\x01\x04\0\x01\0\0\0\x40\xE2\x01\0"sv},
                                      {34, "\x01\x01\x03\0\x01\0\0\0\x50"sv},
-                                     {46, "\x02\x01\x01\0\x01\0\0\0\x08"sv}});
+                                     {46, "\x02\x01\x01\0\x01\0\0\0\x08\x01"sv}});
 const auto bigTiff = picture(50, {{0, "MM*\0\0\0\0\x08"sv},
                                   {9, "\x03"},
                                   {10, "\x01\0\0\x03\0\0\0\x01\x01\x02"sv},
@@ -90,7 +90,7 @@ TEST(ImageInfo, KeepsWhatWasSetAheadOfTheCut) {
   const std::string_view tiff = littleTiff;
   EXPECT_EQ(ReadImageInfo(tiff.substr(0, 40)), (CImageInfo{123456, 0, 0, ImageType::Unknown, 40}));
   // A depth that no byte holds ends the probe too.
-  EXPECT_EQ(ReadImageInfo(pcx("\x40", "\x40")), (CImageInfo{266, 2, 0, ImageType::Pcx, 128}));
+  EXPECT_EQ(ReadImageInfo(pcx("\x11", "\x11")), (CImageInfo{266, 2, 0, ImageType::Pcx, 128}));
 }
 
 TEST(ImageInfo, WordsAreSigned) {
@@ -98,6 +98,13 @@ TEST(ImageInfo, WordsAreSigned) {
             (CImageInfo{32767, -32768, 1, ImageType::Gif, 13}));
   const auto wide = picture(33, {{0, "\x89PNG"}, {16, "\0\x01\0\x05\0\x02\0\x06"sv}, {24, "\x08\x03"}});
   EXPECT_EQ(ReadImageInfo(wide).Width, 5) << "the low half of 65541";
+}
+
+TEST(ImageInfo, AJpegIsLookedForLastAndUpToTenBytesAheadOfTheEnd) {
+  EXPECT_EQ(ReadImageInfo(samples.front().bytes + jpeg).Type, ImageType::Gif);
+  const auto small = picture(13, {{0, "\xFF\xD8\xFF\xC0\0\x11\x08\0\x05\0\x06\x01"sv}});
+  EXPECT_EQ(ReadImageInfo(small), (CImageInfo{6, 5, 8, ImageType::Jpeg, 13}));
+  EXPECT_EQ(ReadImageInfo(small.substr(0, 12)), CImageInfo{.FileSize = 12});
 }
 
 TEST(ImageInfo, AJpegThatRunsInCirclesEnds) {

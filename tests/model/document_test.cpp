@@ -32,13 +32,5 @@ TEST(Document, DiffersInAnyPart) {
   EXPECT_TRUE(changed([](Document& d) { d.tvTreeView.addRoot("X1", ""); }));
 }
 
-TEST(Document, GivesElementsByNodeAndClass) {
-  Document document = generatedDocument(1, 3);
-  Node& root = *document.tvTreeView.root();
-  EXPECT_NE(document.get<MenuObj>(root), nullptr);
-  EXPECT_EQ(document.get<ItemObj>(root), nullptr);
-  EXPECT_EQ(document.element(document.tvTreeView.addRoot("X1", "")), nullptr);
-}
-
 }  // namespace
 }  // namespace nimbrel

@@ -222,11 +222,5 @@ TEST(NodeText, OfAnItemShowsItsNamesOnceTheyDiffer) {
   EXPECT_EQ(NodeText(item), "Home - Home - Go");
 }
 
-TEST(NewElement, IsEmptyAndOfItsKind) {
-  for (const Kind kind : {Kind::Menu, Kind::Submenu, Kind::Item}) EXPECT_EQ(kindOf(*newElement(kind)), kind);
-  EXPECT_EQ(newElement(Kind::Item), Element(ItemObj{}));
-  EXPECT_FALSE(newElement(Kind::None));
-}
-
 }  // namespace
 }  // namespace nimbrel

@@ -45,17 +45,6 @@ TEST(KeyedList, RemovesByItsOwnKeyAndIgnoresForeignOnes) {
   EXPECT_THAT(valuesOf(list), ElementsAre(3, 5));
 }
 
-TEST(KeyedList, CopiesStandAloneAndMovedValuesStayInPlace) {
-  KeyedList<int> list = sample();
-  const KeyedList<int> copy = list;
-  const int* five = list.find("I5");
-  KeyedList<int> moved = std::move(list);
-  moved.remove("I3");
-  EXPECT_EQ(moved.find("I5"), five);
-  EXPECT_EQ(*copy.find("I3"), 3);
-  EXPECT_NE(copy.find("I5"), five);
-}
-
 TEST(KeyedList, TellsKeysApartThatDifferOnlyInTheMiddle) {
   KeyedList<int> list;
   for (int i = 0; i < 500; ++i) list.add("I0000000" + std::to_string(1000 + i) + "00000001", i);

@@ -1,21 +1,9 @@
 #include "platform/memory/memory_file_system.h"
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 namespace nimbrel {
 namespace {
-
-using testing::ElementsAre;
-
-TEST(MemoryFileSystem, KnowsFilesAndTheFoldersThatHoldThem) {
-  MemoryFileSystem files;
-  files.files = {{"C:\\site\\b.js", "b"}, {"C:\\site\\a.js", "a"}, {"C:\\site\\js\\c.js", "c"}};
-  EXPECT_TRUE(files.isFile("C:\\site\\a.js"));
-  EXPECT_FALSE(files.isFile("C:\\site"));
-  EXPECT_TRUE(files.isFolder("C:\\site"));
-  EXPECT_FALSE(files.isFolder("C:\\sit"));
-  EXPECT_THAT(files.filesIn("C:\\site"), ElementsAre("a.js", "b.js"));
-}
 
 TEST(MemoryFileSystem, NeedsTheFolderOfWhatIsWritten) {
   MemoryFileSystem files;

@@ -34,7 +34,7 @@ class Includes(unittest.TestCase):
     def test_arrows_point_down(self):
         for path in sorted((SOURCE / "src").rglob("*.[ch]*")):
             folder, *below = path.relative_to(SOURCE / "src").parts
-            for kind, name in re.findall(r'^#include ([<"])(.+)[>"]', path.read_text(), re.MULTILINE):
+            for kind, name in re.findall(r'^\s*#\s*include\s*([<"])(.+)[>"]', path.read_text(), re.MULTILINE):
                 with self.subTest(file=str(path), include=name):
                     allowed = self.own if kind == '"' else self.foreign
                     self.assertTrue(allowed(name, folder, below))

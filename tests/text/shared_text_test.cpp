@@ -35,12 +35,5 @@ TEST(SharedText, IsAssignedToItselfAndMoved) {
   EXPECT_EQ(other, "nn");
 }
 
-TEST(SharedText, EqualsByBytes) {
-  EXPECT_EQ(SharedText("ab"), SharedText("ab"));
-  EXPECT_FALSE(SharedText("ab") == SharedText("ac"));
-  EXPECT_FALSE(SharedText("ab") == SharedText());
-  EXPECT_EQ(SharedText(), std::string_view());
-}
-
 }  // namespace
 }  // namespace nimbrel

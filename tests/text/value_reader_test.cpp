@@ -56,6 +56,13 @@ TEST(ValueReader, KnowsTheLineOfTheLastValueAndTheEnd) {
   while (!reader.atEnd() && reader.next(value)) lines.push_back(reader.line());
   EXPECT_THAT(lines, ElementsAre(1, 1, 2, 3, 4));
   EXPECT_EQ(value, "d");
+
+  ValueReader repeating("n,\r\nn,rest of it");
+  repeating.next(value);
+  const auto asItStood = repeating.lastAsItStood();
+  repeating.next(value);
+  EXPECT_TRUE(repeating.skip(asItStood));
+  EXPECT_EQ(repeating.line(), 2U);
 }
 
 /// The values that are left once the first one has been read and the next one passed over, if it could be.

@@ -27,7 +27,7 @@ namespace fs = std::filesystem;
 
 bool HostFileSystem::isFile(std::string_view path) const {
   std::error_code error;
-  return fs::is_regular_file(toHostPath(path), error);
+  return path.find('\0') == std::string_view::npos && fs::is_regular_file(toHostPath(path), error);
 }
 
 bool HostFileSystem::isFolder(std::string_view path) const {
@@ -36,6 +36,7 @@ bool HostFileSystem::isFolder(std::string_view path) const {
 }
 
 std::string HostFileSystem::read(std::string_view path) const {
+  if (path.find('\0') != std::string_view::npos) throw FileError(std::string(path), "is no path");
   // Not to block: a pipe without a writer must not hang the program ahead of the look at what it is.
   const Handle file(::open(toHostPath(path).c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
   if (!file.isOpen()) fail(path, errno);

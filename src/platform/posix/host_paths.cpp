@@ -31,6 +31,7 @@ std::string fromHostPath(std::string_view hostPath) {
 }
 
 std::string absoluteHostPath(std::string_view hostPath) {
+  if (hostPath.empty()) return {};
   return std::filesystem::absolute(hostPath).lexically_normal().string();
 }
 

@@ -9,7 +9,7 @@ namespace nimbrel {
 std::string toHostPath(std::string_view documentPath);
 std::string fromHostPath(std::string_view hostPath);
 
-/// The path from the root without "." and ".." steps; links are not looked at.
+/// The path from the root without "." and ".." steps; links are not looked at. An empty path stays empty.
 std::string absoluteHostPath(std::string_view hostPath);
 
 }  // namespace nimbrel

@@ -64,8 +64,13 @@ Handle::~Handle() { close(); }
 
 bool Handle::close() { return !isOpen() || ::close(std::exchange(descriptor_, -1)) == 0; }
 
-Replacement::Replacement(std::string_view documentPath, std::string_view bytes)
+Replacement::Replacement(std::string_view documentPath)
     : documentPath_(documentPath), target_(endOfLinks(toHostPath(documentPath))) {
+  if (documentPath.find('\0') != std::string_view::npos) throw FileError(documentPath_, "is no path");
+}
+
+// From here on the object stands, so that its end takes away what a failing step leaves.
+Replacement::Replacement(std::string_view documentPath, std::string_view bytes) : Replacement(documentPath) {
   open(folderOf(target_));
   takePlace();
   if (!writeAll(file_.get(), bytes)) fail(documentPath_);
@@ -77,7 +82,11 @@ Replacement::~Replacement() {
 
 /// Without a name, so that not even a kill leaves anything behind; with one where the system knows no other.
 void Replacement::open(const fs::path& folder) {
-  file_ = Handle(::open(folder.c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, S_IRUSR | S_IWUSR));
+  const bool canBeNamed = ::access("/proc/self/fd", X_OK) == 0;
+  errno = EOPNOTSUPP;
+  if (canBeNamed) {
+    file_ = Handle(::open(folder.c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, S_IRUSR | S_IWUSR));
+  }
   if (file_.isOpen()) return;
   if (errno != EOPNOTSUPP && errno != EISDIR && errno != EINVAL) fail(documentPath_);
   name_ = (folder / ".nimbrel-XXXXXX").string();

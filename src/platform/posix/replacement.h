@@ -46,6 +46,7 @@ class Replacement {
   void commit();
 
  private:
+  explicit Replacement(std::string_view documentPath);
   void open(const std::filesystem::path& folder);
   void takePlace();
   void nameIn(const std::filesystem::path& folder);

@@ -13,7 +13,7 @@ nbrMenuPath=mpi.substring(0,mpi.length-16);
 var nua=navigator.userAgent,scriptNo=(nua.indexOf('Gecko')>-1)?2:((document.layers)?3:((nua.indexOf('Opera')>-1)?4:((nua.indexOf('Mac')>-1)?5:1)));
 document.write("<SCRIPT SRC='"+nbrMenuPath+nbrLibraryPath+"/nbrlib"+scriptNo+".js'><\/SCRIPT>");
 var n=null;
-nbrzindex='auto';
+nbrzindex=-0.5;
 }
 
 var nbrSubmenusFrame='';
