@@ -14,13 +14,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (!holds) std::abort();
   };
   require(info.FileSize == static_cast<std::int32_t>(size));
-  require(info.Type >= ImageType::Unknown && info.Type <= ImageType::Tiff);
+  require(info.ImageType >= ImageFormat::Unknown && info.ImageType <= ImageFormat::Tiff);
   require(info == ReadImageInfo(bytes));
 
   const bool isTiff = bytes.starts_with("II*") || bytes.starts_with("MM*");
-  if (info.Type == ImageType::Tiff) require(isTiff && info.Width > 0 && info.Height > 0 && info.Depth > 0);
+  if (info.ImageType == ImageFormat::Tiff) require(isTiff && info.Width > 0 && info.Height > 0 && info.Depth > 0);
   constexpr std::int32_t mostOfWords = 65536;  // the difference of two, and one
   if (!isTiff) require(std::abs(info.Width) <= mostOfWords && std::abs(info.Height) <= mostOfWords);
-  if (info.Type == ImageType::Unknown && !isTiff) require(info.Width == 0 && info.Height == 0);
+  if (info.ImageType == ImageFormat::Unknown && !isTiff) require(info.Width == 0 && info.Height == 0);
   return 0;
 }

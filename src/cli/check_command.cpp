@@ -1,11 +1,9 @@
 #include "cli/commands.h"
-#include "cli/menu_input.h"
 #include "compiler/inspection.h"
 
 namespace nimbrel {
 
-ExitStatus checkCommand(const Console& console, const FileSystem& files, const std::string& menu) {
-  MenuInput input(menu);
+ExitStatus checkCommand(const Console& console, const FileSystem& files, MenuInput& input) {
   Findings findings;
   try {
     input.load(files);

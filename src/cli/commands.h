@@ -5,21 +5,22 @@
 #include <vector>
 
 #include "cli/console.h"
+#include "cli/menu_input.h"
 #include "platform/file_system.h"
 
-/// The subcommands of `nbrc`. Paths are the system's own, as they stand in the call. An error of the files is
+/// The subcommands of `nbrc`. Each takes the menu file that it works on, not loaded yet. Other paths are the system's own, as they stand in the call. An error of the files is
 /// thrown as `FileError` and reported by the caller.
 namespace nimbrel {
 
 ExitStatus newCommand(const Console& console, FileSystem& files, const std::string& out);
 
-ExitStatus showCommand(const Console& console, const FileSystem& files, const std::string& menu, bool asJson);
+ExitStatus showCommand(const Console& console, const FileSystem& files, MenuInput& input, bool asJson);
 
-ExitStatus convertCommand(const Console& console, FileSystem& files, const std::string& in,
+ExitStatus convertCommand(const Console& console, FileSystem& files, MenuInput& input,
                           const std::string& out);
 
 ExitStatus compileCommand(const Console& console, FileSystem& files, const std::optional<std::string>& home,
-                          const std::string& menu, const std::string& to);
+                          MenuInput& input, const std::string& to);
 
 struct LinkCall {
   std::string compiled;
@@ -29,8 +30,8 @@ struct LinkCall {
 ExitStatus linkCommand(const Console& console, FileSystem& files, const LinkCall& call);
 
 ExitStatus previewCommand(const Console& console, FileSystem& files, const std::optional<std::string>& home,
-                          const std::string& menu);
+                          MenuInput& input);
 
-ExitStatus checkCommand(const Console& console, const FileSystem& files, const std::string& menu);
+ExitStatus checkCommand(const Console& console, const FileSystem& files, MenuInput& input);
 
 }  // namespace nimbrel

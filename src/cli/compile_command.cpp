@@ -1,7 +1,6 @@
 #include <filesystem>
 
 #include "cli/commands.h"
-#include "cli/menu_input.h"
 #include "compiler/compile.h"
 #include "platform/posix/host_paths.h"
 #include "platform/posix/program_folder.h"
@@ -19,8 +18,7 @@ std::string compiledFolder(const std::filesystem::path& to) {
 }  // namespace
 
 ExitStatus compileCommand(const Console& console, FileSystem& files, const std::optional<std::string>& home,
-                          const std::string& menu, const std::string& to) {
-  MenuInput input(menu);
+                          MenuInput& input, const std::string& to) {
   input.load(files);
   auto& settings = input.document.settings;
   settings.CompiledPath = compiledFolder(to);

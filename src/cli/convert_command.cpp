@@ -1,12 +1,10 @@
 #include "cli/commands.h"
-#include "cli/menu_input.h"
 #include "platform/posix/host_paths.h"
 
 namespace nimbrel {
 
-ExitStatus convertCommand(const Console& console, FileSystem& files, const std::string& in,
+ExitStatus convertCommand(const Console& console, FileSystem& files, MenuInput& input,
                           const std::string& out) {
-  MenuInput input(in);
   input.load(files);
   console.faults(input.notes);
   SaveMenuFile(files, fromHostPath(out), input.document);

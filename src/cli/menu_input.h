@@ -1,5 +1,6 @@
 #pragma once
 
+#include <deque>
 #include <string>
 
 #include "model/document.h"
@@ -18,5 +19,9 @@ struct MenuInput {
   Document document;
   Findings notes;
 };
+
+/// The menu files of a run. They outlive its commands: a process ends sooner than it could take a large
+/// document apart.
+using MenuInputs = std::deque<MenuInput>;
 
 }  // namespace nimbrel

@@ -13,12 +13,17 @@ namespace {
 
 /// The words of a call, as the parser fills them in, and what is to be done with them.
 struct Call {
+  explicit Call(MenuInputs& m) : menus(m) {}
+
+  MenuInputs& menus;
   std::optional<std::string> home;
   std::string menu;
   std::string out;
   LinkCall link;
   bool asJson = false;
   std::function<ExitStatus()> run;
+
+  MenuInput& input() const { return menus.emplace_back(menu); }
 };
 
 /// Declares a subcommand that runs `command` when it was named.
@@ -35,26 +40,26 @@ void declareDocumentCommands(CLI::App& app, Call& call, const Console& console, 
   create->add_option("OUT.nbr", call.out, "the menu file to make")->required()->type_name("");
 
   auto* show = declare(app, call, "show", "Print the tree, a line a node, or the whole document as JSON.",
-                       [&] { return showCommand(console, files, call.menu, call.asJson); });
+                       [&] { return showCommand(console, files, call.input(), call.asJson); });
   show->add_option("MENU.nbr", call.menu, "the menu file, of any version")->required()->type_name("");
   show->add_flag("--json", call.asJson, "print all properties, as one JSON object");
 
   auto* convert = declare(app, call, "convert", "Read a menu file of any version and write the current one.",
-                          [&] { return convertCommand(console, files, call.menu, call.out); });
+                          [&] { return convertCommand(console, files, call.input(), call.out); });
   convert->add_option("IN.nbr", call.menu, "the menu file to read")->required()->type_name("");
   convert->add_option("OUT.nbr", call.out, "the menu file to write; may be the same")
       ->required()
       ->type_name("");
 
   auto* check = declare(app, call, "check", "Say all in a menu file that would disappoint in the page.",
-                        [&] { return checkCommand(console, files, call.menu); });
+                        [&] { return checkCommand(console, files, call.input()); });
   check->add_option("MENU.nbr", call.menu, "the menu file, of any version")->required()->type_name("");
 }
 
 void declareOutputCommands(CLI::App& app, Call& call, const Console& console, FileSystem& files) {
   auto* compile =
       declare(app, call, "compile", "Compile a menu, replacing what is there; print each file made.",
-              [&] { return compileCommand(console, files, call.home, call.menu, call.out); });
+              [&] { return compileCommand(console, files, call.home, call.input(), call.out); });
   compile->add_option("MENU.nbr", call.menu, "the menu file, which is not written")
       ->required()
       ->type_name("");
@@ -71,7 +76,7 @@ void declareOutputCommands(CLI::App& app, Call& call, const Console& console, Fi
 
   auto* preview =
       declare(app, call, "preview", "Write the preview page below the program's folder; print its path.",
-              [&] { return previewCommand(console, files, call.home, call.menu); });
+              [&] { return previewCommand(console, files, call.home, call.input()); });
   preview->add_option("MENU.nbr", call.menu, "the menu file")->required()->type_name("");
 }
 
@@ -92,8 +97,8 @@ ExitStatus runReporting(const Console& console, const Call& call) {
 
 }  // namespace
 
-int nbrc(const Console& console, FileSystem& files, std::vector<std::string> words) {
-  Call call;
+int nbrc(const Console& console, FileSystem& files, std::vector<std::string> words, MenuInputs& menus) {
+  Call call(menus);
   CLI::App app(std::string(productTitle) + " without a screen: compiles menu files and links them to pages.",
                "nbrc");
   app.footer("Exit status: 0 done; 1 the work could not be done, or not all of it; 2 the call is wrong.");

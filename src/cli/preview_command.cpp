@@ -1,5 +1,4 @@
 #include "cli/commands.h"
-#include "cli/menu_input.h"
 #include "compiler/compile.h"
 #include "platform/posix/host_paths.h"
 #include "platform/posix/program_folder.h"
@@ -8,8 +7,7 @@
 namespace nimbrel {
 
 ExitStatus previewCommand(const Console& console, FileSystem& files, const std::optional<std::string>& home,
-                          const std::string& menu) {
-  MenuInput input(menu);
+                          MenuInput& input) {
   input.load(files);
   if (const auto* refusal = refusalOfCompile(input.document)) {
     console.fault(input.path, *refusal);

@@ -3,7 +3,6 @@
 
 #include "cli/commands.h"
 #include "cli/json.h"
-#include "cli/menu_input.h"
 
 namespace nimbrel {
 namespace {
@@ -49,9 +48,7 @@ void showJson(std::ostream& out, const Document& document) {
 
 }  // namespace
 
-ExitStatus showCommand(const Console& console, const FileSystem& files, const std::string& menu,
-                       bool asJson) {
-  MenuInput input(menu);
+ExitStatus showCommand(const Console& console, const FileSystem& files, MenuInput& input, bool asJson) {
   if (asJson) {
     input.load(files);
     showJson(console.out(), input.document);

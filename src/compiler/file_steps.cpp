@@ -1,8 +1,20 @@
 #include "compiler/file_steps.h"
 
+#include <algorithm>
+
 #include "text/paths.h"
 
 namespace nimbrel {
+
+namespace {
+
+/// What is made or met twice is told once.
+template <class T>
+void addNew(std::vector<T>& list, T entry) {
+  if (std::ranges::find(list, entry) == list.end()) list.push_back(std::move(entry));
+}
+
+}  // namespace
 
 template <class Step>
 bool FileSteps::attempt(Step step) {
@@ -10,17 +22,19 @@ bool FileSteps::attempt(Step step) {
     step();
     return true;
   } catch (const FileError& error) {
-    report_.findings.push_back(error.finding());
+    note(error.finding());
     return false;
   }
 }
 
+void FileSteps::note(Finding finding) { addNew(report_.findings, std::move(finding)); }
+
 void FileSteps::copy(std::string_view from, std::string_view to) {
-  if (attempt([&] { files_.copy(from, to); })) report_.made.emplace_back(to);
+  if (attempt([&] { files_.copy(from, to); })) addNew(report_.made, std::string(to));
 }
 
 void FileSteps::generate(std::string_view path, std::string_view bytes) {
-  if (attempt([&] { files_.generate(path, bytes); })) report_.made.emplace_back(path);
+  if (attempt([&] { files_.generate(path, bytes); })) addNew(report_.made, std::string(path));
 }
 
 void FileSteps::makeFolder(std::string_view path) {

@@ -24,7 +24,7 @@ class FileSteps {
   void generate(std::string_view path, std::string_view bytes);
   void makeFolder(std::string_view path);
   void removeFilesIn(std::string_view folder);
-  void note(Finding finding) { report_.findings.push_back(std::move(finding)); }
+  void note(Finding finding);
 
  private:
   template <class Step>

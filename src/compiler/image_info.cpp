@@ -46,7 +46,7 @@ std::uint8_t depthOf(int bits) {
 }
 
 void readPng(const Buffer& buffer, CImageInfo& info) {
-  info.Type = ImageType::Png;
+  info.ImageType = ImageFormat::Png;
   constexpr int bitDepthAt = 24;
   constexpr int colourTypeAt = 25;
   switch (buffer.at(colourTypeAt)) {
@@ -55,7 +55,7 @@ void readPng(const Buffer& buffer, CImageInfo& info) {
     case 3: info.Depth = 8; break;
     case 4: info.Depth = depthOf(buffer.at(bitDepthAt) * 2); break;
     case 6: info.Depth = depthOf(buffer.at(bitDepthAt) * 4); break;
-    default: info.Type = ImageType::Unknown; return;
+    default: info.ImageType = ImageFormat::Unknown; return;
   }
   // kept: only the low halves of the 32-bit sizes are read.
   info.Width = buffer.BigWord(18);
@@ -63,21 +63,21 @@ void readPng(const Buffer& buffer, CImageInfo& info) {
 }
 
 void readGif(const Buffer& buffer, CImageInfo& info) {
-  info.Type = ImageType::Gif;
+  info.ImageType = ImageFormat::Gif;
   info.Width = buffer.LittleWord(6);
   info.Height = buffer.LittleWord(8);
   info.Depth = depthOf((buffer.at(10) & 7) + 1);
 }
 
 void readBmp(const Buffer& buffer, CImageInfo& info) {
-  info.Type = ImageType::Bmp;
+  info.ImageType = ImageFormat::Bmp;
   info.Width = buffer.LittleWord(18);
   info.Height = buffer.LittleWord(22);
   info.Depth = depthOf(buffer.at(28));
 }
 
 void readPcx(const Buffer& buffer, CImageInfo& info) {
-  info.Type = ImageType::Pcx;
+  info.ImageType = ImageFormat::Pcx;
   info.Width = buffer.LittleWord(8) - buffer.LittleWord(4) + 1;
   info.Height = buffer.LittleWord(10) - buffer.LittleWord(6) + 1;
   info.Depth = depthOf(buffer.at(65) * buffer.at(3));
@@ -102,7 +102,7 @@ class TiffReader {
       }
     }
     if (info.Depth > 0 && info.Width > 0 && info.Height > 0) {
-      info.Type = ImageType::Tiff;
+      info.ImageType = ImageFormat::Tiff;
     } else {
       info = CImageInfo{.FileSize = info.FileSize};
     }
@@ -141,7 +141,7 @@ void readJpeg(std::string_view bytes, const Buffer& buffer, CImageInfo& info) {
     const std::int64_t marker = position + 1;
     if (!seen.insert(marker).second) return;
     if (buffer.at(marker) >= 192 && buffer.at(marker) <= 195) {
-      info.Type = ImageType::Jpeg;
+      info.ImageType = ImageFormat::Jpeg;
       info.Height = buffer.BigWord(marker + 4);
       info.Width = buffer.BigWord(marker + 6);
       info.Depth = depthOf(buffer.at(marker + 8) * 8);
@@ -159,7 +159,7 @@ void probe(std::string_view bytes, CImageInfo& info) {
   if (bytes.starts_with('\x0A')) readPcx(buffer, info);
   if (bytes.starts_with("II*")) TiffReader(buffer, false).read(info);
   if (bytes.starts_with("MM*")) TiffReader(buffer, true).read(info);
-  if (info.Type == ImageType::Unknown) readJpeg(bytes, buffer, info);
+  if (info.ImageType == ImageFormat::Unknown) readJpeg(bytes, buffer, info);
 }
 
 }  // namespace

@@ -5,7 +5,7 @@
 
 namespace nimbrel {
 
-enum class ImageType : std::int32_t { Unknown = 0, Gif = 1, Jpeg = 2, Png = 3, Bmp = 4, Pcx = 5, Tiff = 6 };
+enum class ImageFormat : std::int32_t { Unknown = 0, Gif = 1, Jpeg = 2, Png = 3, Bmp = 4, Pcx = 5, Tiff = 6 };
 
 /// What the header of a picture file says. Of a file that is cut off it holds what was found ahead of the
 /// cut; of one of no known format the size is 0 by 0.
@@ -13,7 +13,7 @@ struct CImageInfo {
   std::int32_t Width = 0;   ///< pixels
   std::int32_t Height = 0;  ///< pixels
   std::uint8_t Depth = 0;   ///< bits a pixel
-  ImageType Type = ImageType::Unknown;
+  ImageFormat ImageType = ImageFormat::Unknown;
   std::int32_t FileSize = 0;  ///< bytes
 
   bool operator==(const CImageInfo&) const = default;

@@ -81,7 +81,7 @@ class Inspector {
       return;
     }
     try {
-      if (ReadImageInfo(files_.read(picture)).Type == ImageType::Unknown) {
+      if (ReadImageInfo(files_.read(picture)).ImageType == ImageFormat::Unknown) {
         findings_.push_back({picture, "is of no known picture format (used by " + key + ")"});
       }
     } catch (const FileError& error) {

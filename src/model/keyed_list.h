@@ -34,6 +34,9 @@ class KeyedList {
   auto begin() { return entries_.begin(); }
   auto end() { return entries_.end(); }
 
+  /// Makes room for so many in the index, which then need not grow on the way.
+  void reserve(std::size_t size) { byKey_.reserve(size); }
+
   /// Throws `std::invalid_argument` where the key is taken.
   Entry& add(std::string key, T value) {
     entries_.emplace_back(std::move(key), std::move(value));

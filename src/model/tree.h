@@ -57,6 +57,7 @@ class Tree {
 
   std::size_t size() const { return nodes_.size(); }
   bool empty() const { return nodes_.empty(); }
+  void reserve(std::size_t size) { nodes_.reserve(size); }
   /// The first root, none in an empty tree.
   Node* root() const { return firstRoot_; }
   Node* find(std::string_view key);

@@ -160,6 +160,9 @@ void readMenuFile(std::string_view bytes, const std::string& path, std::string_v
   if (version == versions.end()) throw NotAMenuFile(path);
 
   readHeader(file, *version, document.settings);
+  constexpr std::size_t usualRecord = 300;  // bytes; a guess that is off costs little
+  document.tvTreeView.reserve(bytes.size() / usualRecord);
+  document.ElementColl.reserve(bytes.size() / usualRecord);
   NodeReader nodes(file, *version, folder, carryOver, document);
   try {
     while (!file.atEnd()) nodes.read();

@@ -16,9 +16,25 @@ constexpr auto endsValue = [] {
   return ends;
 }();
 
+/// Eight bytes at once: the top bit is set in the first byte that is `wanted`, and in none ahead of it.
+constexpr std::uint64_t holding(std::uint64_t bytes, char wanted) {
+  constexpr std::uint64_t ones = 0x0101010101010101;
+  constexpr std::uint64_t topBits = 0x8080808080808080;
+  const std::uint64_t different = bytes ^ (ones * static_cast<unsigned char>(wanted));
+  return (different - ones) & ~different & topBits;
+}
+
 }  // namespace
 
 std::size_t ValueReader::endOfValue(std::size_t position) const {
+  constexpr std::size_t word = sizeof(std::uint64_t);
+  while (std::endian::native == std::endian::little && position + word <= text_.size()) {
+    std::uint64_t bytes = 0;
+    std::memcpy(&bytes, text_.data() + position, word);
+    const auto ends = holding(bytes, ',') | holding(bytes, '\r') | holding(bytes, '\n');
+    if (ends != 0) return position + static_cast<std::size_t>(std::countr_zero(ends)) / 8;
+    position += word;
+  }
   while (position < text_.size() && !endsValue[static_cast<unsigned char>(text_[position])]) ++position;
   return position;
 }

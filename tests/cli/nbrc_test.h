@@ -37,7 +37,8 @@ class NbrcTest : public testing::Test {
   Outcome run(std::vector<std::string> words) { return runOn(files, std::move(words)); }
   static Outcome runOn(FileSystem& files, std::vector<std::string> words, bool errIsTerminal = false) {
     std::ostringstream out, err;
-    const int status = nbrc(Console(out, err, errIsTerminal), files, std::move(words));
+    MenuInputs menus;
+    const int status = nbrc(Console(out, err, errIsTerminal), files, std::move(words), menus);
     return {status, out.str(), err.str()};
   }
 

@@ -40,19 +40,19 @@ const auto jpeg = picture(
     40, {{0, "junk\xFF\xD8\xFF\xE0\0\x06"sv}, {14, "\xFF\xFF\xFF\xC2\0\x11\x08\x02\x01\x01\x40\x03"sv}});
 
 const std::vector<Sample> samples{
-    {"gif", picture(13, {{0, "GIF89a"}, {6, "\x58\x00\x1F\x00\xB3"sv}}), {88, 31, 4, ImageType::Gif}},
-    {"png of greys", png("\x01\x00"sv), {258, 64, 1, ImageType::Png}},
-    {"png of colours", png("\x08\x02"), {258, 64, 24, ImageType::Png}},
-    {"png of a palette", png("\x04\x03"), {258, 64, 8, ImageType::Png}},
-    {"png of greys with alpha", png("\x10\x04"), {258, 64, 32, ImageType::Png}},
-    {"png of colours with alpha", png("\x10\x06"), {258, 64, 64, ImageType::Png}},
+    {"gif", picture(13, {{0, "GIF89a"}, {6, "\x58\x00\x1F\x00\xB3"sv}}), {88, 31, 4, ImageFormat::Gif}},
+    {"png of greys", png("\x01\x00"sv), {258, 64, 1, ImageFormat::Png}},
+    {"png of colours", png("\x08\x02"), {258, 64, 24, ImageFormat::Png}},
+    {"png of a palette", png("\x04\x03"), {258, 64, 8, ImageFormat::Png}},
+    {"png of greys with alpha", png("\x10\x04"), {258, 64, 32, ImageFormat::Png}},
+    {"png of colours with alpha", png("\x10\x06"), {258, 64, 64, ImageFormat::Png}},
     {"bmp",
      picture(54, {{0, "BM"}, {18, "\x02\x01"}, {22, "\x10"}, {28, "\x18"}}),
-     {258, 16, 24, ImageType::Bmp}},
-    {"pcx", pcx("\x08", "\x03"), {266, 2, 24, ImageType::Pcx}},
-    {"tiff, little end first", littleTiff, {123456, 80, 8, ImageType::Tiff}},
-    {"tiff, big end first", bigTiff, {258, 123456, 8, ImageType::Tiff}},
-    {"jpeg", jpeg, {320, 513, 24, ImageType::Jpeg}},
+     {258, 16, 24, ImageFormat::Bmp}},
+    {"pcx", pcx("\x08", "\x03"), {266, 2, 24, ImageFormat::Pcx}},
+    {"tiff, little end first", littleTiff, {123456, 80, 8, ImageFormat::Tiff}},
+    {"tiff, big end first", bigTiff, {258, 123456, 8, ImageFormat::Tiff}},
+    {"jpeg", jpeg, {320, 513, 24, ImageFormat::Jpeg}},
 };
 
 TEST(ImageInfo, KnowsSixFormats) {
@@ -76,7 +76,8 @@ TEST(ImageInfo, ToleratesACutAtEveryLength) {
       const std::vector<char> cut(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(size));
       const auto found = ReadImageInfo({cut.data(), cut.size()});
       EXPECT_EQ(found.FileSize, static_cast<std::int32_t>(size));
-      EXPECT_TRUE(found.Type == info.Type || found.Type == ImageType::Unknown) << name << size;
+      EXPECT_TRUE(found.ImageType == info.ImageType || found.ImageType == ImageFormat::Unknown)
+          << name << size;
     }
   }
 }
@@ -84,26 +85,26 @@ TEST(ImageInfo, ToleratesACutAtEveryLength) {
 TEST(ImageInfo, KeepsWhatWasSetAheadOfTheCut) {
   const auto& bytes = samples.front().bytes;
   const auto cut = [&](std::size_t size) { return ReadImageInfo(std::string_view(bytes).substr(0, size)); };
-  EXPECT_EQ(cut(7), (CImageInfo{88, 0, 0, ImageType::Gif, 7})) << "one spare byte counts as zero";
-  EXPECT_EQ(cut(8), (CImageInfo{88, 0, 0, ImageType::Gif, 8}));
-  EXPECT_EQ(cut(9), (CImageInfo{88, 31, 0, ImageType::Gif, 9}));
+  EXPECT_EQ(cut(7), (CImageInfo{88, 0, 0, ImageFormat::Gif, 7})) << "one spare byte counts as zero";
+  EXPECT_EQ(cut(8), (CImageInfo{88, 0, 0, ImageFormat::Gif, 8}));
+  EXPECT_EQ(cut(9), (CImageInfo{88, 31, 0, ImageFormat::Gif, 9}));
   const std::string_view tiff = littleTiff;
-  EXPECT_EQ(ReadImageInfo(tiff.substr(0, 40)), (CImageInfo{123456, 0, 0, ImageType::Unknown, 40}));
+  EXPECT_EQ(ReadImageInfo(tiff.substr(0, 40)), (CImageInfo{123456, 0, 0, ImageFormat::Unknown, 40}));
   // A depth that no byte holds ends the probe too.
-  EXPECT_EQ(ReadImageInfo(pcx("\x11", "\x11")), (CImageInfo{266, 2, 0, ImageType::Pcx, 128}));
+  EXPECT_EQ(ReadImageInfo(pcx("\x11", "\x11")), (CImageInfo{266, 2, 0, ImageFormat::Pcx, 128}));
 }
 
 TEST(ImageInfo, WordsAreSigned) {
   EXPECT_EQ(ReadImageInfo(picture(13, {{0, "GIF89a"}, {6, "\xFF\x7F\x00\x80"sv}})),
-            (CImageInfo{32767, -32768, 1, ImageType::Gif, 13}));
+            (CImageInfo{32767, -32768, 1, ImageFormat::Gif, 13}));
   const auto wide = picture(33, {{0, "\x89PNG"}, {16, "\0\x01\0\x05\0\x02\0\x06"sv}, {24, "\x08\x03"}});
   EXPECT_EQ(ReadImageInfo(wide).Width, 5) << "the low half of 65541";
 }
 
 TEST(ImageInfo, AJpegIsLookedForLastAndUpToTenBytesAheadOfTheEnd) {
-  EXPECT_EQ(ReadImageInfo(samples.front().bytes + jpeg).Type, ImageType::Gif);
+  EXPECT_EQ(ReadImageInfo(samples.front().bytes + jpeg).ImageType, ImageFormat::Gif);
   const auto small = picture(13, {{0, "\xFF\xD8\xFF\xC0\0\x11\x08\0\x05\0\x06\x01"sv}});
-  EXPECT_EQ(ReadImageInfo(small), (CImageInfo{6, 5, 8, ImageType::Jpeg, 13}));
+  EXPECT_EQ(ReadImageInfo(small), (CImageInfo{6, 5, 8, ImageFormat::Jpeg, 13}));
   EXPECT_EQ(ReadImageInfo(small.substr(0, 12)), CImageInfo{.FileSize = 12});
 }
 
