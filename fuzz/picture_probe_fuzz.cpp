@@ -18,7 +18,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   require(info == ReadImageInfo(bytes));
 
   const bool isTiff = bytes.starts_with("II*") || bytes.starts_with("MM*");
-  if (info.ImageType == ImageFormat::Tiff) require(isTiff && info.Width > 0 && info.Height > 0 && info.Depth > 0);
+  if (info.ImageType == ImageFormat::Tiff)
+    require(isTiff && info.Width > 0 && info.Height > 0 && info.Depth > 0);
   constexpr std::int32_t mostOfWords = 65536;  // the difference of two, and one
   if (!isTiff) require(std::abs(info.Width) <= mostOfWords && std::abs(info.Height) <= mostOfWords);
   if (info.ImageType == ImageFormat::Unknown && !isTiff) require(info.Width == 0 && info.Height == 0);
