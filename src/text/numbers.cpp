@@ -35,7 +35,8 @@ std::optional<T> parseReal(std::string_view text) {
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
   if (end != text.data() + text.size()) return std::nullopt;
   // Too small for its type is zero, too large is no value.
-  const bool hasNegativeExponent = text.find("e-") != text.npos || text.find("E-") != text.npos;
+  constexpr auto none = std::string_view::npos;
+  const bool hasNegativeExponent = text.find("e-") != none || text.find("E-") != none;
   if (error == std::errc::result_out_of_range && hasNegativeExponent) return T{0};
   return error == std::errc{} ? std::optional(value) : std::nullopt;
 }
