@@ -1,0 +1,133 @@
+// Times how menus are built and opened in the browsers. How and why: README.md.
+import { launch, open } from '../../tests/browser/support/browsers.mjs';
+import { serve, Site } from '../../tests/browser/support/site.mjs';
+import { sizes } from './menus.mjs';
+import { forms, openerOf, submenuSizes, writeOpeningPage } from './pages.mjs';
+
+const ROUNDS = Number(process.argv[2] ?? 7);
+const OPENINGS = 11;
+const buildLimits = { 1000: 1, 10000: 1.2 };
+const openingLimits = { 20: 2, 1000: 10 };
+
+const median = (values) => [...values].sort((a, b) => a - b)[values.length >> 1];
+const pageOf = (form, size) => `${form.name.replace(' ', '-')}-${size}.html`;
+const verdict = (value, limit, unit) => (limit ? `limit ${limit}${unit}${value <= limit ? '' : '  MISSED'}` : '');
+
+function writeSite() {
+  const site = new Site();
+  for (const size of sizes) for (const form of forms) form.write(site, pageOf(form, size), size);
+  writeOpeningPage(site, 'opening.html');
+  return site;
+}
+
+// Opens an address as a visitor who was never there, and gives what the script tells of the page.
+async function sample(browser, address, script, ...values) {
+  const context = await browser.createBrowserContext();
+  try {
+    const visitor = await open(context, address);
+    const told = await visitor.run(script, ...values);
+    if (visitor.faults.length) throw new Error(`${address}: ${visitor.faults.join('; ')}`);
+    return told;
+  } finally {
+    await context.close();
+  }
+}
+
+async function readTimes() {
+  while (!window.times.painted) await new Promise((done) => setTimeout(done, 5));
+  const host = document.querySelector('[data-nbr-menu]');
+  const nodes = host ? host.shadowRoot.querySelectorAll('.item') : document.querySelectorAll('#menu a');
+  return { ...window.times, nodes: nodes.length };
+}
+
+async function timeBuilding(browser, base, form, size) {
+  const times = await sample(browser, `${base}/${pageOf(form, size)}`, readTimes);
+  if (times.nodes !== form.nodes(size)) throw new Error(`${form.name}: ${times.nodes} nodes for ${size} items`);
+  return {
+    load: times.start - times.load, built: times.built - times.start,
+    laidOut: times.laidOut - times.start, painted: times.painted - times.start,
+  };
+}
+
+// Presses the item of that name again and again; gives how long each press took until its panel was laid out.
+async function press(name, count, times) {
+  const root = document.querySelector('[data-nbr-menu]').shadowRoot;
+  const item = [...root.querySelectorAll('.item')].find((node) => node.textContent === name);
+  const send = (node, type) => node.dispatchEvent(new PointerEvent(type, { bubbles: true, composed: true, pointerType: 'mouse' }));
+  const painted = () => new Promise((done) => requestAnimationFrame(() => requestAnimationFrame(done)));
+  const results = [];
+  for (let time = 0; time < times; time++) {
+    await painted();
+    const start = performance.now();
+    send(item, 'pointerdown');
+    const panel = [...root.querySelectorAll('.panel')].at(-1);
+    const { height } = panel.getBoundingClientRect();
+    results.push(performance.now() - start);
+    if (panel.querySelectorAll('.item').length !== count || !height) throw new Error(`${name} has not opened`);
+    await painted();
+    send(item, 'pointerup');
+    send(document.body, 'pointerdown');
+    if (root.querySelectorAll('.panel').length !== 1) throw new Error(`${name} has not closed`);
+  }
+  return results;
+}
+
+async function building(browser, base) {
+  const samples = {};
+  for (let round = 0; round < ROUNDS; round++) {
+    for (const size of sizes) {
+      for (const form of forms) {
+        (samples[pageOf(form, size)] ??= []).push(await timeBuilding(browser, base, form, size));
+      }
+    }
+  }
+  const of = (form, size, part) => median(samples[pageOf(form, size)].map((times) => times[part]));
+  const rows = sizes.flatMap((size) => forms.map((form) => {
+    const ratio = of(form, size, 'laidOut') / of(forms[0], size, 'laidOut');
+    const limit = form.name === 'nimbrel' ? buildLimits[size] : null;
+    const parts = ['load', 'built', 'laidOut', 'painted'].map((part) => of(form, size, part).toFixed(1));
+    return [size, form.name, ...parts, ratio.toFixed(2), verdict(ratio, limit, '')];
+  }));
+  print(['items', 'form', 'load', 'built', 'laid out', 'painted', 'ratio', ''], rows);
+}
+
+async function opening(browser, base) {
+  const samples = Object.fromEntries(submenuSizes.map((count) => [count, []]));
+  for (let round = 0; round < ROUNDS; round++) {
+    for (const count of submenuSizes) {
+      samples[count].push(await sample(browser, `${base}/opening.html`, press, openerOf(count), count, OPENINGS));
+    }
+  }
+  print(['items', 'first', 'all', ''], submenuSizes.map((count) => {
+    const all = median(samples[count].flat());
+    return [count, median(samples[count].map(([first]) => first)).toFixed(2), all.toFixed(2), verdict(all, openingLimits[count], ' ms')];
+  }));
+}
+
+function print(head, rows) {
+  const widths = head.map((_, column) => Math.max(...[head, ...rows].map((row) => String(row[column]).length)));
+  const isText = (column) => ['form', ''].includes(head[column]);
+  for (const row of [head, ...rows]) {
+    const cells = row.map((cell, column) => String(cell)[isText(column) ? 'padEnd' : 'padStart'](widths[column]));
+    console.log(cells.join('  ').trimEnd());
+  }
+}
+
+const site = writeSite();
+const server = await serve(site.folder);
+try {
+  for (const name of ['Chromium', 'Firefox']) {
+    const browser = await launch(name);
+    try {
+      console.log(`\n${await browser.version()}, building: medians of ${ROUNDS} pages in ms`);
+      await building(browser, server.address);
+      console.log(`opening a submenu, in ms: medians of ${ROUNDS} pages, ${OPENINGS} openings each`);
+      await opening(browser, server.address);
+    } finally {
+      await browser.close();
+    }
+  }
+} finally {
+  server.stop();
+  site.remove();
+}

@@ -1,0 +1,60 @@
+// The nodes that a title and an item are made of.
+
+export function create(tag, className) {
+  var node = document.createElement(tag);
+  if (className) node.className = className;
+  return node;
+}
+
+export function isPlain(text) {
+  return text.indexOf('<') < 0 && text.indexOf('&') < 0;
+}
+
+// Nothing in a document without a window is loaded or run.
+var inert = document.implementation.createHTMLDocument('');
+
+// The text that markup shows, with what its pictures stand for.
+export function plainText(markup) {
+  if (!markup || isPlain(markup)) return (markup || '').trim();
+  inert.body.innerHTML = markup;
+  var text = inert.body.textContent;
+  var pictures = inert.body.querySelectorAll('img[alt]');
+  for (var i = 0; i < pictures.length; i++) text += ' ' + pictures[i].alt;
+  return text.replace(/\s+/g, ' ').trim();
+}
+
+// Names are markup, as their authors wrote them.
+function textNode(text) {
+  var node = create('span', 'text');
+  if (isPlain(text)) node.textContent = text;
+  else node.innerHTML = text;
+  return node;
+}
+
+function pictureNode(className, picture) {
+  var node = create('img', className);
+  node.alt = '';
+  node.draggable = false;
+  if (picture.width > 0 && picture.height > 0) {
+    node.width = picture.width;
+    node.height = picture.height;
+  }
+  node.src = picture.address;
+  return node;
+}
+
+// Fills an element with a text, a picture in one of four places (0 above, 1 right, 2 below, 3 left of the text) and
+// an arrow at its end; what is null or empty is left out. Gives whether there is more than text.
+export function fill(element, text, picture, place, arrow) {
+  var parts = Boolean(picture || arrow);
+  if (!parts && isPlain(text)) {
+    element.textContent = text;
+    return false;
+  }
+  element.textContent = '';
+  var content = parts ? element.appendChild(create('span', 'content place' + place)) : element;
+  if (picture) content.appendChild(pictureNode('picture', picture));
+  if (text) content.appendChild(textNode(text));
+  if (arrow) element.appendChild(pictureNode('arrow', arrow));
+  return parts;
+}

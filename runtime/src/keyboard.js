@@ -1,0 +1,129 @@
+// The keyboard and the focus.
+
+import { keyAction } from './keys.js';
+import { itemAt } from './pointer.js';
+
+function moveBy(view, item, step) {
+  var panel = view.panelOf(item);
+  moveTo(view, panel, view.itemFrom(panel, panel.menu.items.indexOf(item), step));
+}
+
+// Beside an open submenu the next one opens, and the focus stays in the panel.
+function moveTo(view, panel, item) {
+  if (!item) return;
+  var wasOpen = view.panels.length > panel.depth + 1 || Boolean(view.remote && view.remote.item && !panel.depth);
+  if (wasOpen && !view.isOpen(item)) view.closeFrom(panel.depth + 1);
+  view.focus(item);
+  if (wasOpen) view.open(item);
+}
+
+// The item of the main menu in whose submenus the focus is, and from there the one beside it.
+function moveInBar(view, step) {
+  if (view.owner) {
+    view.owner.moveInBar(step);
+    return;
+  }
+  var item = view.panels[1].menu.item;
+  var panel = view.main();
+  moveTo(view, panel, view.itemFrom(panel, panel.menu.items.indexOf(item), step));
+}
+
+function find(view, item, letter) {
+  var panel = view.panelOf(item);
+  var next = item;
+  letter = letter.toLowerCase();
+  do {
+    next = view.itemFrom(panel, panel.menu.items.indexOf(next), 1);
+    var name = next.element.getAttribute('aria-label') || next.element.textContent;
+    if (name.trim().charAt(0).toLowerCase() === letter) {
+      moveTo(view, panel, next);
+      return;
+    }
+  } while (next !== item);
+}
+
+// What is done for each answer of keyAction. One that gives false leaves the key to the browser.
+var ACTIONS = {
+  next: function (view, item) { moveBy(view, item, 1); },
+  previous: function (view, item) { moveBy(view, item, -1); },
+  first: function (view, item) { moveTo(view, view.panelOf(item), view.firstItem(view.panelOf(item), 1)); },
+  last: function (view, item) { moveTo(view, view.panelOf(item), view.firstItem(view.panelOf(item), -1)); },
+  open: function (view, item) { view.open(item, 'first'); },
+  openLast: function (view, item) { view.open(item, 'last'); },
+  nextOfBar: function (view) { moveInBar(view, 1); },
+  previousOfBar: function (view) { moveInBar(view, -1); },
+  find: function (view, item, event) { find(view, item, event.key); },
+  closeAll: function (view) { return view.closeAll(); },
+
+  back: function (view, item) {
+    var depth = view.panelOf(item).depth;
+    if (depth === 0 && view.owner) view.owner.takeFocus();
+    view.closeFrom(depth);
+  },
+
+  activate: function (view, item, event) {
+    view.pointer.byKey = true;
+    if (event.key === 'Enter' && item.element.href) return false;
+    item.element.click();
+    return true;
+  },
+
+  // The browser moves on from where the focus is, which must be a place that stays.
+  leave: function (view) {
+    view.leaving = true;
+    if (view.owner) view.owner.takeFocus();
+    else if (!view.isPopup) view.focus(view.tabStop);
+    view.closeAll();
+    view.leaving = false;
+    return false;
+  }
+};
+
+function situationOf(view, item) {
+  var panel = view.panelOf(item);
+  var owner = view.owner;
+  return {
+    horizontal: panel.across,
+    depth: panel.depth + (owner ? 1 : 0),
+    popup: view.isPopup,
+    barAbove: owner ? owner.across : view.main().across,
+    submenu: view.opens(item),
+    rtl: view.layer.rtl
+  };
+}
+
+function onKeyDown(view, event) {
+  var item = itemAt(view, event);
+  if (!item || event.target !== item.element || event.ctrlKey || event.altKey || event.metaKey) return;
+  var action = keyAction(event.key, situationOf(view, item));
+  view.pointer.hover.stop();
+  view.pointer.isIdle = true;
+  if (!action || ACTIONS[action](view, item, event) === false) return;
+  event.preventDefault();
+  event.stopPropagation();
+}
+
+function onFocusIn(view, event) {
+  var item = itemAt(view, event);
+  if (!item || view.leaving) return;
+  view.setTabStop(item);
+  // A focus that the mouse has left behind, or that returns when a submenu closes, is no coming of the visitor.
+  if (item.element.matches(':focus-visible')) view.point(item, event);
+}
+
+function onFocusOut(view, event) {
+  if (view.leaving || view.layer.contains(event.relatedTarget)) return;
+  if (!view.pointer.isInside) view.point(null, event);
+  if (event.relatedTarget) view.closeAll();
+}
+
+export function listenToKeyboard(view) {
+  var layer = view.layer.element;
+  layer.addEventListener('keydown', function (event) { onKeyDown(view, event); });
+  layer.addEventListener('focusin', function (event) { onFocusIn(view, event); });
+  layer.addEventListener('focusout', function (event) { onFocusOut(view, event); });
+  // What the mouse has opened is closed from wherever the focus is.
+  document.addEventListener('keydown', function (event) {
+    if (event.key === 'Escape' && !view.layer.focused()) view.closeAll();
+  });
+}

@@ -1,0 +1,315 @@
+// A menu as it stands in the page: its layer and the chain of open panels, from the main menu's to the deepest
+// submenu's. What the author of the page or the visitor does comes in through `show`, `open`, `closeFrom`, `point` and
+// `press`; the modules that listen to pointer and keyboard decide which.
+
+import { run } from './commands.js';
+import { placeMain, placeSubmenu, boxAt, keepInside, shifted } from './geometry.js';
+import { markCurrent, markOpening, nameOfMenu, showState } from './item_element.js';
+import { Layer } from './layer.js';
+import { Panel } from './panel.js';
+import { directionOf, DURATION, mirroredDirection, unfoldingFrames } from './unfolding.js';
+
+function prefersStill() {
+  return !window.matchMedia || window.matchMedia('(prefers-reduced-motion: reduce)').matches;
+}
+
+// Remote: the submenus of another frame, or null.
+export function View(menu, group, remote) {
+  this.menu = menu;
+  this.group = group;
+  this.options = menu.options;
+  this.isPopup = Number(menu.options.popup) === 1;
+  this.isBar = Number(menu.options.type) === 2;
+  this.isSticky = Number(menu.options.sticky) === 1;
+  this.panels = [];
+  this.pointed = null;  // the item that the pointer or the keyboard is at
+  this.pressed = null;
+  this.tabStop = null;
+  this.openedAt = 0;    // when a submenu was last opened, in milliseconds
+  this.closedAt = 0;    // when a popup last vanished
+  this.wanted = null;   // where a popup was asked for, or a drag has left the menu: {left, top} in the layer
+  this.owner = null;    // the main menu in another frame whose submenu this is, and how to stand beside its item
+  this.beside = null;
+  this.opener = null;   // what the focus returns to
+  this.layer = new Layer(group, menu.options);
+  this.label = nameOfMenu(group, menu);
+  this.remote = remote;
+  if (remote) remote.attach(this);
+}
+
+View.prototype = {
+  main: function () { return this.panels[0]; },
+
+  isShown: function () { return this.panels.length > 0; },
+
+  opens: function (item) {
+    return Boolean(item.submenu) || Boolean(this.remote && this.remote.has(item));
+  },
+
+  opensOnHover: function (item) {
+    return item.submenu ? Number(item.submenu.options.when) === 0 : this.remote.opensOnHover(item);
+  },
+
+  panelOf: function (item) {
+    for (var i = 0; i < this.panels.length; i++) if (this.panels[i].menu === item.menu) return this.panels[i];
+    return null;
+  },
+
+  // The panel of an item's submenu, if it is open here.
+  submenuPanel: function (item) {
+    var panel = this.panelOf(item);
+    var next = panel && this.panels[panel.depth + 1];
+    return next && next.menu === item.submenu ? next : null;
+  },
+
+  isOpen: function (item) {
+    return Boolean(this.submenuPanel(item)) || Boolean(this.remote && this.remote.item === item);
+  },
+
+  // Shows the main menu. Where: a point {left, top} of the window, or null for the place that its author chose.
+  show: function (where) {
+    this.wanted = null;
+    if (where) {
+      var area = this.layer.area();
+      this.wanted = { left: where.left + area.left, top: where.top + area.top };
+    }
+    if (this.isShown()) {
+      this.settle();
+      return;
+    }
+    this.add(this.menu, null);
+    this.setTabStop(this.firstItem(this.main(), 1));
+    this.unfold(this.main());
+  },
+
+  add: function (menu, parent) {
+    var self = this;
+    var panel = new Panel(this.group, menu, parent, function (item) { return self.opens(item); });
+    this.panels.push(panel);
+    this.window = this.layer.windowSize(); // asked for while the page is laid out
+    this.layer.element.appendChild(panel.element);
+    this.place(panel);
+    for (var i = 0; i < menu.items.length; i++) this.group.preload(menu.items[i]);
+    run(menu.options.onOpen);
+    return panel;
+  },
+
+  // Places what is open anew: the window, the page or the menu's content has changed its size.
+  settle: function () {
+    this.layer.settle();
+    this.window = this.layer.windowSize();
+    for (var i = 0; i < this.panels.length; i++) this.place(this.panels[i]);
+  },
+
+  place: function (panel) {
+    if (panel.depth > 0 || this.beside) this.placeBeside(panel);
+    else this.placeAlone(panel);
+  },
+
+  requestFor: function (panel) {
+    var parent = panel.parent;
+    var sameAxis = parent.parent && parent.parent.across === parent.across;
+    return {
+      item: parent.boxOf(panel.menu.item), parent: parent.box, vertical: !parent.across,
+      side: Number(panel.menu.options.side), preferred: sameAxis ? parent.side : 0
+    };
+  },
+
+  // The size is taken first, in the one layout that it needs.
+  placeBeside: function (panel) {
+    var options = panel.menu.options;
+    var size = panel.measure(this.window.width, this.window.height);
+    var request = panel.depth > 0 ? this.requestFor(panel) : this.beside();
+    request.size = size;
+    request.area = this.layer.area();
+    request.align = Number(options.align);
+    request.distance = Number(options.distance);
+    request.rtl = this.layer.rtl;
+    var place = placeSubmenu(request);
+    panel.side = place.side;
+    panel.vertical = request.vertical;
+    panel.moveTo(place, size);
+  },
+
+  placeAlone: function (panel) {
+    var options = this.options;
+    var window = this.window;
+    var area = boxAt(0, 0, window);
+    var style = panel.element.style;
+    if (this.isBar) {
+      style.position = 'fixed'; // out of the page, whose width is measured
+      var width = this.layer.pageWidth();
+      style.position = '';
+      style.width = width + 'px';
+    }
+    var size = panel.measure(this.isBar ? null : window.width, this.layer.driftsDown() ? window.height : null);
+    var place = placeMain(size, area, Number(options.corner), Number(options.horizontal), Number(options.vertical));
+    if (this.isBar) place.left = 0;
+    if (this.wanted) place = keepInside(this.wanted.left, this.wanted.top, size, this.layer.area());
+    panel.moveTo(place, size);
+  },
+
+  // Puts the main menu where it has been dragged, as far as it stays in reach.
+  dragTo: function (left, top) {
+    this.wanted = { left: left, top: top };
+    var box = this.main().box;
+    var size = { width: box.right - box.left, height: box.bottom - box.top };
+    this.main().moveTo(keepInside(left, top, size, this.layer.area()), size);
+  },
+
+  unfold: function (panel) {
+    var options = panel.menu.options;
+    var direction = directionOf(Number(options.unfold), panel.vertical !== false, panel.side || 1);
+    if (this.layer.rtl) direction = mirroredDirection(direction);
+    var frames = unfoldingFrames(Number(options.how), direction);
+    if (!frames || prefersStill() || !panel.element.animate) return;
+    frames.forEach(function (frame) {
+      if (frame.transform) frame.transform = panel.offset + frame.transform;
+    });
+    var pointer = this.pointer;
+    var animation = panel.element.animate(frames, { duration: DURATION, easing: 'ease-out' });
+    animation.onfinish = function () { pointer.look(); };
+  },
+
+  // Opens the submenu of an item. Focus: 'first' or 'last' item of it, or nothing to leave the focus where it is.
+  open: function (item, focus) {
+    var parent = this.panelOf(item);
+    if (!parent || !this.opens(item)) return;
+    if (!this.isOpen(item)) {
+      this.closeFrom(parent.depth + 1);
+      this.openedAt = Date.now();
+      if (item.submenu) this.unfold(this.add(item.submenu, parent));
+      else this.remote.open(item, focus);
+      item.element.setAttribute('aria-expanded', 'true');
+      this.showState(item);
+    } else if (!item.submenu && focus) {
+      this.remote.focus(focus);
+    }
+    var panel = this.submenuPanel(item);
+    if (focus && panel) this.focus(this.firstItem(panel, focus === 'last' ? -1 : 1));
+  },
+
+  // Closes the panels from a depth on, the deepest first. Depth 0 is the main menu itself.
+  closeFrom: function (depth) {
+    if (depth <= 1 && this.remote) this.remote.close();
+    while (this.panels.length > depth) this.closeLast();
+  },
+
+  closeLast: function () {
+    var panel = this.panels[this.panels.length - 1];
+    var item = panel.menu.item;
+    var hadFocus = panel.element.contains(this.layer.focused());
+    if (this.pointed && this.pointed.menu === panel.menu) this.point(null);
+    if (this.pressed && this.pressed.menu === panel.menu) this.pressed = null;
+    if (hadFocus && this.panels.length > 1) this.focus(item);
+    this.panels.pop();
+    panel.remove();
+    if (this.panels.length) this.markClosed(item);
+    else this.vanished(hadFocus);
+    run(panel.menu.options.onClose);
+  },
+
+  markClosed: function (item) {
+    if (!item.element) return;
+    item.element.setAttribute('aria-expanded', 'false');
+    this.showState(item);
+  },
+
+  // Closes what is open: the submenus, and the menu itself if it is a popup.
+  closeAll: function () {
+    var isOpen = this.panels.length > (this.isPopup ? 0 : 1) || Boolean(this.remote && this.remote.item);
+    this.closeFrom(this.isPopup ? 0 : 1);
+    return isOpen;
+  },
+
+  vanished: function (hadFocus) {
+    this.closedAt = Date.now();
+    if (hadFocus && this.opener && this.opener.focus) this.opener.focus();
+    this.opener = null;
+    if (this.owner) this.owner.closed();
+  },
+
+  showState: function (item, anew) {
+    if (!item || !item.element) return;
+    var state = item === this.pressed ? 2 : item === this.pointed || this.isOpen(item) ? 1 : 0;
+    showState(this.group, item, state, this.opens(item), anew);
+  },
+
+  // The pointer or the keyboard has come to an item, or has left with null; the authors' commands run.
+  point: function (item, event) {
+    var left = this.pointed;
+    if (item === left) return;
+    this.pointed = item;
+    this.showState(left);
+    this.showState(item);
+    window.status = item ? item.status() : '';
+    if (left) run(left.command(0), event);
+    if (item) run(item.command(1), event);
+  },
+
+  press: function (item) {
+    var released = this.pressed;
+    this.pressed = item;
+    this.showState(released);
+    this.showState(item);
+  },
+
+  // The first item in the direction of step that can take the focus; lines and gaps cannot.
+  firstItem: function (panel, step) {
+    return this.itemFrom(panel, step > 0 ? -1 : panel.menu.items.length, step);
+  },
+
+  // The next one behind an index, round the ends; null if there is none.
+  itemFrom: function (panel, index, step) {
+    var items = panel.menu.items;
+    for (var n = 0; n < items.length; n++) {
+      index = (index + step + items.length) % items.length;
+      if (items[index].element.getAttribute('role') === 'menuitem') return items[index];
+    }
+    return null;
+  },
+
+  focus: function (item) {
+    if (item && item.element) item.element.focus();
+  },
+
+  // One item of the main menu is reached by Tab, the one that had the focus last.
+  setTabStop: function (item) {
+    if (!item || item.menu !== this.menu) return;
+    if (this.tabStop && this.tabStop.element) this.tabStop.element.tabIndex = -1;
+    this.tabStop = item;
+    item.element.tabIndex = 0;
+  },
+
+  // Another frame has changed: items may have got or lost their submenus.
+  refreshOpenings: function () {
+    if (!this.isShown()) return;
+    var items = this.menu.items;
+    for (var i = 0; i < items.length; i++) {
+      var opens = this.opens(items[i]);
+      if (opens === items[i].element.hasAttribute('aria-haspopup')) continue;
+      if (opens) markOpening(items[i]);
+      else unmarkOpening(items[i].element);
+      this.showState(items[i], true);
+    }
+    this.settle();
+  },
+
+  markCurrent: function () {
+    for (var i = 0; i < this.panels.length; i++) this.panels[i].menu.items.forEach(markCurrent);
+  },
+
+  // The box of an item and of its panel in the window.
+  boxesOf: function (item) {
+    var panel = this.panelOf(item);
+    var area = this.layer.area();
+    return {
+      item: shifted(panel.boxOf(item), -area.left, -area.top), parent: shifted(panel.box, -area.left, -area.top)
+    };
+  }
+};
+
+function unmarkOpening(element) {
+  element.removeAttribute('aria-haspopup');
+  element.removeAttribute('aria-expanded');
+}
