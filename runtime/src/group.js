@@ -1,7 +1,7 @@
 // A group is what one call of buildMenu takes: the styles and pictures that its numbers refer to, and the settings
 // of the script at that time. A page's next menu sets all of them anew.
 
-import { styleSheet } from './style_sheet.js';
+import { borderWidth, styleSheet } from './style_sheet.js';
 
 // Names stand in the script with references for characters that its encoding lacks.
 function decoded(name) {
@@ -67,6 +67,14 @@ Group.prototype = {
   // The state in which an item shows itself; the lighter build knows no third one.
   stateOf: function (state) {
     return this.optimized ? Math.min(state, 1) : state;
+  },
+
+  // The widest border of an item's states if they differ, else 0.
+  edgeOf: function (item) {
+    var styles = this.styles;
+    var widths = [0, 1, this.stateOf(2)].map(function (state) { return borderWidth(styles[item.style(state)]); });
+    var widest = Math.max.apply(null, widths);
+    return widest === Math.min.apply(null, widths) ? 0 : widest;
   },
 
   // Loads what an item shows in its other states, so that it is there when it is wanted.

@@ -25,14 +25,17 @@ function isLive(item) {
   return item.submenu || item.url() !== null || item.command(2) !== null || item.command(1) !== null;
 }
 
-function templateOf(group, style) {
-  if (!group.templates[style]) {
+function templateOf(group, item) {
+  var style = item.style(0);
+  var key = [style, item.style(1), item.style(2)].join();
+  if (!group.templates[key]) {
     var node = create('a', 'item s' + style);
     node.setAttribute('role', 'menuitem');
     node.tabIndex = -1;
-    group.templates[style] = node;
+    if (group.edgeOf(item)) node.style.setProperty('--edge', group.edgeOf(item) + 'px');
+    group.templates[key] = node;
   }
-  return group.templates[style].cloneNode(false);
+  return group.templates[key].cloneNode(false);
 }
 
 // The last part of an address without what is behind "?" and "#": most links to elsewhere differ in it, so that few
@@ -95,7 +98,7 @@ function nameElement(group, item) {
 // Builds the element of an item in its Normal state. Opens: whether it has a submenu. Notes: the element that takes
 // what describes items, which must not count as part of their text.
 export function buildItem(group, item, opens, notes) {
-  var element = templateOf(group, item.style(0));
+  var element = templateOf(group, item);
   element.nbrItem = item;
   item.element = element;
   item.state = 0;

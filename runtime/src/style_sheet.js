@@ -51,9 +51,19 @@ function clean(value) {
   return String(value).replace(/[{}<>;\\]/g, '');
 }
 
-function border(style, width, colour) {
-  if (style === 'none') return 'border:0;';
-  return 'border:' + Number(width) + 'px ' + clean(style) + (colour === null ? '' : ' ' + clean(colour)) + ';';
+function border(values) {
+  if (!borderWidth(values)) return 'border:0;';
+  return 'border:' + borderWidth(values) + 'px ' + clean(values[8]) + ' ' + clean(values[10] || '') + ';';
+}
+
+// An item whose states have borders of different widths keeps room for the widest, `--edge`, so that nothing moves.
+function padding(values) {
+  var edge = borderWidth(values) + 'px';
+  return 'padding:calc(' + Number(values[11]) + 'px + var(--edge,' + edge + ') - ' + edge + ');';
+}
+
+export function borderWidth(values) {
+  return values[8] === 'none' ? 0 : Number(values[9]);
 }
 
 function background(colour, url) {
@@ -65,10 +75,10 @@ function background(colour, url) {
 // picture, font, decoration, border style, width and colour, padding, cursor. Kind 1 is a container, which has no
 // text of its own. Picture: the address of the background, or null.
 export function styleRule(number, values, picture) {
-  var rule = background(values[4], picture) + border(values[8], values[9], values[10]);
+  var rule = background(values[4], picture) + border(values);
   if (values[1] !== 1) {
     rule += 'text-align:' + (ALIGNMENTS[values[2]] || 'start') + ';--at:' + (FLEX[values[2]] || FLEX[0]) +
-      ';--against:' + (FLEX[2 - values[2]] || FLEX[2]) + ';padding:' + Number(values[11]) + 'px;cursor:' +
+      ';--against:' + (FLEX[2 - values[2]] || FLEX[2]) + ';' + padding(values) + 'cursor:' +
       (CURSORS[values[12]] || CURSORS[0]) + ';text-decoration:' + (values[7] || 'none') + ';' +
       (values[3] === null ? '' : 'color:' + clean(values[3]) + ';') +
       (values[6] === null ? '' : 'font:' + clean(values[6]) + ';');

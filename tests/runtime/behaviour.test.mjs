@@ -67,7 +67,7 @@ test('a panel unfolds towards its side, in two ways', () => {
 test('a style is one rule, whatever its values hold', () => {
   const values = [1, 2, 2, '#111111', null, 3, 'italic 12pt serif', 'underline', 'solid', 2, '#222222', 7, 1];
   assert.equal(styleRule(4, values, 'a/b.png'), '.s4{background-image:url("a/b.png");border:2px solid #222222;' +
-    'text-align:end;--at:flex-end;--against:flex-start;padding:7px;cursor:pointer;text-decoration:underline;' +
+    'text-align:end;--at:flex-end;--against:flex-start;padding:calc(7px + var(--edge,2px) - 2px);cursor:pointer;text-decoration:underline;' +
     'color:#111111;font:italic 12pt serif;}');
   values[6] = '12pt "x}*{display:none}"';
   assert.equal(styleRule(4, values, null).match(/[{}]/g).length, 2);
