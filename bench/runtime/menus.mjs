@@ -18,7 +18,7 @@ export const menuOf = (size) => entries(TOP, shapes[size], 'Item');
 // The items of a menu file (tests/browser/support/menu_file.mjs).
 export const toItems = (list) => list.map(({ text, address, title, entries: below }) => ({
   ItemName: text, URL: address, ItemTooltip: title,
-  ...(below.length && { submenu: { SubmenuType: 1, DisplayNameAsTitle: 0, items: toItems(below) } }),
+  ...(below.length && { submenu: { DisplayNameAsTitle: 2, items: toItems(below) } }),
 }));
 
 const toMarkup = (list) => list.map(({ text, address, title, entries: below }) => (

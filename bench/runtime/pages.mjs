@@ -99,6 +99,6 @@ export const openerOf = (count) => `Open ${count}`;
 export function writeOpeningPage(site, file) {
   const flat = menuOf(10000).flatMap((entry) => entry.entries).flatMap((entry) => entry.entries);
   writeNimbrel(site, file, submenuSizes.map((count) => ({
-    ItemName: openerOf(count), submenu: { SubmenuType: 1, DisplayNameAsTitle: 0, items: toItems(flat.slice(0, count)) },
+    ItemName: openerOf(count), submenu: { DisplayNameAsTitle: 2, items: toItems(flat.slice(0, count)) },
   })));
 }

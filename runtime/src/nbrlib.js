@@ -49,7 +49,6 @@ function build(menu, group) {
   var view = new View(menu, group, group.submenusFrame ? new Remote(group) : null);
   label(view);
   views[group.name] = view;
-  view.layer.settle();
   view.pointer = new Pointer(view);
   listenToKeyboard(view);
   listenToDragging(view);

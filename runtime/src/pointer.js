@@ -51,7 +51,7 @@ Pointer.prototype = {
     }
     var panel = view.panelOf(item);
     if (!panel) return;
-    view.closeFrom(panel.depth + (view.isOpen(item) && item.submenu ? 2 : 1), item);
+    view.closeFrom(panel.depth + (view.isOpen(item) ? 2 : 1));
     if (view.opens(item) && view.opensOnHover(item)) view.open(item);
   },
 
@@ -63,11 +63,16 @@ Pointer.prototype = {
     return headsFor(this.trail[0], this.trail[this.trail.length - 1], next.element.getBoundingClientRect());
   },
 
+  // Whether the pointer was last seen where an event is.
+  isAt: function (event) {
+    var last = this.trail[this.trail.length - 1];
+    return Boolean(last) && last.x === event.clientX && last.y === event.clientY;
+  },
+
   // Whether the pointer has moved. A page tells of a pointer that rests, too, when something moves under it; that
   // counts for nothing while the keyboard is in use.
   follow: function (event) {
-    var last = this.trail[this.trail.length - 1];
-    if (last && last.x === event.clientX && last.y === event.clientY) return false;
+    if (this.isAt(event)) return false;
     this.trail.push({ x: event.clientX, y: event.clientY });
     if (this.trail.length > TRAIL) this.trail.shift();
     return true;

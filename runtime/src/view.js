@@ -78,6 +78,7 @@ View.prototype = {
       return;
     }
     this.add(this.menu, null);
+    this.layer.settle();
     this.setTabStop(this.firstItem(this.main(), 1));
     this.unfold(this.main());
   },
@@ -86,7 +87,7 @@ View.prototype = {
     var self = this;
     var panel = new Panel(this.group, menu, parent, function (item) { return self.opens(item); });
     this.panels.push(panel);
-    this.window = this.layer.windowSize(); // asked for while the page is laid out
+    if (parent || this.beside) this.window = this.layer.windowSize(); // asked for while the page is laid out
     this.layer.element.appendChild(panel.element);
     this.place(panel);
     for (var i = 0; i < menu.items.length; i++) this.group.preload(menu.items[i]);
@@ -133,20 +134,26 @@ View.prototype = {
 
   placeAlone: function (panel) {
     var options = this.options;
-    var window = this.window;
-    var area = boxAt(0, 0, window);
-    var style = panel.element.style;
-    if (this.isBar) {
-      style.position = 'fixed'; // out of the page, whose width is measured
-      var width = this.layer.pageWidth();
-      style.position = '';
-      style.width = width + 'px';
-    }
-    var size = panel.measure(this.isBar ? null : window.width, this.layer.driftsDown() ? window.height : null);
-    var place = placeMain(size, area, Number(options.corner), Number(options.horizontal), Number(options.vertical));
+    if (this.isBar) this.stretch(panel);
+    var size = panel.measure(null, null);
+    var window = this.window = this.layer.windowSize();
+    var widest = this.isBar ? null : window.width;
+    var highest = this.layer.driftsDown() ? window.height : null;
+    if ((widest && size.width > widest) || (highest && size.height > highest)) size = panel.measure(widest, highest);
+    var place = placeMain(size, boxAt(0, 0, window), Number(options.corner), Number(options.horizontal),
+      Number(options.vertical));
     if (this.isBar) place.left = 0;
     if (this.wanted) place = keepInside(this.wanted.left, this.wanted.top, size, this.layer.area());
     panel.moveTo(place, size);
+  },
+
+  // Makes a bar as wide as the page, which is measured without it.
+  stretch: function (panel) {
+    var style = panel.element.style;
+    style.position = 'fixed';
+    var width = this.layer.pageWidth();
+    style.position = '';
+    style.width = width + 'px';
   },
 
   // Puts the main menu where it has been dragged, as far as it stays in reach.
