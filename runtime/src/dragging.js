@@ -1,5 +1,7 @@
 // A movable menu is dragged by the title of its main panel, by mouse, pen or finger.
 
+import { dragTo } from './placing.js';
+
 export function listenToDragging(view) {
   if (Number(view.options.movable) !== 1) return;
   var start = null;
@@ -20,7 +22,7 @@ export function listenToDragging(view) {
   }
 
   function move(event) {
-    if (start && event.pointerId === start.pointer) view.dragTo(start.left + event.clientX, start.top + event.clientY);
+    if (start && event.pointerId === start.pointer) dragTo(view, start.left + event.clientX, start.top + event.clientY);
   }
 
   function end(event) {

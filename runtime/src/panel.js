@@ -39,6 +39,7 @@ export function Panel(group, menu, parent, opens) {
   this.parent = parent;
   this.depth = parent ? parent.depth + 1 : 0;
   this.across = Number(options.type) > 0; // items stand side by side
+  this.vertical = true;                   // whether it has opened beside a column of items
   this.side = 0;                          // where it has opened: 1 right or below, 2 left or above
   this.offset = '';                       // as a transform
   this.box = null;                        // in the layer, without the movement of an unfolding

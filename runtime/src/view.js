@@ -3,15 +3,11 @@
 // `press`; the modules that listen to pointer and keyboard decide which.
 
 import { run } from './commands.js';
-import { placeMain, placeSubmenu, boxAt, keepInside, shifted } from './geometry.js';
+import { shifted } from './geometry.js';
 import { markCurrent, markOpening, nameOfMenu, showState } from './item_element.js';
 import { Layer } from './layer.js';
 import { Panel } from './panel.js';
-import { directionOf, DURATION, mirroredDirection, unfoldingFrames } from './unfolding.js';
-
-function prefersStill() {
-  return !window.matchMedia || window.matchMedia('(prefers-reduced-motion: reduce)').matches;
-}
+import { place, unfold } from './placing.js';
 
 // Remote: the submenus of another frame, or null.
 export function View(menu, group, remote) {
@@ -80,7 +76,7 @@ View.prototype = {
     this.add(this.menu, null);
     this.layer.settle();
     this.setTabStop(this.firstItem(this.main(), 1));
-    this.unfold(this.main());
+    unfold(this, this.main());
   },
 
   add: function (menu, parent) {
@@ -89,7 +85,7 @@ View.prototype = {
     this.panels.push(panel);
     if (parent || this.beside) this.window = this.layer.windowSize(); // asked for while the page is laid out
     this.layer.element.appendChild(panel.element);
-    this.place(panel);
+    place(this, panel);
     for (var i = 0; i < menu.items.length; i++) this.group.preload(menu.items[i]);
     run(menu.options.onOpen);
     return panel;
@@ -99,83 +95,7 @@ View.prototype = {
   settle: function () {
     this.layer.settle();
     this.window = this.layer.windowSize();
-    for (var i = 0; i < this.panels.length; i++) this.place(this.panels[i]);
-  },
-
-  place: function (panel) {
-    if (panel.depth > 0 || this.beside) this.placeBeside(panel);
-    else this.placeAlone(panel);
-  },
-
-  requestFor: function (panel) {
-    var parent = panel.parent;
-    var sameAxis = parent.parent && parent.parent.across === parent.across;
-    return {
-      item: parent.boxOf(panel.menu.item), parent: parent.box, vertical: !parent.across,
-      side: Number(panel.menu.options.side), preferred: sameAxis ? parent.side : 0
-    };
-  },
-
-  // The size is taken first, in the one layout that it needs.
-  placeBeside: function (panel) {
-    var options = panel.menu.options;
-    var size = panel.measure(this.window.width, this.window.height);
-    var request = panel.depth > 0 ? this.requestFor(panel) : this.beside();
-    request.size = size;
-    request.area = this.layer.area();
-    request.align = Number(options.align);
-    request.distance = Number(options.distance);
-    request.rtl = this.layer.rtl;
-    var place = placeSubmenu(request);
-    panel.side = place.side;
-    panel.vertical = request.vertical;
-    panel.moveTo(place, size);
-  },
-
-  placeAlone: function (panel) {
-    var options = this.options;
-    if (this.isBar) this.stretch(panel);
-    var size = panel.measure(null, null);
-    var window = this.window = this.layer.windowSize();
-    var widest = this.isBar ? null : window.width;
-    var highest = this.layer.driftsDown() ? window.height : null;
-    if ((widest && size.width > widest) || (highest && size.height > highest)) size = panel.measure(widest, highest);
-    var place = placeMain(size, boxAt(0, 0, window), Number(options.corner), Number(options.horizontal),
-      Number(options.vertical));
-    if (this.isBar) place.left = 0;
-    if (this.wanted) place = keepInside(this.wanted.left, this.wanted.top, size, this.layer.area());
-    panel.moveTo(place, size);
-  },
-
-  // Makes a bar as wide as the page, which is measured without it.
-  stretch: function (panel) {
-    var style = panel.element.style;
-    style.position = 'fixed';
-    var width = this.layer.pageWidth();
-    style.position = '';
-    style.width = width + 'px';
-  },
-
-  // Puts the main menu where it has been dragged, as far as it stays in reach.
-  dragTo: function (left, top) {
-    this.wanted = { left: left, top: top };
-    var box = this.main().box;
-    var size = { width: box.right - box.left, height: box.bottom - box.top };
-    this.main().moveTo(keepInside(left, top, size, this.layer.area()), size);
-  },
-
-  unfold: function (panel) {
-    var options = panel.menu.options;
-    var direction = directionOf(Number(options.unfold), panel.vertical !== false, panel.side || 1);
-    if (this.layer.rtl) direction = mirroredDirection(direction);
-    var frames = unfoldingFrames(Number(options.how), direction);
-    if (!frames || prefersStill() || !panel.element.animate) return;
-    frames.forEach(function (frame) {
-      if (frame.transform) frame.transform = panel.offset + frame.transform;
-    });
-    var pointer = this.pointer;
-    var animation = panel.element.animate(frames, { duration: DURATION, easing: 'ease-out' });
-    animation.onfinish = function () { pointer.look(); };
+    for (var i = 0; i < this.panels.length; i++) place(this, this.panels[i]);
   },
 
   // Opens the submenu of an item. Focus: 'first' or 'last' item of it, or nothing to leave the focus where it is.
@@ -185,7 +105,7 @@ View.prototype = {
     if (!this.isOpen(item)) {
       this.closeFrom(parent.depth + 1);
       this.openedAt = Date.now();
-      if (item.submenu) this.unfold(this.add(item.submenu, parent));
+      if (item.submenu) unfold(this, this.add(item.submenu, parent));
       else this.remote.open(item, focus);
       item.element.setAttribute('aria-expanded', 'true');
       this.showState(item);

@@ -1,0 +1,83 @@
+// Where the panels of a view go, and how they come to be there.
+
+import { boxAt, keepInside, placeMain, placeSubmenu } from './geometry.js';
+import { directionOf, DURATION, mirroredDirection, unfoldingFrames } from './unfolding.js';
+
+function prefersStill() {
+  return !window.matchMedia || window.matchMedia('(prefers-reduced-motion: reduce)').matches;
+}
+
+export function place(view, panel) {
+  if (panel.depth > 0 || view.beside) placeBeside(view, panel);
+  else placeAlone(view, panel);
+}
+
+function requestFor(panel) {
+  var parent = panel.parent;
+  var sameAxis = parent.parent && parent.parent.across === parent.across;
+  return {
+    item: parent.boxOf(panel.menu.item), parent: parent.box, vertical: !parent.across,
+    side: Number(panel.menu.options.side), preferred: sameAxis ? parent.side : 0
+  };
+}
+
+// The size is taken first, in the one layout that it needs.
+function placeBeside(view, panel) {
+  var options = panel.menu.options;
+  var size = panel.measure(view.window.width, view.window.height);
+  var request = panel.depth > 0 ? requestFor(panel) : view.beside();
+  request.size = size;
+  request.area = view.layer.area();
+  request.align = Number(options.align);
+  request.distance = Number(options.distance);
+  request.rtl = view.layer.rtl;
+  var result = placeSubmenu(request);
+  panel.side = result.side;
+  panel.vertical = request.vertical;
+  panel.moveTo(result, size);
+}
+
+function placeAlone(view, panel) {
+  var options = view.options;
+  if (view.isBar) stretch(view, panel);
+  var size = panel.measure(null, null);
+  var window = view.window = view.layer.windowSize();
+  var widest = view.isBar ? null : window.width;
+  var highest = view.layer.driftsDown() ? window.height : null;
+  if ((widest && size.width > widest) || (highest && size.height > highest)) size = panel.measure(widest, highest);
+  var result = placeMain(size, boxAt(0, 0, window), Number(options.corner), Number(options.horizontal),
+    Number(options.vertical));
+  if (view.isBar) result.left = 0;
+  if (view.wanted) result = keepInside(view.wanted.left, view.wanted.top, size, view.layer.area());
+  panel.moveTo(result, size);
+}
+
+// Makes a bar as wide as the page, which is measured without it.
+function stretch(view, panel) {
+  var style = panel.element.style;
+  style.position = 'fixed';
+  var width = view.layer.pageWidth();
+  style.position = '';
+  style.width = width + 'px';
+}
+
+// Puts the main menu where it has been dragged, as far as it stays in reach.
+export function dragTo(view, left, top) {
+  view.wanted = { left: left, top: top };
+  var box = view.main().box;
+  var size = { width: box.right - box.left, height: box.bottom - box.top };
+  view.main().moveTo(keepInside(left, top, size, view.layer.area()), size);
+}
+
+export function unfold(view, panel) {
+  var options = panel.menu.options;
+  var direction = directionOf(Number(options.unfold), panel.vertical, panel.side || 1);
+  if (view.layer.rtl) direction = mirroredDirection(direction);
+  var frames = unfoldingFrames(Number(options.how), direction);
+  if (!frames || prefersStill() || !panel.element.animate) return;
+  frames.forEach(function (frame) {
+    if (frame.transform) frame.transform = panel.offset + frame.transform;
+  });
+  var animation = panel.element.animate(frames, { duration: DURATION, easing: 'ease-out' });
+  animation.onfinish = function () { view.pointer.look(); };
+}
