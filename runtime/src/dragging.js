@@ -13,7 +13,7 @@ export function listenToDragging(view) {
 
   function begin(event) {
     var title = titleOf(event);
-    if (!title || event.button) return;
+    if (!title || event.button || event.target.closest('a,button,input,[onclick]')) return;
     var box = view.main().box;
     view.closeFrom(1);
     start = { left: box.left - event.clientX, top: box.top - event.clientY, pointer: event.pointerId };

@@ -1,15 +1,14 @@
 // What a compiled script hands over, kept as it came: the values of a call are read by their places when they are
 // first shown. A large menu is mostly never opened, so that a call costs one small object and nothing else.
 
-var MENU_VALUES = ['popup', 'when', 'distance', 'how', 'unfold', 'align', 'movable', 'drift', 'corner', 'horizontal',
-  'vertical', 'sticky', 'type', 'container', 'titleStyle', 'title', 'tooltip', 'picture', 'picturePlace', 'gap',
-  'uniformWidths', 'uniformHeights', 'onOpen', 'onClose'];
-var SUBMENU_VALUES = ['type', 'when', 'distance', 'how', 'unfold', 'align', 'side', 'container', 'titleStyle', 'title',
-  'tooltip', 'picture', 'picturePlace', 'gap', 'uniformWidths', 'uniformHeights', 'onOpen', 'onClose'];
+var TITLE_AND_LIST = ' container titleStyle title tooltip picture picturePlace gap uniformWidths uniformHeights onOpen onClose';
+var MENU_VALUES = 'popup when distance how unfold align movable drift corner horizontal vertical sticky type' +
+  TITLE_AND_LIST;
+var SUBMENU_VALUES = 'type when distance how unfold align side' + TITLE_AND_LIST;
 
 function named(names, values) {
   var record = {};
-  for (var i = 0; i < names.length; i++) record[names[i]] = values[i];
+  names.split(' ').forEach(function (name, i) { record[name] = values[i]; });
   return record;
 }
 

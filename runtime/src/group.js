@@ -5,11 +5,7 @@ import { borderWidth, styleSheet } from './style_sheet.js';
 
 // Names stand in the script with references for characters that its encoding lacks.
 function decoded(name) {
-  return name.replace(/&#(\d+);/g, function (whole, code) {
-    return code > 65535
-      ? String.fromCharCode(55296 + ((code - 65536) >> 10), 56320 + ((code - 65536) & 1023))
-      : String.fromCharCode(code);
-  });
+  return name.replace(/&#(\d+);/g, function (whole, code) { return String.fromCodePoint(code); });
 }
 
 // A preview lies elsewhere than the pages: its links lead to where the menu was last compiled.

@@ -38,8 +38,8 @@ function templateOf(group, item) {
   return group.templates[key].cloneNode(false);
 }
 
-// The last part of an address without what is behind "?" and "#": most links to elsewhere differ in it, so that few
-// addresses have to be resolved to find the page's own.
+// The last part of an address without what is behind "?" and "#": most links to elsewhere differ in it and have plain
+// names, so that few addresses have to be resolved to find the page's own.
 function lastPart(address) {
   return address.replace(/[?#].*/, '').replace(/.*\//, '');
 }
@@ -47,7 +47,7 @@ function lastPart(address) {
 function leadsHere(element, url) {
   var last = lastPart(url);
   var own = document.URL;
-  if (last && last !== '.' && last !== lastPart(own)) return false;
+  if (/^[\w-][\w.-]*$/.test(last) && last !== lastPart(own)) return false;
   return element.href === own || (url.indexOf('#') < 0 && element.href === own.replace(/#.*/, ''));
 }
 
@@ -107,7 +107,8 @@ export function buildItem(group, item, opens, notes) {
   if (item.tooltip()) element.title = item.tooltip();
   if (item.status()) describe(group, item, notes);
   if (opens) markOpening(item);
-  if (!plainText(item.name(0))) nameElement(group, item);
+  // A state that shows a picture alone keeps the name that the others show.
+  if (!plainText(item.name(0)) || item.name(1) === '' || item.name(2) === '') nameElement(group, item);
   return element;
 }
 

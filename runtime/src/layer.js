@@ -25,7 +25,7 @@ export function Layer(group, options) {
   this.rtl = getComputedStyle(document.body).direction === 'rtl';
   this.host = create('div');
   this.host.setAttribute('data-nbr-menu', group.name);
-  this.root = this.host.attachShadow ? this.host.attachShadow({ mode: 'open' }) : this.host;
+  this.root = this.host.attachShadow({ mode: 'open' });
   var style = this.root.appendChild(create('style'));
   style.textContent = group.styleSheet();
   this.element = this.root.appendChild(create('nav', 'layer'));
@@ -39,8 +39,8 @@ Layer.prototype = {
   driftsAcross: function () { return this.drift === BOTH || this.drift === ACROSS; },
   driftsDown: function () { return this.drift === BOTH || this.drift === DOWN; },
 
-  // Whether a scroll of the page has to be followed by hand.
-  follows: function () { return this.drift === DOWN || this.drift === ACROSS; },
+  // Whether a scroll of the page may have to be followed by hand; on both axes only in a body that is transformed.
+  follows: function () { return this.drift > 0; },
 
   // Puts its corner where the page's own has been before any scrolling or, where it drifts, at the window's; also in
   // a body that is itself placed or transformed.
@@ -75,7 +75,6 @@ Layer.prototype = {
   },
 
   focused: function () {
-    var node = this.root.activeElement === undefined ? document.activeElement : this.root.activeElement;
-    return this.contains(node) ? node : null;
+    return this.root.activeElement;
   }
 };

@@ -26,7 +26,7 @@ function keepPlaced(view) {
   window.addEventListener('load', settle);
   window.addEventListener('hashchange', function () { view.markCurrent(); });
   if (view.layer.follows()) window.addEventListener('scroll', function () { view.layer.settle(); });
-  if (!window.ResizeObserver || view.isPopup) return;
+  if (view.isPopup) return;
   var observer = new ResizeObserver(settle);
   observer.observe(document.documentElement);
   observer.observe(view.main().element);

@@ -67,10 +67,12 @@ Panel.prototype = {
     return { width: box.width, height: box.height };
   },
 
+  // Where nothing limits the height, a line can be higher than its box: one with a picture alone in quirks mode.
   overflows: function () {
     var element = this.element;
     if (element.classList.contains('scroll')) return false;
-    return element.scrollWidth > element.clientWidth || element.scrollHeight > element.clientHeight;
+    return element.scrollWidth > element.clientWidth ||
+      element.scrollHeight + element.offsetHeight - element.clientHeight > parseFloat(element.style.maxHeight);
   },
 
   limit: function () {

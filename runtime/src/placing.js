@@ -1,10 +1,10 @@
 // Where the panels of a view go, and how they come to be there.
 
-import { boxAt, keepInside, placeMain, placeSubmenu } from './geometry.js';
+import { boxAt, keepInside, placeMain, placeSubmenu, within } from './geometry.js';
 import { directionOf, DURATION, mirroredDirection, unfoldingFrames } from './unfolding.js';
 
 function prefersStill() {
-  return !window.matchMedia || window.matchMedia('(prefers-reduced-motion: reduce)').matches;
+  return window.matchMedia('(prefers-reduced-motion: reduce)').matches;
 }
 
 export function place(view, panel) {
@@ -47,26 +47,37 @@ function placeAlone(view, panel) {
   if ((widest && size.width > widest) || (highest && size.height > highest)) size = panel.measure(widest, highest);
   var result = placeMain(size, boxAt(0, 0, window), Number(options.corner), Number(options.horizontal),
     Number(options.vertical));
-  if (view.isBar) result.left = 0;
-  if (view.wanted) result = keepInside(view.wanted.left, view.wanted.top, size, view.layer.area());
+  if (view.isBar || size.width >= window.width) result.left = 0; // no room for a distance
+  // The page cannot be scrolled to what drifts.
+  if (view.layer.drift) result.left = within(result.left, size.width, 0, view.layer.pageWidth());
+  if (view.layer.driftsDown()) result.top = within(result.top, size.height, 0, window.height);
+  var wanted = view.wanted;
+  if (wanted) result = keepInside(wanted.left, wanted.top, size, boxAt(wanted.area.left, wanted.area.top, window));
   panel.moveTo(result, size);
 }
 
-// Makes a bar as wide as the page, which is measured without it.
+function positionBars(position) {
+  var views = window.nbrShowMenu.views;
+  for (var name in views) {
+    if (views[name].isBar && views[name].isShown()) views[name].main().element.style.position = position;
+  }
+}
+
+// Makes a bar as wide as the page, which is measured without any bar: none may keep another from getting narrower.
 function stretch(view, panel) {
-  var style = panel.element.style;
-  style.position = 'fixed';
+  positionBars('fixed');
   var width = view.layer.pageWidth();
-  style.position = '';
-  style.width = width + 'px';
+  positionBars('');
+  panel.element.style.width = width + 'px';
 }
 
 // Puts the main menu where it has been dragged, as far as it stays in reach.
 export function dragTo(view, left, top) {
-  view.wanted = { left: left, top: top };
+  var area = view.layer.area();
+  view.wanted = { left: left, top: top, area: area };
   var box = view.main().box;
   var size = { width: box.right - box.left, height: box.bottom - box.top };
-  view.main().moveTo(keepInside(left, top, size, view.layer.area()), size);
+  view.main().moveTo(keepInside(left, top, size, area), size);
 }
 
 export function unfold(view, panel) {
@@ -74,7 +85,7 @@ export function unfold(view, panel) {
   var direction = directionOf(Number(options.unfold), panel.vertical, panel.side || 1);
   if (view.layer.rtl) direction = mirroredDirection(direction);
   var frames = unfoldingFrames(Number(options.how), direction);
-  if (!frames || prefersStill() || !panel.element.animate) return;
+  if (!frames || prefersStill()) return;
   frames.forEach(function (frame) {
     if (frame.transform) frame.transform = panel.offset + frame.transform;
   });

@@ -144,8 +144,10 @@ Pointer.prototype = {
     if (press.type === 'touch') this.view.point(item, event);
     var follows = !this.view.opens(item) || this.clickOpener(item, press);
     if (!follows) event.preventDefault();
-    if (run(item.command(2), event) === false) event.preventDefault();
-    if (follows) this.closeBehind(item);
+    // A first tap that only opens is no click yet.
+    var opensOnly = !follows && press.type === 'touch' && item.url() !== null;
+    if (!opensOnly && run(item.command(2), event) === false) event.preventDefault();
+    if (follows) this.closeBehind(item, press.type);
   },
 
   // A click without a press comes from the keyboard, or from a helper that stands for a finger.
@@ -160,17 +162,20 @@ Pointer.prototype = {
     if (press.type === 'key' && hasLink) return true;
     if (!press.wasOpen) {
       view.open(item, press.type === 'key' || press.type === 'helper' ? 'first' : null);
-      return hasLink && press.type !== 'touch' && press.type !== 'helper' && view.opensOnHover(item);
+      return hasLink && press.type === 'mouse' && view.opensOnHover(item);
     }
     if (!hasLink && Date.now() - view.openedAt > CLICK_GUARD) view.closeFrom(view.panelOf(item).depth + 1);
     return hasLink;
   },
 
   // A menu that was used closes, behind the click: its link must stay in the page until it has been followed.
-  closeBehind: function (item) {
+  closeBehind: function (item, type) {
     var view = this.view;
     if (view.isSticky || (item.url() === null && item.command(2) === null)) return;
     this.hover.stop();
-    setTimeout(function () { view.closeAll(); }, 0);
+    setTimeout(function () {
+      view.closeAll();
+      if (type === 'touch') view.point(null);
+    }, 0);
   }
 };

@@ -5,8 +5,9 @@ var ALIGNMENTS = ['start', 'center', 'end'];
 var FLEX = ['flex-start', 'center', 'flex-end'];
 
 // The host takes nothing from the page, not even by its important rules.
-var HOST = ':host{all:initial!important}' +
-  '.layer{position:absolute;left:0;top:0;width:0;height:0;font:16px sans-serif}';
+var HOST = ':host{all:initial!important;display:contents!important}' +
+  // A page's own variables would come in all the same.
+  '.layer{position:absolute;left:0;top:0;width:0;height:0;font:16px sans-serif;--edge:initial;--gap:initial}';
 
 var PANEL = '.panel{position:absolute;left:0;top:0;box-sizing:border-box;display:flex;flex-direction:column;width:max-content;' +
   'overscroll-behavior:contain}' +
@@ -29,7 +30,7 @@ var ITEM = '.item{display:block;box-sizing:border-box;color:inherit;text-decorat
   '.parts>.content{flex:1}' +
   // What is replaced when the state changes must not be what was pressed, or the browser would see no click.
   '.item *{pointer-events:none}' +
-  '.item a,.item button,.item input,.item select,.item textarea,.item [onclick]{pointer-events:auto}' +
+  '.item :is(a,button,input,select,textarea,[onclick]){pointer-events:auto}' +
   '.content{display:flex;align-items:center;justify-content:var(--at);gap:4px}' +
   '.place0{flex-direction:column;align-items:var(--at)}' +
   '.place1{flex-direction:row-reverse;justify-content:var(--against)}' +
@@ -62,6 +63,11 @@ function padding(values) {
   return 'padding:calc(' + Number(values[11]) + 'px + var(--edge,' + edge + ') - ' + edge + ');';
 }
 
+// A font without a size would be no font.
+function font(value) {
+  return clean(value).replace(/^((?:italic |bold )*) /, '$1medium ');
+}
+
 export function borderWidth(values) {
   return values[8] === 'none' ? 0 : Number(values[9]);
 }
@@ -81,7 +87,7 @@ export function styleRule(number, values, picture) {
       ';--against:' + (FLEX[2 - values[2]] || FLEX[2]) + ';' + padding(values) + 'cursor:' +
       (CURSORS[values[12]] || CURSORS[0]) + ';text-decoration:' + (values[7] || 'none') + ';' +
       (values[3] === null ? '' : 'color:' + clean(values[3]) + ';') +
-      (values[6] === null ? '' : 'font:' + clean(values[6]) + ';');
+      (values[6] === null ? '' : 'font:' + font(values[6]) + ';');
   }
   return '.s' + number + '{' + rule + '}';
 }

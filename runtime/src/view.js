@@ -65,9 +65,10 @@ View.prototype = {
   // Shows the main menu. Where: a point {left, top} of the window, or null for the place that its author chose.
   show: function (where) {
     this.wanted = null;
+    if (where || this.beside) this.layer.settle();
     if (where) {
       var area = this.layer.area();
-      this.wanted = { left: where.left + area.left, top: where.top + area.top };
+      this.wanted = { left: where.left + area.left, top: where.top + area.top, area: area };
     }
     if (this.isShown()) {
       this.settle();
@@ -77,6 +78,7 @@ View.prototype = {
     this.layer.settle();
     this.setTabStop(this.firstItem(this.main(), 1));
     unfold(this, this.main());
+    run(this.options.onOpen);
   },
 
   add: function (menu, parent) {
@@ -87,7 +89,6 @@ View.prototype = {
     this.layer.element.appendChild(panel.element);
     place(this, panel);
     for (var i = 0; i < menu.items.length; i++) this.group.preload(menu.items[i]);
-    run(menu.options.onOpen);
     return panel;
   },
 
@@ -102,10 +103,11 @@ View.prototype = {
   open: function (item, focus) {
     var parent = this.panelOf(item);
     if (!parent || !this.opens(item)) return;
+    var opened = null;
     if (!this.isOpen(item)) {
       this.closeFrom(parent.depth + 1);
       this.openedAt = Date.now();
-      if (item.submenu) unfold(this, this.add(item.submenu, parent));
+      if (item.submenu) unfold(this, opened = this.add(item.submenu, parent));
       else this.remote.open(item, focus);
       item.element.setAttribute('aria-expanded', 'true');
       this.showState(item);
@@ -114,12 +116,14 @@ View.prototype = {
     }
     var panel = this.submenuPanel(item);
     if (focus && panel) this.focus(this.firstItem(panel, focus === 'last' ? -1 : 1));
+    if (opened) run(item.submenu.options.onOpen);
   },
 
   // Closes the panels from a depth on, the deepest first. Depth 0 is the main menu itself.
   closeFrom: function (depth) {
     if (depth <= 1 && this.remote) this.remote.close();
-    while (this.panels.length > depth) this.closeLast();
+    // Closing may run a command that opens again.
+    for (var n = this.panels.length; n > depth && this.panels.length > depth; n--) this.closeLast();
   },
 
   closeLast: function () {
@@ -169,7 +173,6 @@ View.prototype = {
     this.pointed = item;
     this.showState(left);
     this.showState(item);
-    window.status = item ? item.status() : '';
     if (left) run(left.command(0), event);
     if (item) run(item.command(1), event);
   },
