@@ -58,14 +58,14 @@ class Inspector {
         element);
   }
 
-  void inspectText(const std::string& key, std::string_view name, Form form, std::string_view value) {
+  void inspectText(const std::string& key, std::string_view name, FileForm form, std::string_view value) {
     const auto of = std::string(name) + " of " + key + " holds ";
     if (value.find_first_of("\r\n") != std::string_view::npos)
       say(of + "a line break, which ends the value in the file");
-    if (form == Form::Raw && value.find(',') != std::string_view::npos) {
+    if (form == FileForm::Raw && value.find(',') != std::string_view::npos) {
       say(of + "a comma, which shifts the values behind it in the file");
     }
-    if (form == Form::Raw && value.find('\'') != std::string_view::npos)
+    if (form == FileForm::Raw && value.find('\'') != std::string_view::npos)
       say(of + "a single quote, which breaks the script");
     const bool isPlain = name == "URL" || name == "TargetFrame";
     if (isPlain && value.find('"') != std::string_view::npos)

@@ -22,7 +22,7 @@ namespace nimbrel {
 inline constexpr std::string_view notSet = "n";
 
 /// How a value stands in the property line of a file.
-enum class Form : std::uint8_t {
+enum class FileForm : std::uint8_t {
   Marked,   ///< between "!" marks, commas escaped
   Escaped,  ///< commas escaped
   Raw,      ///< as it stands
@@ -47,14 +47,15 @@ struct Property {
   using Initial = std::variant<NoDefault, std::string_view, float>;
 
   // One constructor a type: a default of the wrong kind does not compile.
-  consteval Property(std::string_view n, SharedText E::*f, std::string_view i, Form form_,
+  consteval Property(std::string_view n, SharedText E::*f, std::string_view i, FileForm form_,
                      unsigned s = NoStyle, float E::*number = nullptr)
       : name(n), field(f), initial(i), form(form_), style(s), imageNo(number) {}
   consteval Property(std::string_view n, std::uint8_t E::*f, int i, unsigned s = NoStyle)
-      : name(n), field(f), initial(static_cast<float>(i)), form(Form::Number), style(s) {}
+      : name(n), field(f), initial(static_cast<float>(i)), form(FileForm::Number), style(s) {}
   consteval Property(std::string_view n, std::uint8_t E::*f, NoDefault i)
-      : name(n), field(f), initial(i), form(Form::Number), style(NoStyle) {}
-  consteval Property(std::string_view n, float E::*f, int i, unsigned s = NoStyle, Form form_ = Form::Number)
+      : name(n), field(f), initial(i), form(FileForm::Number), style(NoStyle) {}
+  consteval Property(std::string_view n, float E::*f, int i, unsigned s = NoStyle,
+                     FileForm form_ = FileForm::Number)
       : name(n), field(f), initial(static_cast<float>(i)), form(form_), style(s) {}
 
   constexpr bool isImage() const { return imageNo != nullptr; }
@@ -62,7 +63,7 @@ struct Property {
   std::string_view name;
   Field field;
   Initial initial;
-  Form form;
+  FileForm form;
   unsigned style;
   /// Of an image: where its number in the compiled menu goes. Images in table order are the image slots.
   float E::*imageNo = nullptr;

@@ -14,14 +14,6 @@ constexpr Message hasSubmenu{"Cannot create submenu",
                              "A submenu already exists for the selected item. You\r"
                              "may select the existing submenu and add items to it"};
 
-/// The number for a new key; the caller steps the counter once the element stands.
-std::string nextNumber(const Document& document) {
-  if (document.NextKeyNumber == std::numeric_limits<std::int16_t>::max()) {
-    throw std::overflow_error("the document has used up its 32767 key numbers");
-  }
-  return std::to_string(document.NextKeyNumber);
-}
-
 /// Enters element and node together, under one key.
 Node& enter(Document& document, std::string key, Element element, Node* relative, Relationship relationship) {
   auto text = NodeText(element);
@@ -60,10 +52,17 @@ void dress(Document& document, ItemObj& item, const Node& node) {
 
 }  // namespace
 
+void throwUsedUp() { throw std::overflow_error("the document has used up its 32767 key numbers"); }
+
+std::string nextKeyNumber(const Document& document) {
+  if (document.NextKeyNumber == std::numeric_limits<std::int16_t>::max()) throwUsedUp();
+  return std::to_string(document.NextKeyNumber);
+}
+
 Node& AddMainMenu(Document& document) {
   MenuObj menu;
   SetDefaultValues(menu);
-  return enter(document, "M" + nextNumber(document), std::move(menu), nullptr, Relationship::Child);
+  return enter(document, "M" + nextKeyNumber(document), std::move(menu), nullptr, Relationship::Child);
 }
 
 const Message* refusalOfSubmenu(const Document& document, std::string_view parentKey) {
@@ -75,7 +74,7 @@ const Message* refusalOfSubmenu(const Document& document, std::string_view paren
 Node* AddSubmenu(Document& document, std::string_view parentKey) {
   Node* parent = document.tvTreeView.find(parentKey);
   if (parent == nullptr || refusalOfSubmenu(document, parentKey) != nullptr) return nullptr;
-  const auto number = nextNumber(document);
+  const auto number = nextKeyNumber(document);
   SubmenuObj submenu;
   SetDefaultValues(submenu);
   submenu.SubmenuName = "Submenu" + number;
@@ -86,7 +85,7 @@ Node* AddSubmenu(Document& document, std::string_view parentKey) {
 Node* AddItem(Document& document, std::string_view selectedKey) {
   Node* selected = document.tvTreeView.find(selectedKey);
   if (selected == nullptr) return nullptr;
-  const auto number = nextNumber(document);
+  const auto number = nextKeyNumber(document);
   ItemObj item;
   SetDefaultValues(item);
   item.ItemName1 = item.ItemName2 = item.ItemName3 = "Item" + number;

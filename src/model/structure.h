@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include "model/document.h"
@@ -9,6 +10,11 @@
 /// ahead of them, selecting and marking the document dirty behind them is their caller's. Where the key
 /// counter is used up they throw `std::overflow_error` and nothing is changed.
 namespace nimbrel {
+
+/// The number for a new key, as text; whoever uses it steps the counter.
+std::string nextKeyNumber(const Document& document);
+/// Throws the error of a counter that is used up.
+[[noreturn]] void throwUsedUp();
 
 /// Adds the main menu as root.
 Node& AddMainMenu(Document& document);

@@ -60,7 +60,7 @@ struct SubmenuObj {
 
 // clang-format off
 inline constexpr auto submenuProperties = std::to_array<Property<SubmenuObj>>({
-    {"SubmenuName",          &SubmenuObj::SubmenuName,          "0", Form::Marked},  // kept, see SubmenuType
+    {"SubmenuName",          &SubmenuObj::SubmenuName,          "0", FileForm::Marked},  // kept, see SubmenuType
     {"DisplayNameAsTitle",   &SubmenuObj::DisplayNameAsTitle,   1, StyleOfClass | StyleOfMenu},
     {"SubmenuWhen",          &SubmenuObj::SubmenuWhen,          0, StyleOfClass},
     {"SubmenuWhere",         &SubmenuObj::SubmenuWhere,         -4, StyleOfClass},
@@ -69,32 +69,32 @@ inline constexpr auto submenuProperties = std::to_array<Property<SubmenuObj>>({
     {"UnfoldDirection",      &SubmenuObj::UnfoldDirection,      0, StyleOfClass},
     {"SubmenuAlignment",     &SubmenuObj::SubmenuAlignment,     0, StyleOfClass},
     {"SubmenuType",          &SubmenuObj::SubmenuType,          NoDefault{}},  // kept: its default goes to SubmenuName
-    {"TitleImage",           &SubmenuObj::TitleImage,           notSet, Form::Escaped, NoStyle, &SubmenuObj::TitleImageNo},
+    {"TitleImage",           &SubmenuObj::TitleImage,           notSet, FileForm::Escaped, NoStyle, &SubmenuObj::TitleImageNo},
     {"TitleImageAlignment",  &SubmenuObj::TitleImageAlignment,  0, StyleOfClass | StyleOfMenu},
     {"TitleTextAlignment",   &SubmenuObj::TitleTextAlignment,   1, StyleOfClass | StyleOfMenu},
-    {"TitleTooltip",         &SubmenuObj::TitleTooltip,         "", Form::Escaped},
+    {"TitleTooltip",         &SubmenuObj::TitleTooltip,         "", FileForm::Escaped},
     {"TitleCursor",          &SubmenuObj::TitleCursor,          0, StyleOfClass | StyleOfMenu},
     {"TitlePadding",         &SubmenuObj::TitlePadding,         0, StyleOfClass | StyleOfMenu},
-    {"TitleFontFamily",      &SubmenuObj::TitleFontFamily,      "sans-serif", Form::Raw, StyleOfClass | StyleOfMenu},
-    {"TitleFontSize",        &SubmenuObj::TitleFontSize,        "4mm", Form::Raw, StyleOfClass | StyleOfMenu},
+    {"TitleFontFamily",      &SubmenuObj::TitleFontFamily,      "sans-serif", FileForm::Raw, StyleOfClass | StyleOfMenu},
+    {"TitleFontSize",        &SubmenuObj::TitleFontSize,        "4mm", FileForm::Raw, StyleOfClass | StyleOfMenu},
     {"TitleFontBold",        &SubmenuObj::TitleFontBold,        0, StyleOfClass | StyleOfMenu},
     {"TitleFontItalic",      &SubmenuObj::TitleFontItalic,      0, StyleOfClass | StyleOfMenu},
     {"TitleFontUnderlined",  &SubmenuObj::TitleFontUnderlined,  0, StyleOfClass | StyleOfMenu},
-    {"TitleFontColor",       &SubmenuObj::TitleFontColor,       "#FFFFFF", Form::Raw, StyleOfClass | StyleOfMenu},
-    {"TitleBGColor",         &SubmenuObj::TitleBGColor,         notSet, Form::Raw, StyleOfClass | StyleOfMenu},
-    {"TitleBorderStyle",     &SubmenuObj::TitleBorderStyle,     "solid", Form::Raw, StyleOfClass | StyleOfMenu},
+    {"TitleFontColor",       &SubmenuObj::TitleFontColor,       "#FFFFFF", FileForm::Raw, StyleOfClass | StyleOfMenu},
+    {"TitleBGColor",         &SubmenuObj::TitleBGColor,         notSet, FileForm::Raw, StyleOfClass | StyleOfMenu},
+    {"TitleBorderStyle",     &SubmenuObj::TitleBorderStyle,     "solid", FileForm::Raw, StyleOfClass | StyleOfMenu},
     {"TitleBorderWidth",     &SubmenuObj::TitleBorderWidth,     2, StyleOfClass | StyleOfMenu},
-    {"TitleBorderColor",     &SubmenuObj::TitleBorderColor,     "#5B5B5B", Form::Raw, StyleOfClass | StyleOfMenu},
-    {"BGColor",              &SubmenuObj::BGColor,              "#C0C0C0", Form::Raw, StyleOfClass | StyleOfMenu},
-    {"BGImage",              &SubmenuObj::BGImage,              notSet, Form::Escaped, StyleOfClass | StyleOfMenu, &SubmenuObj::BGImageNo},
-    {"BorderStyle",          &SubmenuObj::BorderStyle,          "outset", Form::Raw, StyleOfClass | StyleOfMenu},
+    {"TitleBorderColor",     &SubmenuObj::TitleBorderColor,     "#5B5B5B", FileForm::Raw, StyleOfClass | StyleOfMenu},
+    {"BGColor",              &SubmenuObj::BGColor,              "#C0C0C0", FileForm::Raw, StyleOfClass | StyleOfMenu},
+    {"BGImage",              &SubmenuObj::BGImage,              notSet, FileForm::Escaped, StyleOfClass | StyleOfMenu, &SubmenuObj::BGImageNo},
+    {"BorderStyle",          &SubmenuObj::BorderStyle,          "outset", FileForm::Raw, StyleOfClass | StyleOfMenu},
     {"BorderWidth",          &SubmenuObj::BorderWidth,          2, StyleOfClass | StyleOfMenu},
-    {"BorderColor",          &SubmenuObj::BorderColor,          "#C0C0C0", Form::Raw, StyleOfClass | StyleOfMenu},
+    {"BorderColor",          &SubmenuObj::BorderColor,          "#C0C0C0", FileForm::Raw, StyleOfClass | StyleOfMenu},
     {"DistanceBetweenItems", &SubmenuObj::DistanceBetweenItems, 0, StyleOfClass | StyleOfMenu},
     {"UniformItemWidths",    &SubmenuObj::UniformItemWidths,    1, StyleOfClass | StyleOfMenu},
     {"UniformItemHeights",   &SubmenuObj::UniformItemHeights,   0, StyleOfClass | StyleOfMenu},
-    {"JavascriptOnOpen",     &SubmenuObj::JavascriptOnOpen,     notSet, Form::Escaped},
-    {"JavascriptOnClose",    &SubmenuObj::JavascriptOnClose,    notSet, Form::Escaped},
+    {"JavascriptOnOpen",     &SubmenuObj::JavascriptOnOpen,     notSet, FileForm::Escaped},
+    {"JavascriptOnClose",    &SubmenuObj::JavascriptOnClose,    notSet, FileForm::Escaped},
 });
 // clang-format on
 static_assert(submenuProperties.size() == 35);

@@ -99,12 +99,21 @@ Node& Tree::addRoot(std::string key, SharedText text) {
 
 Node& Tree::add(Node& relative, Relationship relationship, std::string key, SharedText text) {
   Node& node = create(std::move(key), std::move(text));
+  place(node, relative, relationship);
+  return node;
+}
+
+void Tree::move(Node& node, Node& relative, Relationship relationship) {
+  unlink(node);
+  place(node, relative, relationship);
+}
+
+void Tree::place(Node& node, Node& relative, Relationship relationship) {
   switch (relationship) {
     case Relationship::Next: link(node, relative.parent_, &relative, relative.next_); break;
     case Relationship::Previous: link(node, relative.parent_, relative.previous_, &relative); break;
     case Relationship::Child: link(node, &relative, relative.lastChild_, nullptr); break;
   }
-  return node;
 }
 
 void Tree::remove(std::string_view key) {

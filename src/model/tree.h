@@ -69,6 +69,9 @@ class Tree {
   Node& addRoot(std::string key, SharedText text);
   Node& add(Node& relative, Relationship relationship, std::string key, SharedText text);
 
+  /// Moves a node with whatever hangs from it to another place, which does not lie in it.
+  void move(Node& node, Node& relative, Relationship relationship);
+
   /// Removes the node and whatever hangs from it. A key that is not there is no error.
   void remove(std::string_view key);
   void clear();
@@ -78,6 +81,7 @@ class Tree {
 
  private:
   Node& create(std::string key, SharedText text);
+  void place(Node& node, Node& relative, Relationship relationship);
   void link(Node& node, Node* parent, Node* previous, Node* next);
   void unlink(Node& node);
 

@@ -23,18 +23,18 @@ SharedText unescaped(FileHandle& file, std::string_view value) {
   return file.shared(text);
 }
 
-void append(std::string& out, Form form, const SharedText& value) {
+void append(std::string& out, FileForm form, const SharedText& value) {
   switch (form) {
-    case Form::Marked: appendMarked(out, value); break;
-    case Form::Escaped: appendEscaped(out, value); break;
+    case FileForm::Marked: appendMarked(out, value); break;
+    case FileForm::Escaped: appendEscaped(out, value); break;
     default: out += value;  // kept: a comma in a raw value stands as it is and shifts what is read behind it
   }
 }
 
-void append(std::string& out, Form, std::uint8_t value) { appendGeneral(out, value); }
+void append(std::string& out, FileForm, std::uint8_t value) { appendGeneral(out, value); }
 
-void append(std::string& out, Form form, float value) {
-  if (form == Form::Flag) {
+void append(std::string& out, FileForm form, float value) {
+  if (form == FileForm::Flag) {
     out += value == 0 ? '0' : '1';
   } else {
     appendGeneral(out, value);
@@ -55,8 +55,8 @@ template <class E>
 void read(FileHandle& file, std::string_view FPath, const Property<E>& property, SharedText& field) {
   const auto value = file.next();
   switch (property.form) {
-    case Form::Marked: field = unmarked(file, property.name, value); break;
-    case Form::Escaped: field = unescaped(file, value); break;
+    case FileForm::Marked: field = unmarked(file, property.name, value); break;
+    case FileForm::Escaped: field = unescaped(file, value); break;
     default: field = file.shared(value);
   }
   if (property.isImage() && field.view().starts_with('*')) {
@@ -73,7 +73,7 @@ void read(FileHandle& file, std::string_view, const Property<E>& property, std::
 template <class E>
 void read(FileHandle& file, std::string_view, const Property<E>& property, float& field) {
   const auto value = file.next();
-  if (property.form == Form::Flag) {
+  if (property.form == FileForm::Flag) {
     constexpr float flagged = -1;
     field = value == "0" ? 0 : flagged;
   } else {

@@ -48,6 +48,9 @@ class FileSystem {
   /// Makes one level; its parent is to be there. A folder that is there already is no error.
   virtual void makeFolder(std::string_view path) = 0;
 
+  /// Removes a folder in which nothing is left.
+  virtual void removeFolder(std::string_view path) = 0;
+
   /// The names of the files in a folder, in the order of their bytes; none if there is no such folder.
   virtual std::vector<std::string> filesIn(std::string_view folder) const = 0;
 

@@ -46,26 +46,28 @@ std::string rawText(Chance& chance, std::size_t longest) {
   return bare(std::move(text));
 }
 
-SharedText valueOf(Chance& chance, Form form) {
+SharedText valueOf(Chance& chance, FileForm form) {
   static const std::vector<std::string> frequent{"n", "", "#00FF80", "C:\\site\\pictures\\a, b.gif"};
   static const std::vector<std::string> names{" outer blanks ", "\"quoted\"", "a, b, \"c\"", "!", ","};
   switch (form) {
-    case Form::Marked: return chance.oneIn(2) ? names[chance.below(names.size())] : anyText(chance, 30);
-    case Form::Escaped:
+    case FileForm::Marked: return chance.oneIn(2) ? names[chance.below(names.size())] : anyText(chance, 30);
+    case FileForm::Escaped:
       return chance.oneIn(2) ? frequent[chance.below(frequent.size())] : bare(anyText(chance, 60));
     default: return chance.oneIn(2) ? frequent[chance.below(3)] : rawText(chance, 12);
   }
 }
 
-void vary(Chance& chance, Form form, SharedText& value) { value = valueOf(chance, form); }
+void vary(Chance& chance, FileForm form, SharedText& value) { value = valueOf(chance, form); }
 
-void vary(Chance& chance, Form, std::uint8_t& value) { value = static_cast<std::uint8_t>(chance.below(256)); }
+void vary(Chance& chance, FileForm, std::uint8_t& value) {
+  value = static_cast<std::uint8_t>(chance.below(256));
+}
 
-void vary(Chance& chance, Form form, float& value) {
+void vary(Chance& chance, FileForm form, float& value) {
   constexpr float flagged = -1;
   const auto whole = static_cast<float>(chance.below(2001)) - 1000;
   const auto fraction = static_cast<float>(chance.below(16)) / 16;
-  value = form == Form::Flag ? (chance.oneIn(2) ? flagged : 0) : whole + (chance.oneIn(2) ? fraction : 0);
+  value = form == FileForm::Flag ? (chance.oneIn(2) ? flagged : 0) : whole + (chance.oneIn(2) ? fraction : 0);
 }
 
 void vary(Chance& chance, std::string& value) { value = rawText(chance, 30); }

@@ -46,6 +46,14 @@ void MemoryFileSystem::makeFolder(std::string_view path) {
   folders.emplace(path);
 }
 
+void MemoryFileSystem::removeFolder(std::string_view path) {
+  failIfAsked(path);
+  if (!filesIn(path).empty()) throw FileError(std::string(path), "the folder is not empty");
+  const auto folder = folders.find(path);
+  if (folder == folders.end()) throw FileError(std::string(path), "no such folder");
+  folders.erase(folder);
+}
+
 std::vector<std::string> MemoryFileSystem::filesIn(std::string_view folder) const {
   std::vector<std::string> names;
   for (const auto& entry : files) {

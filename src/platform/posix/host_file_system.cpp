@@ -106,6 +106,10 @@ void HostFileSystem::makeFolder(std::string_view path) {
     fail(path, errno);
 }
 
+void HostFileSystem::removeFolder(std::string_view path) {
+  if (::rmdir(toHostPath(path).c_str()) != 0) fail(path, errno);
+}
+
 std::vector<std::string> HostFileSystem::filesIn(std::string_view folder) const {
   std::vector<std::string> names;
   std::error_code error;

@@ -16,6 +16,7 @@ class HostFileSystem : public FileSystem {
   void copy(std::string_view from, std::string_view to) override;
   void remove(std::string_view path) override;
   void makeFolder(std::string_view path) override;
+  void removeFolder(std::string_view path) override;
   std::vector<std::string> filesIn(std::string_view folder) const override;
 };
 
