@@ -41,6 +41,14 @@ void FileSteps::makeFolder(std::string_view path) {
   attempt([&] { files_.makeFolder(path); });
 }
 
+void FileSteps::remove(std::string_view path) {
+  attempt([&] { files_.remove(path); });
+}
+
+void FileSteps::removeFolder(std::string_view path) {
+  attempt([&] { files_.removeFolder(path); });
+}
+
 void FileSteps::removeFilesIn(std::string_view folder) {
   for (const auto& name : files_.filesIn(folder)) {
     attempt([&] { files_.remove(joinPath(folder, name)); });

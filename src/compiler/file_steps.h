@@ -23,7 +23,9 @@ class FileSteps {
   void copy(std::string_view from, std::string_view to);
   void generate(std::string_view path, std::string_view bytes);
   void makeFolder(std::string_view path);
+  void remove(std::string_view path);
   void removeFilesIn(std::string_view folder);
+  void removeFolder(std::string_view path);
   void note(Finding finding);
 
  private:

@@ -1,0 +1,71 @@
+#include "preview/browser_form.h"
+
+#include <utility>
+
+#include "compiler/file_steps.h"
+#include "preview/preview_page.h"
+#include "text/paths.h"
+
+namespace nimbrel {
+
+frmBrowser::frmBrowser(FileSystem& files, Asker& asker, ProgramState& state,
+                       std::function<void()> CreatePreviewFile)
+    : Form("frmBrowser", "Preview Menu"),
+      files_(files),
+      asker_(asker),
+      state_(state),
+      CreatePreviewFile_(std::move(CreatePreviewFile)) {
+  brwWebBrowser.event = [this] { brwWebBrowser_DocumentComplete(); };
+  btnRefreshPreview.event = [this] { btnRefreshPreview_Click(); };
+  chkBlackPreview.event = [this] { chkBlackPreview_Click(); };
+  Timer1.event = [this] { Timer1_Timer(); };
+  Timer1.interval = 1000;
+  SetUpdated();
+}
+
+void frmBrowser::Show() {
+  isOpen = true;
+  state_.isPreviewWindowLoaded = true;
+}
+
+/// The window hides, whatever is asked: its owner closes it for good at the end.
+void frmBrowser::QueryClose() { Close(); }
+
+void frmBrowser::RefreshPreview() {
+  navigate(brwWebBrowser, previewPagePath(state_.programFolder));
+  SetUpdated();
+}
+
+void frmBrowser::SetUpdated() {
+  lblUpdated.visible = true;
+  lblOutdated.visible = false;
+}
+
+void frmBrowser::SetOutdated() {
+  lblUpdated.visible = false;
+  lblOutdated.visible = true;
+}
+
+/// kept: writing the page shows it already, so that the browser is sent there twice.
+void frmBrowser::btnRefreshPreview_Click() {
+  CreatePreviewFile_();
+  RefreshPreview();
+}
+
+void frmBrowser::chkBlackPreview_Click() {
+  state_.BlackPreview = chkBlackPreview.value;
+  CreatePreviewFile_();
+  RefreshPreview();
+}
+
+void frmBrowser::brwWebBrowser_DocumentComplete() { Timer1.value = true; }
+
+/// Once for each page: the browser holds what it has loaded.
+void frmBrowser::Timer1_Timer() {
+  Timer1.value = false;
+  StepReport report;
+  FileSteps(files_, report).removeFilesIn(folderName(previewPagePath(state_.programFolder)));
+  for (const auto& finding : report.findings) asker_.noteFailure(finding);
+}
+
+}  // namespace nimbrel

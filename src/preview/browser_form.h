@@ -1,0 +1,45 @@
+#pragma once
+
+#include <functional>
+
+#include "platform/form.h"
+#include "platform/ports.h"
+#include "platform/program_state.h"
+
+namespace nimbrel {
+
+/// The window that shows the preview page, tells whether it is up to date, and removes the page's files once
+/// they are loaded. Closed, it hides, until the program ends.
+class frmBrowser : public Form {
+ public:
+  /// `CreatePreviewFile` writes the page and shows it in this window.
+  frmBrowser(FileSystem& files, Asker& asker, ProgramState& state, std::function<void()> CreatePreviewFile);
+
+  /// Shows the window, for the first time or again.
+  void Show();
+  void QueryClose() override;
+
+  void RefreshPreview();
+  void SetUpdated();
+  void SetOutdated();
+
+  void btnRefreshPreview_Click();
+  void chkBlackPreview_Click();
+  void brwWebBrowser_DocumentComplete();
+  void Timer1_Timer();
+
+  Control brwWebBrowser{*this, "brwWebBrowser", ControlKind::Browser};
+  Control btnRefreshPreview{*this, "btnRefreshPreview", ControlKind::Button, "Refresh Preview"};
+  Control chkBlackPreview{*this, "chkBlackPreview", ControlKind::Check, "Dark Background"};
+  Control lblUpdated{*this, "lblUpdated", ControlKind::Label, " Preview is updated"};
+  Control lblOutdated{*this, "lblOutdated", ControlKind::Label, " Preview needs to be refreshed"};
+  Control Timer1{*this, "Timer1", ControlKind::Timer};
+
+ private:
+  FileSystem& files_;
+  Asker& asker_;
+  ProgramState& state_;
+  std::function<void()> CreatePreviewFile_;
+};
+
+}  // namespace nimbrel
