@@ -1,0 +1,14 @@
+#include "properties/live_examples.h"
+
+#include "text/paths.h"
+
+namespace nimbrel {
+
+void frmLiveExamples::ShowExample(std::string_view ExampleFile, std::string_view Caption) {
+  state_.isLiveExamplesWindowLoaded = true;
+  isOpen = true;
+  navigate(brwWebBrowser, joinPath(joinPath(state_.programFolder, "Live Examples"), ExampleFile));
+  caption = "Live Example for property: \"" + std::string(Caption) + "\"";
+}
+
+}  // namespace nimbrel
