@@ -32,6 +32,27 @@ ExitStatus linkCommand(const Console& console, FileSystem& files, const LinkCall
 ExitStatus previewCommand(const Console& console, FileSystem& files, const std::optional<std::string>& home,
                           MenuInput& input);
 
+struct PlayCall {
+  std::string macro;     ///< a path, or "-" for standard input
+  std::string settings;  ///< a path, empty for settings that end with the run
+};
+ExitStatus playCommand(const Console& console, FileSystem& files, const std::optional<std::string>& home,
+                       const PlayCall& call);
+
+struct StyleCall {
+  std::string name;
+  std::string out;
+  std::string key;
+  std::string scope = "menu";
+};
+ExitStatus styleListCommand(const Console& console, const FileSystem& files,
+                            const std::optional<std::string>& home);
+ExitStatus styleCreateCommand(const Console& console, FileSystem& files,
+                              const std::optional<std::string>& home, MenuInput& input,
+                              const std::string& name);
+ExitStatus styleApplyCommand(const Console& console, FileSystem& files,
+                             const std::optional<std::string>& home, MenuInput& input, const StyleCall& call);
+
 ExitStatus checkCommand(const Console& console, const FileSystem& files, MenuInput& input);
 
 }  // namespace nimbrel

@@ -20,8 +20,10 @@ enum ExitStatus : int {
 /// as UTF-8 with paths in the system's own form.
 class Console {
  public:
-  Console(std::ostream& out, std::ostream& err, bool errIsTerminal)
-      : out_(out), err_(err), errIsTerminal_(errIsTerminal) {}
+  Console(std::istream& in, std::ostream& out, std::ostream& err, bool errIsTerminal)
+      : in_(in), out_(out), err_(err), errIsTerminal_(errIsTerminal) {}
+
+  std::istream& in() const { return in_; }
 
   std::ostream& out() const { return out_; }
   std::ostream& err() const { return err_; }
@@ -38,6 +40,7 @@ class Console {
   ExitStatus faults(const Findings& findings) const;
 
  private:
+  std::istream& in_;
   std::ostream& out_;
   std::ostream& err_;
   bool errIsTerminal_;

@@ -8,7 +8,7 @@
 int main(int argc, char** argv) {
   std::ios::sync_with_stdio(false);
   nimbrel::HostFileSystem files;
-  const nimbrel::Console console(std::cout, std::cerr, ::isatty(STDERR_FILENO) != 0);
+  const nimbrel::Console console(std::cin, std::cout, std::cerr, ::isatty(STDERR_FILENO) != 0);
   nimbrel::MenuInputs menus;
   const int status = nimbrel::nbrc(console, files, {argv + 1, argv + argc}, menus);
   // What could not be printed was not done.

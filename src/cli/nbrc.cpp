@@ -20,6 +20,8 @@ struct Call {
   std::string menu;
   std::string out;
   LinkCall link;
+  PlayCall play;
+  StyleCall style;
   bool asJson = false;
   std::function<ExitStatus()> run;
 
@@ -80,6 +82,40 @@ void declareOutputCommands(CLI::App& app, Call& call, const Console& console, Fi
   preview->add_option("MENU.nbr", call.menu, "the menu file")->required()->type_name("");
 }
 
+void declareStyleCommands(CLI::App& app, Call& call, const Console& console, FileSystem& files) {
+  auto* style =
+      app.add_subcommand("style", "List, create and apply the styles of the gallery.")->fallthrough();
+  style->require_subcommand(1);
+  declare(*style, call, "list", "Print the names of the styles, a line each.",
+          [&] { return styleListCommand(console, files, call.home); });
+
+  auto* create =
+      declare(*style, call, "create", "Create a style from a menu, in place of one of its name.",
+              [&] { return styleCreateCommand(console, files, call.home, call.input(), call.style.name); });
+  create->add_option("MENU.nbr", call.menu, "the menu file")->required()->type_name("");
+  create->add_option("NAME", call.style.name, "the style")->required()->type_name("");
+
+  auto* apply = declare(*style, call, "apply", "Apply a style to a menu and write the result.", [&] {
+    return styleApplyCommand(console, files, call.home, call.input(), call.style);
+  });
+  apply->add_option("NAME", call.style.name, "the style")->required()->type_name("");
+  apply->add_option("MENU.nbr", call.menu, "the menu file")->required()->type_name("");
+  apply->add_option("--to", call.style.out, "the menu file to write")->required()->type_name("OUT.nbr");
+  apply->add_option("--at", call.style.key, "the node; without it the main menu")->type_name("KEY");
+  apply->add_option("--scope", call.style.scope, "menu, submenu or item")
+      ->check(CLI::IsMember({"menu", "submenu", "item"}))
+      ->type_name("SCOPE");
+}
+
+void declarePlay(CLI::App& app, Call& call, const Console& console, FileSystem& files) {
+  auto* play =
+      declare(app, call, "play", "Drive the whole application by a macro; print what happens as JSON.",
+              [&] { return playCommand(console, files, call.home, call.play); });
+  play->add_option("MACRO", call.play.macro, "the macro, - for standard input")->required()->type_name("");
+  play->add_option("--settings", call.play.settings, "settings to start with, written back at the end")
+      ->type_name("FILE");
+}
+
 std::string wrongCallText(const std::string& reason) {
   return "nbrc: " + reason + "\nRun with --help for more information.\n";
 }
@@ -108,6 +144,8 @@ int nbrc(const Console& console, FileSystem& files, std::vector<std::string> wor
   app.failure_message([](const CLI::App*, const CLI::Error& error) { return wrongCallText(error.what()); });
   declareDocumentCommands(app, call, console, files);
   declareOutputCommands(app, call, console, files);
+  declareStyleCommands(app, call, console, files);
+  declarePlay(app, call, console, files);
 
   std::ranges::reverse(words);  // the parser takes them from the end
   try {

@@ -35,10 +35,12 @@ class NbrcTest : public testing::Test {
   }
 
   Outcome run(std::vector<std::string> words) { return runOn(files, std::move(words)); }
-  static Outcome runOn(FileSystem& files, std::vector<std::string> words, bool errIsTerminal = false) {
+  static Outcome runOn(FileSystem& files, std::vector<std::string> words, bool errIsTerminal = false,
+                       const std::string& input = "") {
     std::ostringstream out, err;
     MenuInputs menus;
-    const int status = nbrc(Console(out, err, errIsTerminal), files, std::move(words), menus);
+    std::istringstream in(input);
+    const int status = nbrc(Console(in, out, err, errIsTerminal), files, std::move(words), menus);
     return {status, out.str(), err.str()};
   }
 

@@ -17,7 +17,10 @@ LAYERS = {
     "compiler": ["model", "platform", "text"],
     "linking": ["platform", "text"],
     "preview": ["compiler", "model", "platform", "text"],
-    "cli": ["persistence", "compiler", "linking", "preview", "model", "platform", "text"],
+    "properties": ["model", "platform", "text"],
+    "gallery": ["compiler", "persistence", "model", "platform", "text"],
+    "shell": ["gallery", "properties", "preview", "linking", "persistence", "compiler", "model", "platform", "text"],
+    "cli": ["shell", "gallery", "properties", "persistence", "compiler", "linking", "preview", "model", "platform", "text"],
 }
 PROGRAMS = ["cli"]
 

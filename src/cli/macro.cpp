@@ -1,0 +1,80 @@
+#include "cli/macro.h"
+
+#include "text/windows1252.h"
+
+namespace nimbrel {
+namespace {
+
+bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\r'; }
+
+/// Takes one line apart.
+class LineReader {
+ public:
+  explicit LineReader(std::string_view line) : rest_(line) {}
+
+  bool next(std::string& word) {
+    while (!rest_.empty() && isBlank(rest_.front())) rest_.remove_prefix(1);
+    if (rest_.empty() || rest_.front() == '#') return false;
+    word = rest_.front() == '"' ? quoted() : plain();
+    return true;
+  }
+
+ private:
+  std::string plain() {
+    std::size_t end = 0;
+    while (end < rest_.size() && !isBlank(rest_[end])) ++end;
+    std::string word(rest_.substr(0, end));
+    rest_.remove_prefix(end);
+    return word;
+  }
+
+  std::string quoted() {
+    std::string word;
+    rest_.remove_prefix(1);
+    while (!rest_.empty() && rest_.front() != '"') word += character();
+    if (rest_.empty()) throw MacroFault("a quoted word has no end");
+    rest_.remove_prefix(1);
+    if (!rest_.empty() && !isBlank(rest_.front())) throw MacroFault("a word goes on behind its quotes");
+    return word;
+  }
+
+  char character() {
+    char c = rest_.front();
+    rest_.remove_prefix(1);
+    if (c != '\\') return c;
+    if (rest_.empty()) throw MacroFault("a quoted word has no end");
+    c = rest_.front();
+    rest_.remove_prefix(1);
+    switch (c) {
+      case 'n': return '\n';
+      case 'r': return '\r';
+      case 't': return '\t';
+      case '"':
+      case '\\': return c;
+      default: throw MacroFault(std::string("unknown escape \\") + c);
+    }
+  }
+
+  std::string_view rest_;
+};
+
+}  // namespace
+
+std::vector<MacroLine> parseMacro(std::string_view text) {
+  std::vector<MacroLine> lines;
+  for (std::size_t number = 1; !text.empty(); ++number) {
+    const auto end = text.find('\n');
+    LineReader reader(text.substr(0, end));
+    MacroLine line{number, {}};
+    try {
+      for (std::string word; reader.next(word);) line.words.push_back(fromUtf8(word));
+    } catch (const MacroFault& fault) {
+      throw MacroFault("line " + std::to_string(number) + ": " + fault.what());
+    }
+    if (!line.words.empty()) lines.push_back(std::move(line));
+    text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
+  }
+  return lines;
+}
+
+}  // namespace nimbrel

@@ -1,0 +1,201 @@
+#include "cli/play_asker.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+
+#include "cli/macro.h"
+#include "platform/posix/host_paths.h"
+#include "text/windows1252.h"
+
+namespace nimbrel {
+namespace {
+
+constexpr std::array buttonNames{"OK", "Yes", "No", "Cancel", "Help"};
+constexpr std::array iconNames{"exclamation", "critical", "question", "information"};
+
+const char* nameOf(BoxButton button) { return buttonNames.at(static_cast<std::size_t>(button)); }
+
+template <class T>
+std::optional<T> takeFirst(std::deque<T>& queue) {
+  if (queue.empty()) return std::nullopt;
+  T first = std::move(queue.front());
+  queue.pop_front();
+  return first;
+}
+
+std::string shownValue(const Control& control) {
+  const bool isFlag = control.kind == ControlKind::Check || control.kind == ControlKind::Option;
+  return isFlag ? (control.value ? "1" : "0") : control.text;
+}
+
+Control& controlOf(Form& form, std::string_view name) {
+  if (auto* control = form.find(name)) return *control;
+  throw MacroFault(std::string(form.name) + " has no control " + std::string(name));
+}
+
+}  // namespace
+
+void Transcript::tell(const std::string& name, Json value) {
+  Json line = Json::object();
+  line.emplace(name, std::move(value));
+  tellWhole(line);
+}
+
+void Transcript::tellWhole(const Json& line) {
+  out_ << line.dump(-1, ' ', false, Json::error_handler_t::replace) << '\n';
+}
+
+void Transcript::error(std::string_view text) {
+  hadErrors_ = true;
+  tell("error", toUtf8(text));
+}
+
+BoxButton PlayAsker::MsgBox(const MessageBox& box) {
+  const auto answer = takeFirst(answers_).value_or(box.standard());
+  if (std::ranges::find(box.buttons, answer) == box.buttons.end()) {
+    throw MacroFault("the message \"" + box.title + "\" has no button " + nameOf(answer));
+  }
+  Json buttons = Json::array();
+  for (const auto button : box.buttons) buttons.push_back(nameOf(button));
+  transcript_.tell("message", {{"title", toUtf8(box.title)},
+                               {"text", toUtf8(box.text)},
+                               {"icon", iconNames.at(static_cast<std::size_t>(box.icon))},
+                               {"buttons", std::move(buttons)},
+                               {"default", nameOf(box.standard())},
+                               {"answer", nameOf(answer)}});
+  if (answer == BoxButton::Help) help_.openTopic(box.helpTopic);
+  return answer;
+}
+
+std::optional<std::string> PlayAsker::chooseFile(const FileDialog& dialog) {
+  const auto result = takeFirst(files_).value_or(std::nullopt);
+  transcript_.tell("fileDialog", {{"kind", dialog.kind == FileDialog::Open ? "open" : "save"},
+                                  {"title", toUtf8(dialog.title)},
+                                  {"filter", toUtf8(dialog.filter)},
+                                  {"folder", toUtf8(dialog.folder)},
+                                  {"name", toUtf8(dialog.name)},
+                                  {"result", result ? Json(*result) : Json(nullptr)}});
+  return result ? std::optional(fromHostPath(*result)) : std::nullopt;
+}
+
+std::optional<std::uint32_t> PlayAsker::chooseColour() { return takeFirst(colours_).value_or(std::nullopt); }
+
+void PlayAsker::noteFailure(const Finding& finding) {
+  transcript_.error(finding.path.empty() ? finding.text() : finding.path + ": " + finding.text());
+}
+
+/// A step that is left over when its form has closed is a fault of the macro.
+void PlayAsker::ShowModal(Form& form) {
+  transcript_.tell("form", {{"name", std::string(form.name)}, {"caption", toUtf8(form.caption)}});
+  form.isOpen = true;
+  auto& queued = forms_[std::string(form.name)];
+  const auto steps = takeFirst(queued).value_or(std::vector<std::string>{});
+  for (const auto& one : steps) {
+    if (!form.isOpen) throw MacroFault(std::string(form.name) + " is closed ahead of the step " + one);
+    step(form, one);
+  }
+  if (form.isOpen) closeAsCancelled(form);
+}
+
+void PlayAsker::closeAsCancelled(Form& form) {
+  if (form.cancelButton.empty()) {
+    form.QueryClose();
+  } else {
+    form.click(*form.find(form.cancelButton));
+  }
+  form.Close();
+}
+
+void PlayAsker::step(Form& form, std::string_view step) {
+  const auto equals = step.find('=');
+  if (equals != std::string_view::npos) {
+    assign(form, controlOf(form, step.substr(0, equals)), step.substr(equals + 1));
+    return;
+  }
+  if (step.empty()) throw MacroFault("an empty step");
+  auto& control = controlOf(form, step.substr(0, step.size() - 1));
+  if (step.back() == '!') {
+    form.click(control);
+  } else if (step.back() == '?') {
+    tellControl(form, control);
+  } else {
+    throw MacroFault("no step: " + std::string(step));
+  }
+}
+
+void PlayAsker::assign(Form& form, Control& control, std::string_view text) {
+  switch (control.kind) {
+    case ControlKind::Text:
+    case ControlKind::Folder: form.enter(control, text); break;
+    case ControlKind::Check: form.check(control, text == "1"); break;
+    case ControlKind::List:
+    case ControlKind::Tabs: {
+      const auto found = std::ranges::find(control.list, text);
+      if (found == control.list.end()) {
+        throw MacroFault(std::string(control.name) + " has no entry " + std::string(text));
+      }
+      form.choose(control, {static_cast<std::size_t>(found - control.list.begin())});
+      break;
+    }
+    default: throw MacroFault(std::string(control.name) + " takes no text");
+  }
+}
+
+void PlayAsker::tellControl(const Form& form, const Control& control) {
+  transcript_.tell("control", {{"form", std::string(form.name)},
+                               {"name", std::string(control.name)},
+                               {"text", toUtf8(shownValue(control))},
+                               {"enabled", control.enabled},
+                               {"visible", control.visible}});
+}
+
+void PlayAsker::queueAnswer(std::string_view button) {
+  const auto* found = std::ranges::find(buttonNames, button);
+  if (found == buttonNames.end()) throw MacroFault("no button: " + std::string(button));
+  answers_.push_back(static_cast<BoxButton>(found - buttonNames.begin()));
+}
+
+void PlayAsker::queueFile(std::string_view path) {
+  files_.push_back(path == "cancel" ? std::nullopt : std::optional(absoluteHostPath(toUtf8(path))));
+}
+
+/// The chooser gives blue in the high byte.
+void PlayAsker::queueColour(std::string_view colour) {
+  if (colour == "cancel") {
+    colours_.emplace_back(std::nullopt);
+    return;
+  }
+  std::uint32_t rgb = 0;
+  constexpr std::size_t digits = 6;
+  const auto* end = colour.data() + colour.size();
+  const auto parsed = std::from_chars(colour.data(), end, rgb, 16);
+  if (colour.size() != digits || parsed.ptr != end) throw MacroFault("no colour: " + std::string(colour));
+  colours_.emplace_back(((rgb & 0xFFU) << 16U) | (rgb & 0xFF00U) | (rgb >> 16U));
+}
+
+void PlayAsker::queueForm(std::string_view name, std::vector<std::string> steps) {
+  forms_[std::string(name)].push_back(std::move(steps));
+}
+
+void PlayOpener::ShellExecuteA(std::string_view, std::string_view file, std::string_view, std::string_view,
+                               int) {
+  transcript_.tell("shell", toUtf8(file));
+}
+
+bool PlayHelp::openTopic(int topic) {
+  transcript_.tell("help", topic);
+  return true;
+}
+
+bool PlayHelp::openContents() {
+  transcript_.tell("help", "contents");
+  return true;
+}
+
+bool PlayHelp::openSearch() {
+  transcript_.tell("help", "search");
+  return true;
+}
+
+}  // namespace nimbrel

@@ -1,0 +1,240 @@
+#include <array>
+#include <charconv>
+#include <iterator>
+#include <random>
+
+#include "cli/commands.h"
+#include "cli/macro.h"
+#include "cli/play_asker.h"
+#include "cli/play_state.h"
+#include "platform/posix/host_paths.h"
+#include "platform/posix/program_folder.h"
+#include "text/windows1252.h"
+
+namespace nimbrel {
+namespace {
+
+using Words = std::vector<std::string>;
+
+/// The application under a macro: everything but the windows.
+class Player {
+ public:
+  Player(const Console& console, FileSystem& files, const std::string& home, MemorySettings& settings)
+      : transcript_(console.out()),
+        help_(transcript_),
+        asker_(transcript_, help_),
+        opener_(transcript_),
+        settings_(settings),
+        ports_{files, asker_, settings, opener_, help_, classes_, {}, [this] { return random_(); }},
+        window_(ports_, home) {
+    window_.Activate({}, StartWindows::None);
+  }
+
+  /// One statement. Throws `MacroFault`; what a command throws is told and the macro goes on.
+  void play(const Words& words);
+  bool hadErrors() const { return transcript_.hadErrors(); }
+
+ private:
+  friend struct Statement;
+  void run(const Words& words);
+  void force(const Words& words);
+  void select(const Words& words);
+  void key(const Words& words);
+  void edit(const Words& words);
+  void press(const Words& words);
+  void replicate(const Words& words);
+  void close();
+  void print(const Words& words);
+  PropertySheet& sheet();
+
+  Transcript transcript_;
+  PlayHelp help_;
+  PlayAsker asker_;
+  PlayOpener opener_;
+  PlayClasses classes_;
+  MemorySettings& settings_;
+  std::minstd_rand generator_;  // the same on every run
+  double random_() { return static_cast<double>(generator_() - 1) / std::minstd_rand::modulus; }
+  Ports ports_;
+  frmMain window_;
+  bool isClosed_ = false;
+};
+
+struct Statement {
+  std::string_view name;
+  std::size_t words;  ///< the fewest, its own name not counted
+  void (*play)(Player&, const Words&);
+
+  static const Statement* find(std::string_view name);
+};
+
+int numberOf(const std::string& word) {
+  int number = 0;
+  const auto* end = word.data() + word.size();
+  if (std::from_chars(word.data(), end, number).ptr != end || word.empty())
+    throw MacroFault("no number: " + word);
+  return number;
+}
+
+const Statement* Statement::find(std::string_view name) {
+  static constexpr auto statements = std::to_array<Statement>({
+      {"run", 1, [](Player& p, const Words& w) { p.run(w); }},
+      {"force", 1, [](Player& p, const Words& w) { p.force(w); }},
+      {"select", 1, [](Player& p, const Words& w) { p.select(w); }},
+      {"key", 1, [](Player& p, const Words& w) { p.key(w); }},
+      {"edit", 3, [](Player& p, const Words& w) { p.edit(w); }},
+      {"leave", 0, [](Player& p, const Words&) { p.window_.LeaveCells(); }},
+      {"press", 1, [](Player& p, const Words& w) { p.press(w); }},
+      {"replicate", 1, [](Player& p, const Words& w) { p.replicate(w); }},
+      {"answer", 1, [](Player& p, const Words& w) { p.asker_.queueAnswer(w[1]); }},
+      {"choose", 1, [](Player& p, const Words& w) { p.asker_.queueFile(w[1]); }},
+      {"colour", 1, [](Player& p, const Words& w) { p.asker_.queueColour(w[1]); }},
+      {"form", 1,
+       [](Player& p, const Words& w) {
+         p.asker_.queueForm(w[1], {w.begin() + 2, w.end()});
+       }},
+      {"close", 0, [](Player& p, const Words&) { p.close(); }},
+      {"print", 1, [](Player& p, const Words& w) { p.print(w); }},
+  });
+  const auto* found = std::ranges::find(statements, name, &Statement::name);
+  return found == statements.end() ? nullptr : found;
+}
+
+void Player::play(const Words& words) {
+  const auto* statement = Statement::find(words.front());
+  if (statement == nullptr) throw MacroFault("unknown word " + words.front());
+  if (words.size() - 1 < statement->words) throw MacroFault(words.front() + " takes more words");
+  if (isClosed_ && words.front() != "print") throw MacroFault("the window is closed");
+  try {
+    statement->play(*this, words);
+  } catch (const MacroFault&) {
+    throw;
+  } catch (const FileError& error) {
+    asker_.noteFailure(error.finding());
+  } catch (const std::exception& error) {
+    transcript_.error(error.what());
+  }
+}
+
+void Player::run(const Words& words) {
+  if (window_.commands.find(words[1]) == nullptr) throw MacroFault("no command " + words[1]);
+  if (!window_.canRun(words[1])) {
+    transcript_.tell("refused", toUtf8(words[1]));
+  } else if (words[1] == "mnuFileExit") {
+    close();
+  } else {
+    window_.run(words[1]);
+  }
+}
+
+void Player::force(const Words& words) {
+  if (words[1] == "mnuFileExit") {
+    close();
+  } else if (!window_.run(words[1])) {
+    throw MacroFault("no command " + words[1]);
+  }
+}
+
+void Player::select(const Words& words) {
+  Node* node = window_.document.tvTreeView.find(words[1]);
+  if (node == nullptr) throw MacroFault("no node " + words[1]);
+  window_.tvTreeView_NodeClick(node);
+}
+
+void Player::key(const Words& words) {
+  constexpr int deleteKey = 46;
+  window_.tvTreeView_KeyUp(words[1] == "Delete" ? deleteKey : 0);
+}
+
+PropertySheet& Player::sheet() {
+  auto* sheet = window_.visibleSheet();
+  if (sheet == nullptr) throw MacroFault("no sheet is shown");
+  return *sheet;
+}
+
+void Player::edit(const Words& words) {
+  auto& shown = sheet();
+  const int row = numberOf(words[1]);
+  if (row < 0 || row >= shown.RowCount()) throw MacroFault("no row " + words[1]);
+  shown.LeaveCell();
+  shown.EnterCell(row, numberOf(words[2]));
+  shown.type(words[3]);
+}
+
+void Player::press(const Words& words) {
+  auto& shown = sheet();
+  if (!shown.Editing()) throw MacroFault("no cell is open");
+  auto* button = shown.find(words[1]);
+  if (button == nullptr || button->kind != ControlKind::Button) throw MacroFault("no button " + words[1]);
+  shown.click(*button);
+}
+
+void Player::replicate(const Words& words) {
+  auto& shown = sheet();
+  const int row = numberOf(words[1]);
+  if (row < 0 || row >= shown.RowCount()) throw MacroFault("no row " + words[1]);
+  shown.LeaveCell();
+  shown.EnterCell(row, column::Normal);
+  shown.click(shown.btnReplicate);
+}
+
+void Player::close() {
+  isClosed_ = window_.QueryClose();
+  transcript_.tell("closed", isClosed_);
+}
+
+void Player::print(const Words& words) {
+  const auto& what = words[1];
+  if (what == "tree") {
+    transcript_.tellWhole(treeState(window_));
+  } else if (what == "state") {
+    transcript_.tell("state", publicState(window_));
+  } else if (what == "commands") {
+    transcript_.tellWhole(commandState(window_));
+  } else if (what == "sheet") {
+    transcript_.tell("sheet", sheetState(window_));
+  } else if (what == "settings") {
+    transcript_.tell("settings", settingsState(settings_));
+  } else if (what == "element" && words.size() > 2) {
+    transcript_.tell("element", elementState(window_, words[2]));
+  } else {
+    throw MacroFault("nothing to print: " + what);
+  }
+}
+
+std::string macroText(FileSystem& files, const PlayCall& call, std::istream& in) {
+  if (call.macro == "-") return {std::istreambuf_iterator<char>(in), {}};
+  return files.read(fromHostPath(absoluteHostPath(call.macro)));
+}
+
+}  // namespace
+
+ExitStatus playCommand(const Console& console, FileSystem& files, const std::optional<std::string>& home,
+                       const PlayCall& call) {
+  MemorySettings settings;
+  const auto settingsPath = call.settings.empty() ? "" : fromHostPath(absoluteHostPath(call.settings));
+  std::size_t line = 0;
+  ExitStatus status = done;
+  try {
+    if (!settingsPath.empty() && files.isFile(settingsPath)) {
+      readSettings(settings, files.read(settingsPath), call.settings);
+    }
+    const auto macro = parseMacro(macroText(files, call, console.in()));
+    Player player(console, files, fromHostPath(absoluteHostPath(programFolder(home))), settings);
+    for (const auto& statement : macro) {
+      line = statement.number;
+      player.play(statement.words);
+    }
+    if (player.hadErrors()) status = notAllDone;
+  } catch (const MacroFault& fault) {
+    console.err() << "nbrc: " << call.macro << ": "
+                  << (line == 0 ? "" : "line " + std::to_string(line) + ": ") << toUtf8(fault.what()) << '\n';
+    status = wrongCall;
+  }
+  if (!settingsPath.empty()) {
+    files.replace(settingsPath, Json{{"settings", settingsState(settings)}}.dump() + "\n");
+  }
+  return status;
+}
+
+}  // namespace nimbrel

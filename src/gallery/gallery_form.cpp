@@ -1,0 +1,154 @@
+#include "gallery/gallery_form.h"
+
+#include <utility>
+
+#include "compiler/script_assembly.h"
+#include "text/ascii.h"
+#include "text/paths.h"
+
+namespace nimbrel {
+namespace {
+
+constexpr std::string_view suffix = ".nbs";
+
+constexpr const char* previewPage =
+    "<HTML>\r\n"
+    "<BODY BACKGROUND=\"../stylepreview-back.jpg\">\r\n"
+    "<img name='nbrMenuPathImg-gallery' id='nbrMenuPathImg-gallery' src='./nbrmenupath.gif' "
+    "style='position:absolute;' width=1 height=1>\r\n"
+    "<script>var nbrAltUrl='';</script>\r\n"
+    "<script src='./stylepreview.js' language='JavaScript1.2' type='text/javascript'></script>\r\n"
+    "<script>nbrBuildMenu();</script>\r\n"
+    "</BODY>\r\n"
+    "</HTML>\r\n";
+
+bool isOldPicture(std::string_view name) {
+  const auto lower = lowered(name);
+  return lower.ends_with(".gif") || lower.ends_with(".jpg");
+}
+
+}  // namespace
+
+frmGallery::frmGallery(Ports& ports, ProgramState& state, SubmenuCarryOver& carryOver, Kind selectedKind,
+                       std::function<void(StyleScope, const MenuStyle&)> apply)
+    : Form("frmGallery", "Style Gallery"),
+      ports_(ports),
+      state_(state),
+      carryOver_(carryOver),
+      apply_(std::move(apply)) {
+  bind();
+  cancelButton = btnCancel.name;
+  Timer1.interval = 3000;
+  FillStyleList();
+  setOption(Option1);
+  (selectedKind == Kind::Item ? Option2 : Option3).enabled = false;
+}
+
+void frmGallery::bind() {
+  cboStyle.event = [this] { cboStyle_Click(); };
+  WebBrowser.event = [this] { WebBrowser_DocumentComplete(); };
+  Timer1.event = [this] { Timer1_Timer(); };
+  btnApply.event = [this] { btnApply_Click(); };
+  btnCancel.event = [this] { Close(); };
+  btnDeleteStyle.event = [this] { btnDeleteStyle_Click(); };
+  Label4.event = [this] { OpenWithShell(ports_.opener, Label4.text); };
+}
+
+void frmGallery::FillStyleList() {
+  cboStyle.list.clear();
+  cboStyle.selected.clear();
+  cboStyle.text.clear();
+  for (const auto& file : ports_.files.filesIn(galleryFolder(state_.programFolder))) {
+    if (lowered(file).ends_with(suffix)) cboStyle.list.push_back(file.substr(0, file.size() - suffix.size()));
+  }
+}
+
+void frmGallery::Form_Activate() {
+  if (cboStyle.list.empty()) {
+    navigate(WebBrowser, state_.programFolder + "\\nostyles.html");
+    for (auto* control : {&btnApply, &Frame1, &Option1, &Option2, &Option3, &btnDeleteStyle})
+      control->enabled = false;
+  } else if (cboStyle.selected.empty()) {
+    choose(cboStyle, {0});
+  }
+}
+
+void frmGallery::readSelected() {
+  StyleInvalid = false;
+  try {
+    StyleInvalid = !ReadStyleFile(ports_.files, state_.programFolder, cboStyle.text, carryOver_, style_);
+  } catch (const FileError& error) {
+    ports_.asker.noteFailure(error.finding());  // shown as far as it was read
+  }
+}
+
+void frmGallery::cboStyle_Click() {
+  readSelected();
+  Frame1.enabled = btnApply.enabled = !StyleInvalid;
+  if (StyleInvalid) {
+    navigate(WebBrowser, state_.programFolder + "\\invalidstyle.html");
+    return;
+  }
+  Timer1.value = false;
+  ApplyStyleToSample(sample_, style_);
+  CreatePreviewFile();
+}
+
+void frmGallery::noteFailures(const StepReport& report) {
+  for (const auto& finding : report.findings) ports_.asker.noteFailure(finding);
+}
+
+void frmGallery::CreatePreviewFile() {
+  StepReport report;
+  FileSteps steps(ports_.files, report);
+  const auto folder = galleryFolder(state_.programFolder);
+  const auto data = folder + "\\nbrData";
+  for (const auto& file : ports_.files.filesIn(data)) {
+    if (isOldPicture(file)) steps.remove(joinPath(data, file));
+  }
+  steps.makeFolder(data);
+  steps.generate(folder + "\\stylepreview.html", previewPage);
+  const ScriptTarget target{folder, "nbrData", "nbrData", "gallery"};
+  const auto script =
+      ScriptMaker(steps, state_.programFolder).CreateMenuScript(ScriptMode::Gallery, sample_, target, true);
+  steps.generate(folder + "\\stylepreview.js", script + "\r\n");
+  noteFailures(report);
+  navigate(WebBrowser, folder + "\\stylepreview.html");
+}
+
+void frmGallery::WebBrowser_DocumentComplete() { Timer1.value = true; }
+
+/// Runs on until the next style is chosen; where nothing is left to remove that does no harm.
+void frmGallery::Timer1_Timer() {
+  StepReport report;
+  FileSteps steps(ports_.files, report);
+  for (const auto* file : {"\\stylepreview.html", "\\stylepreview.js"}) {
+    auto path = galleryFolder(state_.programFolder);
+    path += file;
+    if (ports_.files.isFile(path)) steps.remove(path);
+  }
+  noteFailures(report);
+}
+
+void frmGallery::btnApply_Click() {
+  apply_(Option1.value ? StyleScope::Menu : Option2.value ? StyleScope::Submenu : StyleScope::Item, style_);
+  Close();
+}
+
+void frmGallery::btnDeleteStyle_Click() {
+  const auto answer = ports_.asker.MsgBox(
+      {.title = "Remove Style from Gallery",
+       .text = "You are about to permanently remove the selected style from Gallery.\r\nProceed?",
+       .icon = BoxIcon::Critical,
+       .buttons = {BoxButton::Yes, BoxButton::No},
+       .defaultButton = BoxButton::No});
+  if (answer == BoxButton::Yes) {
+    StepReport report;
+    removeStyle(ports_.files, state_.programFolder, cboStyle.text, report);
+    noteFailures(report);
+  }
+  FillStyleList();
+  Form_Activate();
+}
+
+}  // namespace nimbrel

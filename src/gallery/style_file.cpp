@@ -1,0 +1,160 @@
+#include "gallery/style_file.h"
+
+#include <array>
+#include <utility>
+#include <vector>
+
+#include "persistence/property_line.h"
+#include "text/ascii.h"
+#include "text/numbers.h"
+#include "text/paths.h"
+
+namespace nimbrel {
+namespace {
+
+constexpr std::string_view currentTag = "nbs200";
+constexpr Message badName{"Create Style",
+                          "The Style Name cannot contain any of the following characters:\r\n"
+                          "\\ / : * ? \" < > |"};
+
+enum class Records { None, Version11, Version12, Version20 };
+
+Records recordsOf(std::string_view tag) {
+  if (tag == "nbs110") return Records::Version11;
+  if (tag == "nbs120") return Records::Version12;
+  return tag == currentTag ? Records::Version20 : Records::None;
+}
+
+std::string imagesFolder(const std::string& name) { return name + "-images"; }
+
+/// The pictures that belong to a look, in the order in which they are saved.
+std::vector<SharedText*> lookImages(MenuStyle& style) {
+  auto& item = style.item;
+  return {&style.submenu.BGImage, &item.BGImage1,         &item.BGImage2,        &item.BGImage3,
+          &item.HasSubmenuImage1, &item.HasSubmenuImage2, &item.HasSubmenuImage3};
+}
+
+bool marksSubmenus(const ItemObj& item) {
+  return item.HasSubmenuImage1 != notSet || item.HasSubmenuImage2 != notSet ||
+         item.HasSubmenuImage3 != notSet;
+}
+
+template <class E>
+void prefixImages(E& element, const std::string& folder) {
+  for (const auto* row : imageRows<E>) {
+    auto& path = element.*std::get<SharedText E::*>(row->field);
+    if (path != notSet) path = folder + '\\' + path.str();
+  }
+}
+
+/// Reads one record into an element of its class. What was read ahead of a fault stays.
+template <class E>
+void readRecord(FileHandle& file, Records version, RecordReader20& reader, SubmenuCarryOver& carryOver,
+                E& target) {
+  Element element = E{};
+  const auto take = [&] { target = std::get<E>(std::move(element)); };
+  try {
+    switch (version) {
+      case Records::Version11: ReadPropertiesFromFile11(file, "", carryOver, element); break;
+      case Records::Version12: ReadPropertiesFromFile12(file, "", carryOver, element); break;
+      default: reader.ReadPropertiesFromFile20(element); break;
+    }
+  } catch (const FileError&) {
+    take();
+    throw;
+  }
+  take();
+}
+
+std::string styleFileText(const MenuStyle& style, const std::vector<std::string>& images) {
+  std::string text(currentTag);
+  text += lineEnd;
+  text += printedForm(static_cast<std::int32_t>(images.size()));
+  for (const auto& image : images) text += image + ',';
+  text += lineEnd;
+  text += ParameterString(style.submenu);
+  text += lineEnd;
+  text += ParameterString(style.item);
+  text += lineEnd;
+  return text;
+}
+
+}  // namespace
+
+std::string galleryFolder(const std::string& programFolder) { return programFolder + "\\gallery"; }
+
+std::string styleFilePath(const std::string& programFolder, std::string_view name) {
+  return galleryFolder(programFolder) + '\\' + std::string(name) + ".nbs";
+}
+
+bool ReadStyleFile(const FileSystem& files, const std::string& programFolder, std::string_view name,
+                   SubmenuCarryOver& carryOver, MenuStyle& style) {
+  style = {};
+  const auto path = styleFilePath(programFolder, name);
+  const auto bytes = files.read(path);
+  Findings notes;
+  FileHandle file(path, bytes, notes);
+  const auto version = file.atEnd() ? Records::None : recordsOf(file.next());
+  if (version == Records::None) return false;
+
+  // The list of pictures says nothing that the properties do not say.
+  const auto count = parseInteger(file.next());
+  if (!count) file.fail("the number of pictures is no number");
+  for (std::int32_t i = 0; i < *count; ++i) file.next();
+
+  const auto folder = galleryFolder(programFolder);
+  RecordReader20 reader(file, "");
+  readRecord(file, version, reader, carryOver, style.submenu);
+  prefixImages(style.submenu, folder);
+  readRecord(file, version, reader, carryOver, style.item);
+  prefixImages(style.item, folder);
+  return true;
+}
+
+MenuStyle styleOfMenu(const MenuObj& menu, const ItemObj* firstItem) {
+  MenuStyle style;
+  SetDefaultValues(style.submenu);
+  SetDefaultValues(style.item);
+  CopyStyleValuesFromMenuObject(style.submenu, menu);
+  if (firstItem != nullptr) CopyStyleValuesFromObject(style.item, *firstItem);
+  return style;
+}
+
+void SaveStyle(FileSystem& files, const std::string& programFolder, const std::string& name, MenuStyle style,
+               StepReport& report) {
+  FileSteps steps(files, report);
+  const auto gallery = galleryFolder(programFolder);
+  const auto folder = imagesFolder(name);
+  std::vector<std::string> images;
+  steps.makeFolder(gallery);
+  steps.makeFolder(gallery + '\\' + folder);
+  for (auto* image : lookImages(style)) {
+    if (*image == notSet) continue;
+    const auto source = image->str();
+    images.push_back(folder + '\\' + std::string(fileName(source)));
+    *image = images.back();
+    steps.copy(source, gallery + '\\' + images.back());
+  }
+  if (marksSubmenus(style.item)) {
+    images.push_back(folder + "\\dot.gif");
+    steps.copy(programFolder + "\\dot.gif", gallery + '\\' + images.back());
+  }
+  if (images.empty()) steps.removeFolder(gallery + '\\' + folder);
+  steps.generate(styleFilePath(programFolder, name), styleFileText(style, images));
+}
+
+void removeStyle(FileSystem& files, const std::string& programFolder, const std::string& name,
+                 StepReport& report) {
+  FileSteps steps(files, report);
+  const auto folder = galleryFolder(programFolder) + '\\' + imagesFolder(name);
+  steps.remove(styleFilePath(programFolder, name));
+  if (!files.isFolder(folder)) return;
+  steps.removeFilesIn(folder);
+  steps.removeFolder(folder);
+}
+
+const Message* refusalOfStyleName(std::string_view name) {
+  return name.find_first_of("\\/:*?\"<>|") == std::string_view::npos ? nullptr : &badName;
+}
+
+}  // namespace nimbrel

@@ -1,0 +1,82 @@
+#include "gallery/style_forms.h"
+
+#include "gallery/style_file.h"
+
+namespace nimbrel {
+namespace {
+
+constexpr int pickTopic = 1650;
+
+struct HintText {
+  std::string_view form;
+  std::string_view title;
+  std::string_view text;
+};
+
+const HintText& hintOf(Kind kind) {
+  static constexpr HintText menu{"frmPickStyleMenu", "Main Menu Style Picked",
+                                 "The style of the Main Menu has been picked.\r\n"
+                                 "You can now apply it to any submenu.\r\n"
+                                 "(you cannot apply the Main Menu style to items)"};
+  static constexpr HintText submenu{"frmPickStyleSubmenu", "Submenu Style Picked",
+                                    "The style of the selected submenu has been picked.\r\n"
+                                    "You can now apply it to another submenu, or to the Main Menu.\r\n"
+                                    "(you cannot apply a submenu style to items)"};
+  static constexpr HintText item{"frmPickStyleItem", "Item Style Picked",
+                                 "The style of the selected item has been picked.\r\n"
+                                 "You can now apply it to another item.\r\n"
+                                 "(you cannot apply an item style to submenus or to the Main Menu)"};
+  return kind == Kind::Menu ? menu : kind == Kind::Submenu ? submenu : item;
+}
+
+}  // namespace
+
+frmSaveStyle::frmSaveStyle(Ports& ports, ProgramState& state)
+    : Form("frmSaveStyle", "Create New Style from Menu"), ports_(ports), state_(state) {
+  txtStyleName.event = [this] { txtStyleName_Change(); };
+  btnOk.event = [this] { btnOk_Click(); };
+  btnCancel.event = [this] { btnCancel_Click(); };
+  cancelButton = btnCancel.name;
+  txtStyleName_Change();
+}
+
+void frmSaveStyle::txtStyleName_Change() {
+  btnOk.enabled = txtStyleName.text.find_first_not_of(' ') != std::string::npos;
+}
+
+void frmSaveStyle::btnOk_Click() {
+  const auto& style = txtStyleName.text;
+  if (const auto* refusal = refusalOfStyleName(style)) {
+    auto box = warning(*refusal);
+    box.icon = BoxIcon::Critical;
+    ports_.asker.MsgBox(box);
+    return;
+  }
+  if (ports_.files.isFile(styleFilePath(state_.programFolder, style))) {
+    const auto answer = ports_.asker.MsgBox(
+        {.title = "Style name alreary used",
+         .text = "The name \"" + style + "\" is already used by another style.\r\nDo you want to replace it?",
+         .icon = BoxIcon::Critical,
+         .buttons = {BoxButton::Yes, BoxButton::No},
+         .defaultButton = BoxButton::No});
+    if (answer != BoxButton::Yes) return;
+  }
+  state_.StyleName = style;  // blanks around it stay
+  Close();
+}
+
+void frmSaveStyle::btnCancel_Click() {
+  state_.StyleName.clear();
+  Close();
+}
+
+PickStyleHint::PickStyleHint(Ports& ports, Kind kind) : Form(hintOf(kind).form, hintOf(kind).title) {
+  Label1.text = hintOf(kind).text;
+  Check1.event = [this, &ports] {
+    ports.settings.SaveSetting("Settings", "DontShowPickDialog", Check1.value ? "1" : "0");
+  };
+  cmdOk.event = [this] { Close(); };
+  cmdMoreInfo.event = [&ports] { ports.help.openTopic(pickTopic); };
+}
+
+}  // namespace nimbrel

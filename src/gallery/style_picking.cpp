@@ -1,0 +1,77 @@
+#include "gallery/style_picking.h"
+
+namespace nimbrel {
+namespace {
+
+constexpr Message nothingPicked{"Cannot apply style",
+                                "Cannot apply style.\r\nYou need to pick a style first."};
+constexpr Message containerOnItem{"Cannot apply style", "You cannot apply a submenu style to an item"};
+constexpr Message itemOnSubmenu{"Cannot apply style", "You cannot apply an item style to a submenu"};
+
+void clearMarks(ItemObj& item) {
+  item.HasSubmenuImage1 = item.HasSubmenuImage2 = item.HasSubmenuImage3 = notSet;
+}
+
+void dress(Document& document, const Node& node, const MenuStyle& style) {
+  auto* element = document.element(node);
+  if (element == nullptr) return;
+  if (auto* item = std::get_if<ItemObj>(element)) {
+    CopyStyleValuesFromObject(*item, style.item);
+    if (node.Child() == nullptr) clearMarks(*item);
+  } else if (auto* submenu = std::get_if<SubmenuObj>(element)) {
+    CopyStyleValuesFromObject(*submenu, style.submenu);
+  } else {
+    CopyStyleValuesFromObject(std::get<MenuObj>(*element), style.submenu);
+  }
+}
+
+}  // namespace
+
+void PickStyle(const Element& element, StylePicking& picking) {
+  if (const auto* menu = std::get_if<MenuObj>(&element)) {
+    CopyStyleValuesFromMenuObject(picking.PickedSubmenu, *menu);
+  } else if (const auto* submenu = std::get_if<SubmenuObj>(&element)) {
+    CopyStyleValuesFromObject(picking.PickedSubmenu, *submenu);
+  } else {
+    CopyStyleValuesFromObject(picking.PickedItem, std::get<ItemObj>(element));
+  }
+  picking.PickedStyleKind = kindOf(element) == Kind::Item ? itemStyle : containerStyle;
+}
+
+const Message* refusalOfPickedStyle(const StylePicking& picking, std::string_view key) {
+  if (picking.PickedStyleKind == containerStyle)
+    return kindOf(key) == Kind::Item ? &containerOnItem : nullptr;
+  if (picking.PickedStyleKind == itemStyle) return kindOf(key) == Kind::Submenu ? &itemOnSubmenu : nullptr;
+  return &nothingPicked;
+}
+
+void ApplyPickedStyle(const StylePicking& picking, Element& element) {
+  if (auto* item = std::get_if<ItemObj>(&element)) {
+    CopyStyleValuesFromObject(*item, picking.PickedItem);
+  } else if (auto* submenu = std::get_if<SubmenuObj>(&element)) {
+    CopyStyleValuesFromObject(*submenu, picking.PickedSubmenu);
+  } else {
+    CopyStyleValuesFromObject(std::get<MenuObj>(element), picking.PickedSubmenu);
+  }
+}
+
+void ApplyStyle(Document& document, Node& node, StyleScope scope, const MenuStyle& style) {
+  switch (scope) {
+    case StyleScope::Menu: {
+      const Node* root = document.tvTreeView.root();
+      for (const Node* each = root; each != nullptr; each = following(each, root))
+        dress(document, *each, style);
+      break;
+    }
+    case StyleScope::Submenu:
+      dress(document, node, style);
+      for (const Node* child = node.Child(); child != nullptr; child = child->Next())
+        dress(document, *child, style);
+      break;
+    case StyleScope::Item:
+      if (auto* item = document.get<ItemObj>(node)) CopyStyleValuesFromObject(*item, style.item);
+      break;
+  }
+}
+
+}  // namespace nimbrel

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <string_view>
+
+/// The makers' pages.
+namespace nimbrel::addresses {
+
+inline constexpr std::string_view home = "https://nimbrel.example/";
+inline constexpr std::string_view support = "https://nimbrel.example/support";
+
+}  // namespace nimbrel::addresses

@@ -1,0 +1,243 @@
+#include "shell/main_window.h"
+
+#include <array>
+#include <utility>
+
+#include "properties/element_values.h"
+#include "shell/addresses.h"
+#include "shell/command_table.h"
+#include "text/product.h"
+
+namespace nimbrel {
+
+/// What each command does, by its name.
+struct CommandHandler {
+  std::string_view name;
+  void (*run)(frmMain&);
+
+  static const CommandHandler* find(std::string_view name);
+};
+
+const CommandHandler* CommandHandler::find(std::string_view name) {
+  static constexpr auto handlers = std::to_array<CommandHandler>({
+      {"mnuFileNew", [](frmMain& w) { w.mnuFileNew(); }},
+      {"mnuFileOpen", [](frmMain& w) { w.mnuFileOpen(); }},
+      {"mnuFileSave", [](frmMain& w) { w.mnuFileSave(); }},
+      {"mnuFileSaveAs", [](frmMain& w) { w.mnuFileSaveAs(); }},
+      {"mnuFileMRU1", [](frmMain& w) { w.mnuFileMRU(0); }},
+      {"mnuFileMRU2", [](frmMain& w) { w.mnuFileMRU(1); }},
+      {"mnuFileMRU3", [](frmMain& w) { w.mnuFileMRU(2); }},
+      {"mnuFileMRU4", [](frmMain& w) { w.mnuFileMRU(3); }},
+      {"mnuFileExit", [](frmMain& w) { w.QueryClose(); }},
+      {"mnuEditCut", [](frmMain& w) { w.mnuEditCut(); }},
+      {"mnuEditCopy", [](frmMain& w) { w.mnuEditCopy(); }},
+      {"mnuEditPaste", [](frmMain& w) { w.mnuEditPaste(); }},
+      {"mnuItemAddItem", [](frmMain& w) { w.mnuItemAddItem(); }},
+      {"mnuItemDeleteItem", [](frmMain& w) { w.mnuItemDeleteItem(); }},
+      {"mnuItemMoveItemUp", [](frmMain& w) { w.mnuItemMove(true); }},
+      {"mnuItemMoveItemDown", [](frmMain& w) { w.mnuItemMove(false); }},
+      {"mnuSubmenuAddSubmenu", [](frmMain& w) { w.mnuSubmenuAddSubmenu(); }},
+      {"mnuSubmenuDeleteSubmenu", [](frmMain& w) { w.mnuSubmenuDeleteSubmenu(); }},
+      {"mnuStylePickStyle", [](frmMain& w) { w.mnuStylePickStyle(); }},
+      {"mnuStyleApplyStyle", [](frmMain& w) { w.mnuStyleApplyStyle(); }},
+      {"mnuStyleSaveStyle", [](frmMain& w) { w.mnuStyleSaveStyle(); }},
+      {"mnuStyleOpenStyleLibrary", [](frmMain& w) { w.mnuStyleOpenStyleLibrary(); }},
+      {"mnuToolsPreview", [](frmMain& w) { w.mnuToolsPreview(); }},
+      {"mnuToolsCompileMenu", [](frmMain& w) { w.mnuToolsCompileMenu(); }},
+      {"mnuToolsInsertMenuIntoWebpage", [](frmMain& w) { w.mnuToolsInsertMenuIntoWebpage(); }},
+      {"mnuToolsCompileProperties", [](frmMain& w) { w.mnuToolsCompileProperties(); }},
+      {"mnuToolsOptions", [](frmMain&) {}},
+      {"mnuToolsShowTipOnStartup", [](frmMain& w) { w.mnuToolsShowTipOnStartup(); }},
+      {"mnuToolsShowPreviewOnStartup", [](frmMain& w) { w.mnuToolsShowPreviewOnStartup(); }},
+      {"mnuHelpContents", [](frmMain& w) { w.ports.help.openContents(); }},
+      {"mnuHelpSearchForHelpOn", [](frmMain& w) { w.ports.help.openSearch(); }},
+      {"mnuHelpHowDoI", [](frmMain& w) { w.ports.help.openTopic(2280); }},
+      {"mnuHelpTipOfTheDay", [](frmMain& w) { w.mnuHelpTipOfTheDay(); }},
+      {"mnuHelpPerformanceIssues", [](frmMain& w) { w.ports.help.openTopic(2300); }},
+      {"mnuHelpVisitTolvaneOnTheWeb", [](frmMain& w) { OpenWithShell(w.ports.opener, addresses::home); }},
+      {"mnuHelpOnlineSupportCenter", [](frmMain& w) { OpenWithShell(w.ports.opener, addresses::support); }},
+      {"mnuHelpAbout", [](frmMain& w) { w.mnuHelpAbout(); }},
+  });
+  const auto* found = std::ranges::find(handlers, name, &CommandHandler::name);
+  return found == handlers.end() ? nullptr : found;
+}
+
+namespace {
+
+constexpr int deleteKey = 46;
+
+/// The row that holds the element's name.
+int nameOrdinal(Kind sheet) {
+  constexpr int inMenuSheet = 9;
+  return sheet == Kind::Menu ? inMenuSheet : 0;
+}
+
+}  // namespace
+
+frmMain::frmMain(Ports& p, std::string programFolder)
+    : ports(p),
+      liveExamples(state),
+      browser(ports.files, ports.asker, state, [this] { CreatePreviewFile(); }),
+      prctlMenu(menuTable(), ports, state, liveExamples),
+      prctlSubmenu(submenuTable(), ports, state, liveExamples),
+      prctlItem(itemTable(), ports, state, liveExamples) {
+  state.programFolder = std::move(programFolder);
+  bindSheets();
+  RegisterFileAssociations();
+  readGeometry();
+}
+
+void frmMain::bindSheets() {
+  prctlMenu.Change = [this](int ordinal) { sheetChanged(Kind::Menu, ordinal); };
+  prctlSubmenu.Change = [this](int ordinal) { sheetChanged(Kind::Submenu, ordinal); };
+  prctlItem.Change = [this](int ordinal) { sheetChanged(Kind::Item, ordinal); };
+}
+
+bool frmMain::run(std::string_view name) {
+  const auto command = commandOfEntry(name).empty() ? commandOfKey(name) : commandOfEntry(name);
+  const auto* handler = CommandHandler::find(command);
+  if (handler == nullptr) return false;
+  handler->run(*this);
+  return true;
+}
+
+bool frmMain::canRun(std::string_view name) const {
+  const auto* entry = commands.find(name);
+  return entry != nullptr && entry->enabled && entry->visible && !commandOfEntry(name).empty();
+}
+
+PropertySheet& frmMain::sheetOf(Kind kind) {
+  switch (kind) {
+    case Kind::Menu: return prctlMenu;
+    case Kind::Submenu: return prctlSubmenu;
+    default: return prctlItem;
+  }
+}
+
+PropertySheet* frmMain::visibleSheet() {
+  for (auto* sheet : {&prctlMenu, &prctlSubmenu, &prctlItem}) {
+    if (sheet->isOpen) return sheet;
+  }
+  return nullptr;
+}
+
+void frmMain::LeaveCells() {
+  for (auto* sheet : {&prctlMenu, &prctlSubmenu, &prctlItem}) sheet->LeaveCell();
+}
+
+void frmMain::SetIsDirty() {
+  state.IsDirty = true;
+  outdatePreview();
+}
+
+void frmMain::select(Node* node) { selected = CurrentNode = node; }
+
+void frmMain::SelectNode(Node* node) {
+  LeaveCells();
+  if (node == nullptr) return;
+  select(node);
+  refill(*node);
+  EnableCommands(kindOf(node->Key));
+}
+
+/// Shows the one sheet of the node's kind, filled with its element.
+void frmMain::refill(Node& node) {
+  for (auto* sheet : {&prctlMenu, &prctlSubmenu, &prctlItem}) sheet->isOpen = false;
+  const auto* element = document.element(node);
+  if (element == nullptr) return;
+  auto& sheet = sheetOf(kindOf(node.Key));
+  std::visit([&](const auto& object) { PutValuesToPropertyControl(object, sheet); }, *element);
+  sheet.isOpen = true;
+}
+
+void frmMain::RefreshCurrentSheet() {
+  CurrentNode = selected;
+  if (selected != nullptr) {
+    refill(*selected);
+  } else {
+    for (auto* sheet : {&prctlMenu, &prctlSubmenu, &prctlItem}) sheet->isOpen = false;
+  }
+}
+
+void frmMain::EnableCommands(Kind kind) {
+  commands.enablePaste(!clipboard.tvCopyTree.empty());
+  const bool isItem = kind == Kind::Item;
+  const bool isSubmenu = kind == Kind::Submenu;
+  commands.enable("mnuEditCut", isItem || isSubmenu);
+  commands.enable("mnuEditCopy", isItem || isSubmenu);
+  commands.enable("mnuItemDeleteItem", isItem);
+  if (isItem) {
+    enableMoves();
+    commands.enable("mnuItemPopupMoveItemUp", canMoveUp(*selected));
+    commands.enable("mnuItemPopupMoveItemDown", canMoveDown(*selected));
+  } else {
+    commands.enable("mnuItemMoveItemUp", false);
+    commands.enable("mnuItemMoveItemDown", false);
+  }
+  commands.enable("mnuSubmenuAddSubmenu", isItem);
+  commands.enable("mnuSubmenuDeleteSubmenu", isSubmenu);
+  enableApply(kind);
+}
+
+void frmMain::enableMoves() {
+  commands.enable("mnuItemMoveItemUp", canMoveUp(*selected));
+  commands.enable("mnuItemMoveItemDown", canMoveDown(*selected));
+}
+
+void frmMain::enableApply(Kind kind) {
+  const bool on = picking.PickedStyleKind == (kind == Kind::Item ? itemStyle : containerStyle);
+  commands.enable("mnuStyleApplyStyle", on);
+  switch (kind) {
+    case Kind::Menu: commands.enable("mnuMenuPopupApplyStyle", on); break;
+    case Kind::Submenu: commands.enable("mnuSubmenuPopupApplyStyle", on); break;
+    default: commands.enable("mnuItemPopupApplyStyle", on); break;
+  }
+}
+
+/// Takes one row of a sheet over into the current element. A sheet whose cell stayed open while its element was
+/// removed has nothing to say to another one.
+void frmMain::sheetChanged(Kind sheet, int ordinal) {
+  auto* element = CurrentNode == nullptr ? nullptr : document.element(*CurrentNode);
+  if (element == nullptr || kindOf(*element) != sheet) return;
+  std::visit([&](auto& object) { GetValueFromPropertyControl(object, sheetOf(sheet), ordinal); }, *element);
+  if (ordinal == nameOrdinal(sheet)) CurrentNode->Text = NodeText(*element);
+  SetIsDirty();
+}
+
+void frmMain::tvTreeView_NodeClick(Node* node) {
+  LeaveCells();
+  SelectNode(node);
+}
+
+void frmMain::tvTreeView_KeyUp(int key) {
+  if (key == deleteKey && CurrentNode != nullptr) {
+    switch (kindOf(CurrentNode->Key)) {
+      case Kind::Item: mnuItemDeleteItem(); break;
+      case Kind::Submenu: mnuSubmenuDeleteSubmenu(); break;
+      default: break;
+    }
+  }
+  SelectNode(selected);
+}
+
+std::string_view frmMain::contextMenu() const {
+  switch (CurrentNode == nullptr ? Kind::None : kindOf(CurrentNode->Key)) {
+    case Kind::Menu: return "mnuMenuPopup";
+    case Kind::Submenu: return "mnuSubmenuPopup";
+    case Kind::Item: return "mnuItemPopup";
+    default: return {};
+  }
+}
+
+bool frmMain::Form_Resize(Geometry& window, bool minimised) const {
+  if (minimised || window.width >= smallestFormWidth) return false;
+  window.width = smallestFormWidth;
+  return true;
+}
+
+void frmMain::setTitle(std::string_view documentName) {
+  title =
+      std::string(productTitle) + " ver " + std::string(productVersion) + " - " + std::string(documentName);
+}
+
+}  // namespace nimbrel

@@ -1,0 +1,46 @@
+#include "shell/recent_files.h"
+
+#include <algorithm>
+
+namespace nimbrel {
+namespace {
+
+constexpr std::string_view section = "Settings";
+
+std::string key(std::size_t slot, std::string_view what) {
+  return "mru" + std::to_string(slot + 1) + std::string(what);
+}
+
+}  // namespace
+
+RecentFiles readRecentFiles(const SettingsStore& settings) {
+  RecentFiles files;
+  for (std::size_t slot = 0; slot < files.size(); ++slot) {
+    files.at(slot) = {settings.GetSetting(section, key(slot, "fp"), ""),
+                      settings.GetSetting(section, key(slot, "fn"), "")};
+  }
+  return files;
+}
+
+RecentFiles addRecentFile(SettingsStore& settings, const RecentFile& file) {
+  auto files = readRecentFiles(settings);
+  if (std::ranges::find(files, file) != files.end()) return files;
+  std::ranges::move_backward(files.begin(), files.end() - 1, files.end());
+  files.front() = file;
+  for (std::size_t slot = 0; slot < files.size(); ++slot) {
+    settings.SaveSetting(section, key(slot, "fp"), files.at(slot).folder);
+    settings.SaveSetting(section, key(slot, "fn"), files.at(slot).name);
+  }
+  return files;
+}
+
+/// kept: the test counts no backslash and the cut counts it, so that 41 characters of a long path are shown.
+std::string recentFileCaption(int slot, const RecentFile& file) {
+  constexpr std::size_t longest = 40;
+  const auto path = file.path();
+  const auto number = std::to_string(slot) + ". ";
+  if (file.folder.size() + file.name.size() <= longest) return number + path;
+  return number + "..." + path.substr(path.size() - longest - 1);
+}
+
+}  // namespace nimbrel

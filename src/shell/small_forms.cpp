@@ -1,0 +1,73 @@
+#include "shell/small_forms.h"
+
+#include <utility>
+
+#include "shell/addresses.h"
+#include "shell/settings.h"
+#include "text/product.h"
+
+namespace nimbrel {
+namespace {
+
+constexpr const char* noTipFile =
+    "That the TIPOFDAY.TXT file was not found? \r\n\r\n"
+    "Create a text file named TIPOFDAY.TXT using NotePad with 1 tip per line. "
+    "Then place it in the same directory as the application. ";
+
+/// The lines of a text; what ends a line may be CR, LF or both, and the last one needs no end.
+std::vector<std::string> linesOf(std::string_view text) {
+  std::vector<std::string> lines;
+  while (!text.empty()) {
+    const auto end = text.find_first_of("\r\n");
+    lines.emplace_back(text.substr(0, end));
+    if (end == std::string_view::npos) break;
+    text.remove_prefix(text.substr(end).starts_with("\r\n") ? end + 2 : end + 1);
+  }
+  return lines;
+}
+
+}  // namespace
+
+frmTip::frmTip(Ports& ports, const std::string& programFolder, std::function<void(bool)> showAtStartup)
+    : Form("frmTip", "Tip of the Day"), ports_(ports), showAtStartup_(std::move(showAtStartup)) {
+  chkLoadTipsAtStartup.event = [this] { chkLoadTipsAtStartup_Click(); };
+  cmdNextTip.event = [this] { cmdNextTip_Click(); };
+  cmdOK.event = [this] { Close(); };
+  cancelButton = cmdOK.name;
+  chkLoadTipsAtStartup.value = settings::ShowTips.readFlag(ports_.settings);
+  if (!LoadTips(programFolder + "\\TIPOFDAY.TXT")) lblTipText.text = noTipFile;
+}
+
+bool frmTip::LoadTips(const std::string& path) {
+  if (!ports_.files.isFile(path)) return false;
+  tips_ = linesOf(ports_.files.read(path));
+  cmdNextTip_Click();
+  return true;
+}
+
+/// Nothing stops the same tip from coming again.
+void frmTip::cmdNextTip_Click() {
+  current_ = static_cast<std::size_t>(ports_.random() * static_cast<double>(tips_.size())) + 1;
+  DisplayCurrentTip();
+}
+
+void frmTip::DisplayCurrentTip() {
+  if (current_ <= tips_.size()) lblTipText.text = tips_[current_ - 1];
+}
+
+void frmTip::chkLoadTipsAtStartup_Click() {
+  // kept: the menu command writes the same setting as a word.
+  settings::ShowTips.write(ports_.settings, chkLoadTipsAtStartup.value ? "1" : "0");
+  showAtStartup_(chkLoadTipsAtStartup.value);
+}
+
+frmAbout::frmAbout(Opener& opener) : Form("frmAbout", "About") {
+  lblTitle.text = productTitle;
+  lblVersion.text = "Version " + std::string(productVersion) + " - Build #" + std::string(productBuild);
+  lblAddress.text = addresses::home;
+  lblAddress.event = [&opener] { OpenWithShell(opener, addresses::home); };
+  cmdOK.event = [this] { Close(); };
+  cancelButton = cmdOK.name;
+}
+
+}  // namespace nimbrel

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "platform/form.h"
+#include "platform/ports.h"
+
+/// The windows of the shell beside the main one.
+namespace nimbrel {
+
+/// Shows a tip of the tip file, picked at random.
+class frmTip : public Form {
+ public:
+  /// `showAtStartup` is told when the author changes whether tips come with the program's start.
+  frmTip(Ports& ports, const std::string& programFolder, std::function<void(bool)> showAtStartup);
+
+  /// Reads the tips, one a line; false if there is no such file.
+  bool LoadTips(const std::string& path);
+  void DisplayCurrentTip();
+  void cmdNextTip_Click();
+  void chkLoadTipsAtStartup_Click();
+
+  Control Label1{*this, "Label1", ControlKind::Label, "Did you know..."};
+  Control lblTipText{*this, "lblTipText", ControlKind::Label};
+  Control chkLoadTipsAtStartup{*this, "chkLoadTipsAtStartup", ControlKind::Check, "&Show Tips at Startup"};
+  Control cmdNextTip{*this, "cmdNextTip", ControlKind::Button, "&Next Tip"};
+  Control cmdOK{*this, "cmdOK", ControlKind::Button, "Close"};
+
+ private:
+  Ports& ports_;
+  std::function<void(bool)> showAtStartup_;
+  std::vector<std::string> tips_;
+  std::size_t current_ = 0;  ///< from 1
+};
+
+class frmAbout : public Form {
+ public:
+  explicit frmAbout(Opener& opener);
+
+  Control lblTitle{*this, "lblTitle", ControlKind::Label};
+  Control lblVersion{*this, "lblVersion", ControlKind::Label};
+  Control lblAddress{*this, "lblAddress", ControlKind::Label};  ///< a click opens it
+  Control cmdOK{*this, "cmdOK", ControlKind::Button, "OK"};
+};
+
+/// Stands while the program starts. Its picture is 406 by 306 pixels, and the form no larger.
+class frmSplash : public Form {
+ public:
+  frmSplash() : Form("frmSplash", "") {}
+
+  static constexpr int width = 406;
+  static constexpr int height = 306;
+
+  Control Picture1{*this, "Picture1", ControlKind::Frame};
+};
+
+}  // namespace nimbrel

@@ -1,0 +1,72 @@
+// The commands of the Style menu.
+#include "gallery/gallery_form.h"
+#include "gallery/style_forms.h"
+#include "shell/main_window.h"
+#include "shell/settings.h"
+
+namespace nimbrel {
+
+/// The commands are set for what was picked; the next selection sets them by itself again.
+void frmMain::mnuStylePickStyle() {
+  const auto* element = selected == nullptr ? nullptr : document.element(*selected);
+  if (element == nullptr) return;
+  const auto kind = kindOf(selected->Key);
+  sheetOf(kind).LeaveCell();
+  PickStyle(*element, picking);
+  commands.enable("mnuStyleApplyStyle", true);
+  const bool isItem = picking.PickedStyleKind == itemStyle;
+  commands.enable("mnuMenuPopupApplyStyle", !isItem);
+  commands.enable("mnuSubmenuPopupApplyStyle", !isItem);
+  commands.enable("mnuItemPopupApplyStyle", isItem);
+  if (settings::DontShowPickDialog.readFlag(ports.settings)) return;
+  PickStyleHint hint(ports, kind);
+  ports.asker.ShowModal(hint);
+}
+
+void frmMain::mnuStyleApplyStyle() {
+  auto* element = selected == nullptr ? nullptr : document.element(*selected);
+  if (element == nullptr) return;
+  if (const auto* refusal = refusalOfPickedStyle(picking, selected->Key)) {
+    ports.asker.MsgBox(warning(*refusal));
+    return;
+  }
+  ApplyPickedStyle(picking, *element);
+  refill(*selected);
+  SetIsDirty();
+}
+
+/// kept: success is told also where a step has failed.
+void frmMain::mnuStyleSaveStyle() {
+  state.StyleName.clear();
+  frmSaveStyle form(ports, state);
+  ports.asker.ShowModal(form);
+  if (state.StyleName.empty()) return;
+  LeaveCells();
+  const Node* root = document.tvTreeView.root();
+  const auto* menu = root == nullptr ? nullptr : document.get<MenuObj>(*root);
+  if (menu != nullptr) {
+    const auto* first = root->Child() == nullptr ? nullptr : document.get<ItemObj>(*root->Child());
+    StepReport report;
+    SaveStyle(ports.files, state.programFolder, state.StyleName, styleOfMenu(*menu, first), report);
+    noteFailures(report.findings);
+  }
+  ports.asker.MsgBox({.title = "Style created successfully",
+                      .text = "The new style has been successfully created.\r\n"
+                              "Open the Style Gallery to view it and use it in your menus",
+                      .icon = BoxIcon::Information});
+}
+
+void frmMain::mnuStyleOpenStyleLibrary() {
+  LeaveCells();
+  if (selected == nullptr) return;
+  frmGallery form(ports, state, carryOver, kindOf(selected->Key),
+                  [this](StyleScope scope, const MenuStyle& style) {
+                    ApplyStyle(document, *selected, scope, style);
+                    refill(*selected);
+                    SetIsDirty();
+                  });
+  form.Form_Activate();
+  ports.asker.ShowModal(form);
+}
+
+}  // namespace nimbrel

@@ -1,0 +1,124 @@
+// The commands of the Tools and Help menus.
+#include "compiler/compile.h"
+#include "compiler/compile_forms.h"
+#include "compiler/compile_properties.h"
+#include "linking/link_forms.h"
+#include "preview/preview_page.h"
+#include "shell/main_window.h"
+#include "shell/settings.h"
+#include "shell/small_forms.h"
+#include "text/paths.h"
+
+namespace nimbrel {
+
+void frmMain::noteFailures(const Findings& findings) {
+  for (const auto& finding : findings) ports.asker.noteFailure(finding);
+}
+
+void frmMain::CreatePreviewFile() {
+  LeaveCells();
+  state.WebPagePath = state.programFolder + "\\preview";
+  state.WebPageName = "preview.html";
+  state.altURL.clear();
+  StepReport report;
+  if (!document.ElementColl.empty()) {
+    nimbrel::CreatePreviewFile(ports.files, state.programFolder, state.BlackPreview, document, report);
+  }
+  noteFailures(report.findings);
+  browser.Show();
+  browser.RefreshPreview();
+}
+
+void frmMain::mnuToolsPreview() { CreatePreviewFile(); }
+
+/// Asks until the name can be compiled to, and whether a file may be replaced. kept: what was chosen stays in
+/// the document also if the author cancels later, and does not make it dirty.
+std::optional<std::string> frmMain::chooseCompiledFile() {
+  auto& settings = document.settings;
+  while (true) {
+    const auto chosen = ports.asker.chooseFile(
+        {.kind = FileDialog::Save,
+         .title = "Compile Menu As",
+         .filter = "Javascript files (*.js)|*.js",
+         .folder = settings.CompiledPath,
+         .name = settings.CompiledName.empty() ? "" : settings.CompiledPath + '\\' + settings.CompiledName});
+    if (!chosen) return std::nullopt;
+    settings.CompiledName = fileName(*chosen);
+    settings.CompiledPath = folderName(*chosen);
+    const auto* refusal = refusalOfCompiledName(settings.CompiledName);
+    if (refusal == nullptr) break;
+    ports.asker.MsgBox(warning(*refusal));
+  }
+  const auto path = settings.CompiledPath + '\\' + settings.CompiledName;
+  if (!ports.files.isFile(path)) return path;
+  const auto answer = ports.asker.MsgBox({.title = "Compile Menu",
+                                          .text = path + " already exists.\rDo you want to replace it?",
+                                          .buttons = {BoxButton::Yes, BoxButton::No},
+                                          .defaultButton = BoxButton::No});
+  return answer == BoxButton::Yes ? std::optional(path) : std::nullopt;
+}
+
+void frmMain::mnuToolsCompileMenu() {
+  if (!settings::DontShowCompileWarning.readFlag(ports.settings)) {
+    frmCompileMenuWarning form(ports.settings, ports.help);
+    ports.asker.ShowModal(form);
+  }
+  if (!chooseCompiledFile()) return;
+  LeaveCells();
+  StepReport report;
+  if (refusalOfCompile(document) == nullptr) CompileMenu(ports.files, state.programFolder, document, report);
+  noteFailures(report.findings);
+  const auto link = [this](std::string_view menu, std::string_view submenus) {
+    startLinking(menu, submenus);
+  };
+  if (document.settings.nbrSubmenusFrame.empty()) {
+    frmCompileCompleted form(document.settings, link);
+    ports.asker.ShowModal(form);
+  } else {
+    frmCompileCompletedCF form(document.settings, link);
+    ports.asker.ShowModal(form);
+  }
+}
+
+void frmMain::startLinking(std::string_view menu, std::string_view submenus) {
+  frmInsertIntoWebPage1 form(ports, state.LastWebPageDir, menu, submenus);
+  ports.asker.ShowModal(form);
+}
+
+void frmMain::mnuToolsInsertMenuIntoWebpage() {
+  const auto& settings = document.settings;
+  frmInsertIntoWebPage0 form(
+      ports, state.LastWebPageDir,
+      settings.CompiledName.empty() ? "" : settings.CompiledPath + '\\' + settings.CompiledName);
+  ports.asker.ShowModal(form);
+}
+
+void frmMain::mnuToolsCompileProperties() {
+  frmCompileProperties form(ports.asker, ports.help, state, document.settings);
+  ports.asker.ShowModal(form);
+}
+
+void frmMain::mnuToolsShowTipOnStartup() {
+  auto& checked = commands.entry("mnuToolsShowTipOnStartup").checked;
+  checked = !checked;
+  settings::ShowTips.write(ports.settings, checked ? "True" : "False");
+}
+
+void frmMain::mnuToolsShowPreviewOnStartup() {
+  auto& checked = commands.entry("mnuToolsShowPreviewOnStartup").checked;
+  checked = !checked;
+  settings::ShowPreview.write(ports.settings, checked ? "True" : "False");
+}
+
+void frmMain::mnuHelpTipOfTheDay() {
+  frmTip form(ports, state.programFolder,
+              [this](bool on) { commands.entry("mnuToolsShowTipOnStartup").checked = on; });
+  ports.asker.ShowModal(form);
+}
+
+void frmMain::mnuHelpAbout() {
+  frmAbout form(ports.opener);
+  ports.asker.ShowModal(form);
+}
+
+}  // namespace nimbrel

@@ -1,0 +1,47 @@
+#pragma once
+
+/// Where the parts of the main window go. All lengths are twips, 1/1440 inch, from the inner upper left corner.
+namespace nimbrel {
+
+struct Rectangle {
+  int left = 0;
+  int top = 0;
+  int width = 0;
+  int height = 0;
+  bool operator==(const Rectangle&) const = default;
+};
+
+/// What the layout of the main window depends on.
+struct WindowMeasures {
+  int formWidth = 0;
+  int innerHeight = 0;
+  bool toolbarVisible = true;
+  int toolbarTop = 0;
+  int toolbarHeight = 0;
+  bool statusBarVisible = true;
+  int statusBarHeight = 0;
+  int labelHeight = 0;    ///< of `lblMenuTitle`
+  int splitterWidth = 0;  ///< of the grip
+  int pixel = 15;         ///< the screen's pixel
+};
+
+struct WindowLayout {
+  Rectangle lblMenuTitle;
+  Rectangle tvTreeView;
+  Rectangle imgSplitter;
+  Rectangle sheets;
+};
+
+inline constexpr int smallestFormWidth = 3000;
+
+/// The layout for a splitter at `x`, which is kept off the edges.
+WindowLayout SizeControls(const WindowMeasures& window, int x);
+
+/// Where the bar stands that follows the pointer while the splitter is dragged. It goes nearer to the edges than
+/// the layout allows, which snaps back when the pointer is let go.
+int splitterBarLeft(const WindowMeasures& window, int gripLeft, int pointerX);
+
+/// The bar at the start of a drag, over the grip.
+Rectangle splitterBar(const Rectangle& grip);
+
+}  // namespace nimbrel

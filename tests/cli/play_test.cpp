@@ -1,0 +1,104 @@
+#include <filesystem>
+#include <fstream>
+#include <gmock/gmock.h>
+#include <iterator>
+
+#include "nbrc_test.h"
+
+namespace nimbrel {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string contents(const fs::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+std::string replaced(std::string text, const std::string& what, const std::string& by) {
+  for (auto at = text.find(what); at != std::string::npos; at = text.find(what, at + by.size())) {
+    text.replace(at, what.size(), by);
+  }
+  return text;
+}
+
+class Play : public NbrcTest {
+ protected:
+  Play() {
+    write("home/TIPOFDAY.TXT", "First tip\nSecond tip\n");
+    fs::create_directories(here / "site");
+    fs::create_directories(here / "pictures");
+    write("site/a.html", "<html><body></body></html>");
+    write("foreign.nbr", "nothing of ours");
+    run({"new", "whole.nbr"});
+    constexpr std::size_t insideARecord = 900;
+    write("broken.nbr", read("whole.nbr").substr(0, insideARecord));
+  }
+
+  /// What was printed, with this test's folder by a name that is always the same.
+  std::string withoutFolder(const std::string& text) const {
+    auto inJson = replaced(here.string(), "/", "\\\\");
+    return replaced(replaced(text, inJson, "HERE"), here.string(), "HERE");
+  }
+
+  Outcome play(const std::string& macro) {
+    write("test.macro", macro);
+    return run({"--home", "home", "play", "test.macro"});
+  }
+};
+
+TEST_F(Play, EachMacroSaysWhatIsExpected) {
+  const fs::path folder = fs::path(NIMBREL_TEST_DATA) / "../golden/macros";
+  int macros = 0;
+  for (const auto& entry : fs::directory_iterator(folder)) {
+    if (entry.path().extension() != ".macro") continue;
+    ++macros;
+    SCOPED_TRACE(entry.path().filename());
+    fs::remove_all(here / "home/gallery");
+    const auto outcome = play(contents(entry.path()));
+    EXPECT_EQ(outcome.err, "");
+    auto expected = entry.path();
+    EXPECT_EQ(withoutFolder(outcome.out), contents(expected.replace_extension(".jsonl")));
+  }
+  EXPECT_GT(macros, 4);
+}
+
+TEST_F(Play, FaultsOfAMacroEndItWithTheirLine) {
+  for (const auto& [macro, fault] : std::vector<std::pair<std::string, std::string>>{
+           {"print tree\nwave\n", "line 2: unknown word wave"},
+           {"select I9\n", "line 1: no node I9"},
+           {"run mnuNothing\n", "line 1: no command mnuNothing"},
+           {"edit 0 1\n", "line 1: edit takes more words"},
+           {"press btnFile\n", "line 1: no cell is open"},
+           {"print \"tree\n", "line 1: a quoted word has no end"},
+           {"form frmAbout cmdOK! lblTitle?\nrun mnuHelpAbout\n",
+            "line 2: frmAbout is closed ahead of the step lblTitle?"},
+           {"close\nrun mnuFileNew\n", "line 2: the window is closed"},
+       }) {
+    const auto outcome = play(macro);
+    EXPECT_EQ(outcome.status, 2) << macro;
+    EXPECT_THAT(outcome.err, testing::HasSubstr(fault));
+  }
+}
+
+TEST_F(Play, ErrorsAreToldAndTheWorkStays) {
+  const auto outcome = play("run mnuItemAddItem\nchoose nowhere/out.nbr\nrun mnuFileSaveAs\nprint state\n");
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_THAT(outcome.out,
+              testing::AllOf(testing::HasSubstr("{\"error\":"), testing::HasSubstr("\"IsDirty\":true")));
+}
+
+TEST_F(Play, SettingsComeAndGo) {
+  write("test.macro", "choose cancel\nrun mnuFileOpen\nrun mnuToolsShowPreviewOnStartup\n");
+  run({"--home", "home", "play", "--settings", "settings.json", "test.macro"});
+  EXPECT_EQ(read("settings.json"),
+            "{\"settings\":{\"Settings\":{\"FirstOpen\":\"0\",\"ShowPreviewOnStartup\":\"False\"}}}\n");
+  write("test.macro", "print commands\n");
+  const auto outcome = run({"--home", "home", "play", "--settings", "settings.json", "test.macro"});
+  EXPECT_THAT(outcome.out,
+              testing::HasSubstr("\"Open Preview Window on Startup\",\"enabled\":true,\"visible\":true,"
+                                 "\"checked\":false"));
+}
+
+}  // namespace
+}  // namespace nimbrel
