@@ -47,6 +47,16 @@ void prefixImages(E& element, const std::string& folder) {
   }
 }
 
+/// The list of pictures says nothing that the properties do not say. Its count ends at a blank, and the first picture
+/// follows in the same value.
+void passImageList(FileHandle& file) {
+  const auto first = file.next();
+  const auto count = parseInteger(first.substr(0, first.find(' ')));
+  if (!count) file.fail("the number of pictures is no number");
+  for (std::int32_t i = 1; i < *count; ++i) file.next();
+  if (*count > 0) file.passLineEnd();
+}
+
 /// Reads one record into an element of its class. What was read ahead of a fault stays.
 template <class E>
 void readRecord(FileHandle& file, Records version, RecordReader20& reader, SubmenuCarryOver& carryOver,
@@ -97,11 +107,7 @@ bool ReadStyleFile(const FileSystem& files, const std::string& programFolder, st
   const auto version = file.atEnd() ? Records::None : recordsOf(file.next());
   if (version == Records::None) return false;
 
-  // The list of pictures says nothing that the properties do not say.
-  const auto count = parseInteger(file.next());
-  if (!count) file.fail("the number of pictures is no number");
-  for (std::int32_t i = 0; i < *count; ++i) file.next();
-
+  passImageList(file);
   const auto folder = galleryFolder(programFolder);
   RecordReader20 reader(file, "");
   readRecord(file, version, reader, carryOver, style.submenu);

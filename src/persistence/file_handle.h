@@ -27,6 +27,7 @@ class FileHandle {
   /// As in the reader of values.
   std::string_view lastAsItStood() const { return values_.lastAsItStood(); }
   bool skip(std::string_view asItStood) { return values_.skip(asItStood); }
+  void passLineEnd() { values_.passLineEnd(); }
   bool atEnd() const { return values_.atEnd(); }
 
   /// From here on errors tell of the next record.

@@ -91,6 +91,13 @@ void ValueReader::consumeDelimiter() {
   if (delimiter == '\r' && position_ < text_.size() && text_[position_] == '\n') ++position_;
 }
 
+void ValueReader::passLineEnd() {
+  const auto here = text_.find_first_not_of(" \t", position_);
+  if (here == std::string_view::npos || (text_[here] != '\r' && text_[here] != '\n')) return;
+  position_ = here;
+  consumeDelimiter();
+}
+
 bool ValueReader::atEnd() const {
   return text_.find_first_not_of(" \t\r\n", position_) == std::string_view::npos;
 }

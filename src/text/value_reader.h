@@ -27,6 +27,9 @@ class ValueReader {
   /// same. The empty view never does.
   bool skip(std::string_view asItStood);
 
+  /// Passes over a line end that stands right here, behind a comma, and is no empty value.
+  void passLineEnd();
+
   /// Whether blanks, tabs and line ends alone are left.
   bool atEnd() const;
 
