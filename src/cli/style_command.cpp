@@ -4,7 +4,6 @@
 #include "gallery/style_picking.h"
 #include "platform/posix/host_paths.h"
 #include "platform/posix/program_folder.h"
-#include "text/ascii.h"
 #include "text/windows1252.h"
 
 namespace nimbrel {
@@ -34,10 +33,7 @@ ExitStatus refuse(const Console& console, const std::string& path, const Message
 
 ExitStatus styleListCommand(const Console& console, const FileSystem& files,
                             const std::optional<std::string>& home) {
-  constexpr std::string_view suffix = ".nbs";
-  for (const auto& file : files.filesIn(galleryFolder(fromHostPath(programFolder(home))))) {
-    if (lowered(file).ends_with(suffix)) console.printText(file.substr(0, file.size() - suffix.size()));
-  }
+  for (const auto& name : styleNames(files, fromHostPath(programFolder(home)))) console.printText(name);
   return done;
 }
 

@@ -9,8 +9,6 @@
 namespace nimbrel {
 namespace {
 
-constexpr std::string_view suffix = ".nbs";
-
 constexpr const char* previewPage =
     "<HTML>\r\n"
     "<BODY BACKGROUND=\"../stylepreview-back.jpg\">\r\n"
@@ -55,12 +53,9 @@ void frmGallery::bind() {
 }
 
 void frmGallery::FillStyleList() {
-  cboStyle.list.clear();
+  cboStyle.list = styleNames(ports_.files, state_.programFolder);
   cboStyle.selected.clear();
   cboStyle.text.clear();
-  for (const auto& file : ports_.files.filesIn(galleryFolder(state_.programFolder))) {
-    if (lowered(file).ends_with(suffix)) cboStyle.list.push_back(file.substr(0, file.size() - suffix.size()));
-  }
 }
 
 void frmGallery::Form_Activate() {
@@ -78,7 +73,9 @@ void frmGallery::readSelected() {
   try {
     StyleInvalid = !ReadStyleFile(ports_.files, state_.programFolder, cboStyle.text, carryOver_, style_);
   } catch (const FileError& error) {
-    ports_.asker.noteFailure(error.finding());  // shown as far as it was read
+    ports_.asker.noteFailure(error.finding());
+    const bool wasOpened = error.finding().place.line != 0;
+    StyleInvalid = !wasOpened;  // else it is shown as far as it was read
   }
 }
 
@@ -147,7 +144,7 @@ void frmGallery::btnDeleteStyle_Click() {
     removeStyle(ports_.files, state_.programFolder, cboStyle.text, report);
     noteFailures(report);
   }
-  FillStyleList();
+  FillStyleList();  // kept: also where nothing was deleted, which shows the first style again
   Form_Activate();
 }
 

@@ -7,18 +7,20 @@
 namespace nimbrel {
 namespace {
 
-template <class E>
-void enter(Document& document, const std::string& key, E element, Node* parent) {
-  SetDefaultValues(element);
-  const std::string_view name = key == "M0" ? "Main Menu" : "Submenu";
-  if constexpr (std::is_same_v<E, MenuObj>) {
-    element.menuname = name;
-    document.tvTreeView.addRoot(key, name);
-  } else {
-    element.SubmenuName = name;
-    document.tvTreeView.add(*parent, Relationship::Child, key, name);
-  }
-  document.ElementColl.add(key, std::move(element));
+void enterMenu(Document& document) {
+  MenuObj menu;
+  SetDefaultValues(menu);
+  menu.menuname = "Main Menu";
+  document.tvTreeView.addRoot("M0", menu.menuname);
+  document.ElementColl.add("M0", std::move(menu));
+}
+
+void enterSubmenu(Document& document) {
+  SubmenuObj submenu;
+  SetDefaultValues(submenu);
+  submenu.SubmenuName = "Submenu";
+  document.tvTreeView.add(*document.tvTreeView.find("I2"), Relationship::Child, "S4", submenu.SubmenuName);
+  document.ElementColl.add("S4", std::move(submenu));
 }
 
 void enterItem(Document& document, std::string key, std::string_view name, std::string_view parent) {
@@ -34,14 +36,15 @@ void enterItem(Document& document, std::string key, std::string_view name, std::
 
 Document BuildSampleMenu() {
   Document sample;
-  enter(sample, "M0", MenuObj{}, nullptr);
+  enterMenu(sample);
   enterItem(sample, "I1", "Item1", "M0");
   enterItem(sample, "I2", "Item2", "M0");
   enterItem(sample, "I3", "Item3", "M0");
-  enter(sample, "S4", SubmenuObj{}, sample.tvTreeView.find("I2"));
+  enterSubmenu(sample);
   enterItem(sample, "I5", "Item4", "S4");
   enterItem(sample, "I6", "Item5", "S4");
   enterItem(sample, "I7", "Item6", "S4");
+  sample.NextKeyNumber = static_cast<std::int16_t>(sample.tvTreeView.size());
   return sample;
 }
 

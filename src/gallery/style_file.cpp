@@ -2,7 +2,6 @@
 
 #include <array>
 #include <utility>
-#include <vector>
 
 #include "persistence/property_line.h"
 #include "text/ascii.h"
@@ -13,6 +12,7 @@ namespace nimbrel {
 namespace {
 
 constexpr std::string_view currentTag = "nbs200";
+constexpr std::string_view suffix = ".nbs";
 constexpr Message badName{"Create Style",
                           "The Style Name cannot contain any of the following characters:\r\n"
                           "\\ / : * ? \" < > |"};
@@ -43,7 +43,7 @@ template <class E>
 void prefixImages(E& element, const std::string& folder) {
   for (const auto* row : imageRows<E>) {
     auto& path = element.*std::get<SharedText E::*>(row->field);
-    if (path != notSet) path = folder + '\\' + path.str();
+    if (path != notSet && !path.empty()) path = folder + '\\' + path.str();
   }
 }
 
@@ -57,12 +57,15 @@ void passImageList(FileHandle& file) {
   if (*count > 0) file.passLineEnd();
 }
 
-/// Reads one record into an element of its class. What was read ahead of a fault stays.
+/// Reads one record of `folder` into an element of its class. What was read ahead of a fault stays.
 template <class E>
 void readRecord(FileHandle& file, Records version, RecordReader20& reader, SubmenuCarryOver& carryOver,
-                E& target) {
+                const std::string& folder, E& target) {
   Element element = E{};
-  const auto take = [&] { target = std::get<E>(std::move(element)); };
+  const auto take = [&] {
+    target = std::get<E>(std::move(element));
+    prefixImages(target, folder);
+  };
   try {
     switch (version) {
       case Records::Version11: ReadPropertiesFromFile11(file, "", carryOver, element); break;
@@ -93,8 +96,17 @@ std::string styleFileText(const MenuStyle& style, const std::vector<std::string>
 
 std::string galleryFolder(const std::string& programFolder) { return programFolder + "\\gallery"; }
 
+std::vector<std::string> styleNames(const FileSystem& files, const std::string& programFolder) {
+  std::vector<std::string> names;
+  for (const auto& file : files.filesIn(galleryFolder(programFolder))) {
+    if (file.ends_with(suffix)) names.push_back(file.substr(0, file.size() - suffix.size()));
+  }
+  return names;
+}
+
 std::string styleFilePath(const std::string& programFolder, std::string_view name) {
-  return galleryFolder(programFolder) + '\\' + std::string(name) + ".nbs";
+  auto path = galleryFolder(programFolder) + '\\';
+  return path.append(name).append(suffix);
 }
 
 bool ReadStyleFile(const FileSystem& files, const std::string& programFolder, std::string_view name,
@@ -110,10 +122,8 @@ bool ReadStyleFile(const FileSystem& files, const std::string& programFolder, st
   passImageList(file);
   const auto folder = galleryFolder(programFolder);
   RecordReader20 reader(file, "");
-  readRecord(file, version, reader, carryOver, style.submenu);
-  prefixImages(style.submenu, folder);
-  readRecord(file, version, reader, carryOver, style.item);
-  prefixImages(style.item, folder);
+  readRecord(file, version, reader, carryOver, folder, style.submenu);
+  readRecord(file, version, reader, carryOver, folder, style.item);
   return true;
 }
 
@@ -131,9 +141,10 @@ void SaveStyle(FileSystem& files, const std::string& programFolder, const std::s
   FileSteps steps(files, report);
   const auto gallery = galleryFolder(programFolder);
   const auto folder = imagesFolder(name);
+  const auto wholeFolder = gallery + '\\' + folder;
   std::vector<std::string> images;
   steps.makeFolder(gallery);
-  steps.makeFolder(gallery + '\\' + folder);
+  steps.makeFolder(wholeFolder);
   for (auto* image : lookImages(style)) {
     if (*image == notSet) continue;
     const auto source = image->str();
@@ -145,7 +156,8 @@ void SaveStyle(FileSystem& files, const std::string& programFolder, const std::s
     images.push_back(folder + "\\dot.gif");
     steps.copy(programFolder + "\\dot.gif", gallery + '\\' + images.back());
   }
-  if (images.empty()) steps.removeFolder(gallery + '\\' + folder);
+  // kept: the pictures of a replaced style stay behind, and their folder with them.
+  if (images.empty() && files.filesIn(wholeFolder).empty()) steps.removeFolder(wholeFolder);
   steps.generate(styleFilePath(programFolder, name), styleFileText(style, images));
 }
 

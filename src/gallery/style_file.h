@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "compiler/file_steps.h"
 #include "model/element.h"
@@ -16,8 +17,9 @@ struct MenuStyle {
   ItemObj item;
 };
 
-/// The folder of all styles, and the file of one.
+/// The folder of all styles, the names of those in it, and the file of one.
 std::string galleryFolder(const std::string& programFolder);
+std::vector<std::string> styleNames(const FileSystem& files, const std::string& programFolder);
 std::string styleFilePath(const std::string& programFolder, std::string_view name);
 
 /// Reads a style; its pictures then have whole paths. False for a file of no known version. Throws `FileError`

@@ -10,7 +10,8 @@ namespace nimbrel {
 /// The look that was picked last. It outlives the document that it was taken from.
 struct StylePicking {
   float PickedStyleKind = 0;  ///< 0 none, 1 a container's, 2 an item's
-  SubmenuObj PickedSubmenu;   ///< without defaults until the first pick
+  /// kept: it never has defaults, so a main menu's look, which has no way of opening, brings a submenu zeros.
+  SubmenuObj PickedSubmenu;
   ItemObj PickedItem;
 };
 

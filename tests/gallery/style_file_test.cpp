@@ -1,6 +1,8 @@
 #include "gallery/style_file.h"
 
+#include <fstream>
 #include <gmock/gmock.h>
+#include <iterator>
 
 #include "platform/memory/memory_file_system.h"
 
@@ -74,8 +76,14 @@ TEST_F(StyleFile, ReadsOlderOnesAndRefusesOthers) {
   files.files["C:\\p\\gallery\\Cut.nbs"] = text("New").substr(0, text("New").size() - 20);
   EXPECT_THROW(ReadStyleFile(files, "C:\\p", "Cut", carryOver, style), FileError);
   EXPECT_EQ(style.submenu.BGColor, "#C0C0C0") << "what was read stays";
-  files.files["C:\\p\\gallery\\Old.nbs"] = "nbs110\r\n x \r\n";
-  EXPECT_THROW(ReadStyleFile(files, "C:\\p", "Old", carryOver, style), FileError);
+
+  std::ifstream old(NIMBREL_TEST_DATA "/../golden/styles/nbs120.nbs", std::ios::binary);
+  files.files["C:\\p\\gallery\\Old.nbs"] = {std::istreambuf_iterator<char>(old), {}};
+  carryOver.bcSubmenusHow = 2;
+  ASSERT_TRUE(ReadStyleFile(files, "C:\\p", "Old", carryOver, style));
+  EXPECT_EQ(style.submenu.SubmenuHow, 2);  // kept: what the last older menu file left
+  EXPECT_EQ(style.submenu.BorderColor, "BorderColor 90");
+  EXPECT_EQ(style.item.BGImage3, "C:\\p\\gallery\\BGImage3, 176");
 }
 
 }  // namespace

@@ -20,6 +20,10 @@ class Picking : public testing::Test {
 
 TEST_F(Picking, GoesWhereTheKindFits) {
   EXPECT_EQ(refusalOfPickedStyle(picking, "M0")->title, "Cannot apply style");
+  PickStyle(element("M0"), picking);
+  ApplyPickedStyle(picking, element("S4"));
+  EXPECT_EQ(std::get<SubmenuObj>(element("S4")).SubmenuHow, 0)
+      << "kept: the default, 2, makes way for what the holder began with";
   PickStyle(element("S4"), picking);
   EXPECT_NE(refusalOfPickedStyle(picking, "I1"), nullptr);
   EXPECT_EQ(refusalOfPickedStyle(picking, "M0"), nullptr);

@@ -86,6 +86,11 @@ TEST_F(HostFiles, LieInFoldersOfOneLevel) {
   EXPECT_THROW(files_.makeFolder(path("missing/folder")), FileError);
   folder_.write("file", "");
   EXPECT_THROW(files_.makeFolder(path("file")), FileError);
+  folder_.write("folder/file", "");
+  EXPECT_THROW(files_.removeFolder(path("folder")), FileError);
+  files_.remove(path("folder/file"));
+  files_.removeFolder(path("folder"));
+  EXPECT_FALSE(files_.isFolder(path("folder")));
 }
 
 TEST_F(HostFiles, AreListedInTheOrderOfTheirBytes) {
