@@ -10,6 +10,7 @@ import time
 
 ROUNDS = 7
 LARGEST = 32767
+LONGEST_COMMAND = 5  # milliseconds
 PAGES = 1000
 PAGE_BYTES = 20 * 1024
 
@@ -43,6 +44,19 @@ def linearity(bench):
     print()
     for work in sorted({work for work, _ in times}):
         verdict(f"{work}: time an element, {LARGEST} to 3000", times[work, LARGEST] / times[work, 3000], 1.5)
+
+
+def commands(bench):
+    """Each command alone stays under LONGEST_COMMAND; those of half a document are linear."""
+    out = subprocess.run([bench, "--benchmark_format=json", "--benchmark_min_time=0.2"],
+                         check=True, capture_output=True, text=True).stdout
+    halves = []
+    for run in json.loads(out)["benchmarks"]:
+        if "s/element" in run:
+            halves.append(run["s/element"])
+        else:
+            verdict(f"{run['name']}, ms in a document of 32,700", run["real_time"], LONGEST_COMMAND)
+    verdict("cut and paste of half: time an element, 20,000 to 3,000", halves[1] / halves[0], 1.5)
 
 
 def compile_against_cat(build, folder):
@@ -94,6 +108,7 @@ def link_against_sed(build, folder):
 def main():
     build = os.path.abspath(sys.argv[1] if len(sys.argv) > 1 else "build/bench")
     linearity(f"{build}/bench/nimbrel_bench")
+    commands(f"{build}/bench/nimbrel_command_bench")
     print()
     with tempfile.TemporaryDirectory(dir=build) as folder:
         compile_against_cat(build, folder)

@@ -46,6 +46,7 @@ void frmMain::mnuFileNew() {
   settings.nbrFrontPageSupport = document.settings.nbrFrontPageSupport;
   document.settings = settings;
   isPartlyRead_ = false;
+  ownFile_.clear();
   setTitle("Untitled");
   outdatePreview();
 }
@@ -89,6 +90,7 @@ void frmMain::mnuFileOpen() {
 void frmMain::load() {
   select(nullptr);
   isPartlyRead_ = true;
+  ownFile_ = state.FilePath + '\\' + state.FileTitle;
   Findings notes;
   try {
     state.IsDirty = false;
@@ -112,15 +114,28 @@ void frmMain::save(const std::string& path) {
   SaveMenuFile(ports.files, path, document);
   state.IsDirty = false;
   isPartlyRead_ = false;
+  ownFile_ = path;
 }
 
+/// Whether a file of that name may go; none is there, or the author says so.
+bool frmMain::mayReplace(const std::string& path) const {
+  return !ports.files.isFile(path) ||
+         ports.asker.MsgBox({.title = "File already exists",
+                             .text = "The file you specified already exists. Overwrite?",
+                             .icon = BoxIcon::Question,
+                             .buttons = {BoxButton::Yes, BoxButton::No}}) == BoxButton::Yes;
+}
+
+/// kept: the file may be another than the document came from: one that Save As was not to replace, or the same
+/// name among the samples, which the first Open leads to. It is not replaced unasked.
 void frmMain::mnuFileSave() {
   // The folder alone is there once the first Open has led to the samples.
   if (state.FilePath.empty() || state.FileTitle.empty() || isPartlyRead_) {
     mnuFileSaveAs();
-  } else {
-    save(state.FilePath + '\\' + state.FileTitle);
+    return;
   }
+  const auto path = state.FilePath + '\\' + state.FileTitle;
+  if (path == ownFile_ || mayReplace(path)) save(path);
 }
 
 void frmMain::mnuFileSaveAs() {
@@ -132,13 +147,7 @@ void frmMain::mnuFileSaveAs() {
        .name = state.FileTitle.empty() ? "" : state.FilePath + '\\' + state.FileTitle});
   if (!path) return;
   splitPath(*path);
-  if (ports.files.isFile(*path)) {
-    const auto answer = ports.asker.MsgBox({.title = "File already exists",
-                                            .text = "The file you specified already exists. Overwrite?",
-                                            .icon = BoxIcon::Question,
-                                            .buttons = {BoxButton::Yes, BoxButton::No}});
-    if (answer != BoxButton::Yes) return;
-  }
+  if (!mayReplace(*path)) return;
   try {
     save(*path);
   } catch (const FileError& error) {

@@ -110,6 +110,7 @@ class frmMain {
   bool PromptToSave();
   void load();
   void save(const std::string& path);
+  bool mayReplace(const std::string& path) const;
   void outdatePreview();
   void splitPath(const std::string& path);
 
@@ -152,6 +153,8 @@ class frmMain {
   bool FirstActivation_ = true;
   /// The file that is named as the document's holds more than was read: it is not written over unasked.
   bool isPartlyRead_ = false;
+  /// What the document was last read from or saved to. Save asks ahead of replacing any other file.
+  std::string ownFile_;
   RecentFiles recent_;
 };
 

@@ -1,0 +1,276 @@
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <optional>
+#include <string>
+
+#include "model/structure.h"
+#include "platform/memory/memory_file_system.h"
+#include "shell/command_table.h"
+#include "shell/main_window.h"
+#include "text/numbers.h"
+
+/// An input is what an author does, a byte a choice: commands, edits, clicks in the tree, answers to whatever the
+/// program asks, and disks that fail. After each step the document is whole, and what is not saved is known as
+/// not saved.
+namespace nimbrel {
+namespace {
+
+void require(bool holds) {
+  if (!holds) std::abort();
+}
+
+/// The author's choices, one after the other; the first ones again and again behind the last.
+class Choices {
+ public:
+  Choices(const std::uint8_t* data, std::size_t size) : data_(data), size_(size) {}
+
+  bool isUsedUp() const { return next_ >= size_; }
+  /// Below `count`, which is above 0.
+  std::size_t below(std::size_t count) { return size_ == 0 ? 0 : data_[next_++ % size_] % count; }
+  template <class C>
+  const auto& one(const C& of) {
+    return of[below(std::size(of))];
+  }
+
+ private:
+  const std::uint8_t* data_;
+  std::size_t size_;
+  std::size_t next_ = 0;
+};
+
+constexpr std::array<const char*, 8> paths{
+    "C:\\m\\a.nbr",   "C:\\m\\b.nbr", "C:\\m\\cut.nbr", "C:\\m\\foreign",
+    "C:\\m\\menu.js", "D:\\none",     "page.html",      ""};
+constexpr std::array<const char*, 12> texts{"",   "n",    "Item1 - x", "#ff0",     "#00AA00", "12.5",
+                                            "-1", "9999", "C:\\p.gif", "\"a\", b", "Larger",  "\x81\xFF&#1;"};
+constexpr int deepestForm = 4;
+constexpr int stepsInForm = 6;
+
+class FuzzedAuthor : public Asker {
+ public:
+  explicit FuzzedAuthor(Choices& choices) : choices_(choices) {}
+
+  BoxButton MsgBox(const MessageBox& box) override {
+    const auto answer = choices_.one(box.buttons);
+    if (box.buttons.size() == 3) savePrompt = answer;
+    return answer;
+  }
+  std::optional<std::string> chooseFile(const FileDialog&) override {
+    const std::string path = choices_.one(paths);
+    return path.empty() ? std::nullopt : std::optional(path);
+  }
+  std::optional<std::uint32_t> chooseColour() override {
+    return choices_.below(2) == 0 ? std::nullopt : std::optional<std::uint32_t>(0xA0B0C0);
+  }
+  void ShowModal(Form& form) override {
+    form.isOpen = true;
+    ++depth_;
+    for (int step = 0; form.isOpen && depth_ <= deepestForm && step < stepsInForm; ++step) use(form);
+    --depth_;
+    if (form.isOpen) form.QueryClose();
+  }
+  void noteFailure(const Finding&) override {}
+
+  void use(Form& form) {
+    if (form.controls().empty()) return;
+    auto& control = *choices_.one(form.controls());
+    switch (choices_.below(5)) {
+      case 0: form.enter(control, choices_.one(texts)); break;
+      case 1: form.check(control, choices_.below(2) == 1); break;
+      case 2:
+        if (!control.list.empty()) form.choose(control, {choices_.below(control.list.size())});
+        break;
+      case 3:
+        if (control.doubleClick && control.usable()) control.doubleClick();
+        break;
+      default: form.click(control); break;
+    }
+  }
+
+  std::optional<BoxButton> savePrompt;  ///< what the question of saving was last answered
+
+ private:
+  Choices& choices_;
+  int depth_ = 0;
+};
+
+struct QuietSystem : Opener, HelpSystem, ClassesRoot {
+  void ShellExecuteA(std::string_view, std::string_view, std::string_view, std::string_view, int) override {}
+  bool openTopic(int) override { return true; }
+  bool openContents() override { return true; }
+  bool openSearch() override { return true; }
+  void CreateClassKey(std::string_view) override {}
+  void SetClassValue(std::string_view, std::string_view, std::string_view) override {}
+};
+
+void requireWhole(Document& document) {
+  require(document.tvTreeView.size() == document.ElementColl.size());
+  std::size_t roots = 0;
+  for (Node* node = document.tvTreeView.root(); node != nullptr; node = following(node)) {
+    const auto* element = document.element(*node);
+    require(element != nullptr && kindOf(*element) == kindOf(node->Key));
+    require(document.NextKeyNumber > parseInteger(node->Key.substr(1)).value_or(-1));
+    const auto* parent = node->Parent();
+    if (parent == nullptr) ++roots;
+    switch (kindOf(node->Key)) {
+      case Kind::Menu: require(parent == nullptr); break;
+      case Kind::Submenu: require(kindOf(parent->Key) == Kind::Item && parent->Children() == 1); break;
+      default: require(parent != nullptr && kindOf(parent->Key) != Kind::Item); break;
+    }
+  }
+  require(roots <= 1);
+}
+
+bool sameMenu(const Document& a, Document b) {
+  b.NextKeyNumber = a.NextKeyNumber;
+  b.settings = a.settings;  // a compile sets some, and does not count as a change
+  return a == b;
+}
+
+/// The whole program in memory, and what its author must be able to rely on.
+class Session {
+ public:
+  explicit Session(Choices& choices)
+      : choices_(choices),
+        author_(choices),
+        ports_{files_,  author_, settings_,           system_,
+               system_, system_, {"Liberation Sans"}, [] { return 0.5; }},
+        window_(ports_, "C:\\p") {
+    Document document;
+    BuildDefaultDocument(document);
+    const auto text = menuFileText(document);
+    files_.files["C:\\m\\a.nbr"] = text;
+    files_.files["C:\\m\\cut.nbr"] = text.substr(0, text.size() * 3 / 4);
+    files_.files["C:\\m\\foreign"] = "no menu";
+    files_.files["C:\\p\\TIPOFDAY.TXT"] = "that\r\nthis";
+    start();
+  }
+
+  void step() {
+    if (choices_.below(8) == 0) files_.failsNow = failingFrom(static_cast<int>(choices_.below(4)));
+    author_.savePrompt.reset();
+    isFileCommand_ = false;
+    before_ = window_.document;
+    wasDirty_ = window_.state.IsDirty;
+    try {
+      act();
+    } catch (const FileError&) {  // told to the author, who goes on
+    }
+    files_.failsNow = nullptr;
+    requireWhole(window_.document);
+    requireSelection();
+    if (isFileCommand_) {
+      requireSafeFileCommand();
+    } else {
+      require(window_.state.IsDirty || (!wasDirty_ && sameMenu(window_.document, clean_)));
+    }
+    if (!window_.state.IsDirty) clean_ = window_.document;
+  }
+
+ private:
+  void start() {
+    window_.Activate();
+    clean_ = window_.document;
+  }
+
+  void act() {
+    switch (choices_.below(8)) {
+      case 0: {
+        constexpr std::array commands{"mnuFileNew",  "mnuFileOpen", "mnuFileSave", "mnuFileSaveAs",
+                                      "mnuFileMRU1", "mnuFileMRU2", "mnuFileExit"};
+        run(choices_.one(commands));
+        break;
+      }
+      case 1: select(); break;
+      case 2:
+      case 3: edit(); break;
+      case 4:
+        if (auto* sheet = window_.visibleSheet()) author_.use(*sheet);
+        break;
+      case 5: window_.tvTreeView_KeyUp(choices_.below(2) == 0 ? 46 : 0); break;
+      case 6: useWindow(); break;
+      default: run(choices_.one(menuBar()).name); break;
+    }
+  }
+
+  /// A file command commits the open cell first; what it must not lose is the document behind that.
+  void run(std::string_view name) {
+    isFileCommand_ = name.starts_with("mnuFile");
+    if (isFileCommand_) {
+      window_.LeaveCells();
+      before_ = window_.document;
+      wasDirty_ = window_.state.IsDirty;
+    }
+    window_.run(name);
+  }
+
+  void select() {
+    const auto size = window_.document.tvTreeView.size();
+    if (size > 0) window_.tvTreeView_NodeClick(window_.document.tvTreeView.at(choices_.below(size) + 1));
+  }
+
+  void edit() {
+    auto* sheet = window_.visibleSheet();
+    if (sheet == nullptr) return;
+    sheet->EnterCell(static_cast<int>(choices_.below(static_cast<std::size_t>(sheet->RowCount()))),
+                     static_cast<int>(choices_.below(5)));
+    sheet->type(choices_.one(texts));
+    if (choices_.below(2) == 0) sheet->LeaveCell();
+  }
+
+  /// One of those that stand beside the main window.
+  void useWindow() {
+    Form& form = choices_.below(2) == 0 ? static_cast<Form&>(window_.browser) : window_.liveExamples;
+    if (!form.isOpen) return;
+    if (choices_.below(3) == 0) {
+      form.QueryClose();
+    } else {
+      author_.use(form);
+    }
+  }
+
+  void requireSelection() {
+    auto& tree = window_.document.tvTreeView;
+    require((window_.selected == nullptr) == tree.empty());
+    require(window_.CurrentNode == window_.selected);
+    if (window_.selected == nullptr) return;
+    require(tree.find(window_.selected->Key) == window_.selected);
+    require(window_.visibleSheet() == &window_.sheetOf(kindOf(window_.selected->Key)));
+  }
+
+  /// Changes go by the author's No alone, or into a file.
+  void requireSafeFileCommand() {
+    const bool stands = sameMenu(window_.document, before_);
+    if (author_.savePrompt == BoxButton::Cancel) require(stands && window_.state.IsDirty);
+    if (!wasDirty_ || author_.savePrompt == BoxButton::No) return;
+    if (stands && window_.state.IsDirty) return;
+    require(std::ranges::any_of(
+        files_.files, [saved = menuFileText(before_)](const auto& file) { return file.second == saved; }));
+  }
+
+  Choices& choices_;
+  FuzzedAuthor author_;
+  MemoryFileSystem files_;
+  MemorySettings settings_;
+  QuietSystem system_;
+  Ports ports_;
+  frmMain window_;
+  Document clean_;   // as it was made, opened or saved last
+  Document before_;  // ahead of the step
+  bool wasDirty_ = false;
+  bool isFileCommand_ = false;
+};
+
+}  // namespace
+}  // namespace nimbrel
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  constexpr int longest = 200;
+  nimbrel::Choices choices(data, size);
+  nimbrel::Session session(choices);
+  for (int steps = 0; steps < longest && !choices.isUsedUp(); ++steps) session.step();
+  return 0;
+}
