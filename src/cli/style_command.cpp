@@ -52,7 +52,7 @@ ExitStatus styleCreateCommand(const Console& console, FileSystem& files,
   const auto* first = root->Child() == nullptr ? nullptr : input.document.get<ItemObj>(*root->Child());
   const auto folder = fromHostPath(programFolder(home));
   StepReport report;
-  SaveStyle(files, folder, style, styleOfMenu(*menu, first), report);
+  SaveStyle(files, folder, style, styleOfMenu(menu, first), report);
   return console.faults(report.findings);
 }
 

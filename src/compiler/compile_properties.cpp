@@ -101,6 +101,7 @@ bool frmCompileProperties::ValidateFolderName(const Control& textBox) {
   asker_.MsgBox({.title = "Invalid character",
                  .text = "A folder name cannot contain any of the following characters:\r\\ / : * ? \" < > |",
                  .icon = BoxIcon::Critical});
+  toFocus = &textBox;
   return false;
 }
 

@@ -46,6 +46,7 @@ void frmGallery::bind() {
   cboStyle.event = [this] { cboStyle_Click(); };
   WebBrowser.event = [this] { WebBrowser_DocumentComplete(); };
   Timer1.event = [this] { Timer1_Timer(); };
+  Option1.frame = Option2.frame = Option3.frame = &Frame1;
   btnApply.event = [this] { btnApply_Click(); };
   btnCancel.event = [this] { Close(); };
   btnDeleteStyle.event = [this] { btnDeleteStyle_Click(); };
@@ -70,18 +71,21 @@ void frmGallery::Form_Activate() {
 
 void frmGallery::readSelected() {
   StyleInvalid = false;
+  isWhole_ = true;
   try {
     StyleInvalid = !ReadStyleFile(ports_.files, state_.programFolder, cboStyle.text, carryOver_, style_);
   } catch (const FileError& error) {
     ports_.asker.noteFailure(error.finding());
     const bool wasOpened = error.finding().place.line != 0;
     StyleInvalid = !wasOpened;  // else it is shown as far as it was read
+    isWhole_ = false;
   }
 }
 
 void frmGallery::cboStyle_Click() {
   readSelected();
-  Frame1.enabled = btnApply.enabled = !StyleInvalid;
+  Frame1.enabled = !StyleInvalid;
+  btnApply.enabled = !StyleInvalid && isWhole_;  // half a look would wipe out a whole one
   if (StyleInvalid) {
     navigate(WebBrowser, state_.programFolder + "\\invalidstyle.html");
     return;

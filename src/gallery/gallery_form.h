@@ -56,6 +56,7 @@ class frmGallery : public Form {
   std::function<void(StyleScope, const MenuStyle&)> apply_;
   Document sample_ = BuildSampleMenu();
   MenuStyle style_;
+  bool isWhole_ = true;  ///< the style was read to its end
 };
 
 }  // namespace nimbrel

@@ -61,6 +61,7 @@ void passImageList(FileHandle& file) {
 template <class E>
 void readRecord(FileHandle& file, Records version, RecordReader20& reader, SubmenuCarryOver& carryOver,
                 const std::string& folder, E& target) {
+  file.beginRecord();
   Element element = E{};
   const auto take = [&] {
     target = std::get<E>(std::move(element));
@@ -127,11 +128,11 @@ bool ReadStyleFile(const FileSystem& files, const std::string& programFolder, st
   return true;
 }
 
-MenuStyle styleOfMenu(const MenuObj& menu, const ItemObj* firstItem) {
+MenuStyle styleOfMenu(const MenuObj* menu, const ItemObj* firstItem) {
   MenuStyle style;
   SetDefaultValues(style.submenu);
   SetDefaultValues(style.item);
-  CopyStyleValuesFromMenuObject(style.submenu, menu);
+  if (menu != nullptr) CopyStyleValuesFromMenuObject(style.submenu, *menu);
   if (firstItem != nullptr) CopyStyleValuesFromObject(style.item, *firstItem);
   return style;
 }

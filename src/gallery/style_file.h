@@ -28,7 +28,7 @@ bool ReadStyleFile(const FileSystem& files, const std::string& programFolder, st
                    SubmenuCarryOver& carryOver, MenuStyle& style);
 
 /// The look of a menu and of its first item, as a style file holds it. A menu without items gives a default one.
-MenuStyle styleOfMenu(const MenuObj& menu, const ItemObj* firstItem);
+MenuStyle styleOfMenu(const MenuObj* menu, const ItemObj* firstItem);
 
 /// Writes a style into the gallery, in place of one of its name, with copies of its pictures. Steps that fail become
 /// findings, and the others are made.

@@ -70,6 +70,7 @@ void frmInsertIntoWebPage1::listFiles() {
 }
 
 void frmInsertIntoWebPage1::cmbAddToList_Click() {
+  std::ranges::sort(File1.selected);
   for (const auto position : File1.selected) {
     const auto& folder = Dir1.text;
     auto page =
@@ -91,6 +92,7 @@ void frmInsertIntoWebPage1::cmbRemoveFromList_Click() {
 void frmInsertIntoWebPage1::chkAltUrl_Click() {
   if (chkAltUrl.value) {
     txtAltUrl.text = savedAltUrl_;
+    toFocus = &txtAltUrl;
   } else {
     savedAltUrl_ = std::exchange(txtAltUrl.text, {});
   }
@@ -178,7 +180,14 @@ void frmInsertIntoWebPage0::cmdOk_Click() {
         {.title = "File not found", .text = path + " cannot be found.\r\nPlease specify an existing file."});
     return;
   }
-  if (const auto* refusal = refusalOfCompiledMenu(ports_.files.read(path))) {
+  std::string script;
+  try {
+    script = ports_.files.read(path);
+  } catch (const FileError& error) {
+    ports_.asker.MsgBox({.title = std::string(linkCaption), .text = path + ": " + error.finding().text()});
+    return;
+  }
+  if (const auto* refusal = refusalOfCompiledMenu(script)) {
     auto box = warning(*refusal);
     box.buttons = {BoxButton::OK, BoxButton::Help};
     box.helpTopic = olderVersionTopic;

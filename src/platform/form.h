@@ -37,7 +37,7 @@ struct Control {
   Control& operator=(const Control&) = delete;
   ~Control() = default;
 
-  bool usable() const { return enabled && visible; }
+  bool usable() const { return enabled && visible && (frame == nullptr || frame->usable()); }
 
   const std::string_view name;
   const ControlKind kind;
@@ -48,9 +48,10 @@ struct Control {
   bool enabled = true;
   bool visible = true;
   bool value = false;
-  int group = 0;           ///< of options: which belong together
-  int interval = 0;        ///< of a timer, milliseconds
-  std::size_t visits = 0;  ///< of a browser: how many pages it was sent to
+  const Control* frame = nullptr;  ///< what it stands in: where that cannot be used, it cannot either
+  int group = 0;                   ///< of options: which belong together
+  int interval = 0;                ///< of a timer, milliseconds
+  std::size_t visits = 0;          ///< of a browser: how many pages it was sent to
 
   /// What its use does: a click; another text, entry, folder or tab; the tick; the loaded page.
   std::function<void()> event;
@@ -69,6 +70,8 @@ class Form {
   bool isOpen = false;
   /// The button that the Escape key stands for; empty if there is none.
   std::string_view cancelButton;
+  /// What is to take the focus, all of its text selected. Whoever shows the form sees to it and clears this.
+  const Control* toFocus = nullptr;
 
   const std::vector<Control*>& controls() const { return controls_; }
   Control* find(std::string_view controlName) const;

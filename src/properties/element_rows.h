@@ -108,7 +108,7 @@ template <class E>
 void getValue(std::span<const ElementRow<E>> rows, E& element, const PropertySheet& sheet, int ordinal) {
   if (std::cmp_less(ordinal, 0) || std::cmp_greater_equal(ordinal, rows.size())) return;
   eachField(rows[static_cast<std::size_t>(ordinal)],
-            [&](int col, auto field) { assign(element.*field, sheet.GetProperty(ordinal, col)); });
+            [&](int col, auto field) { assign(element.*field, sheet.ValueToStore(ordinal, col)); });
 }
 
 }  // namespace nimbrel

@@ -95,11 +95,18 @@ PropertySheet::Cell& PropertySheet::cell(int PropertyOrdinal, int col) {
 }
 
 void PropertySheet::SetProperty(int PropertyOrdinal, int col, PropertyValue Value) {
-  cell(PropertyOrdinal, col).value = std::move(Value);
+  auto& one = cell(PropertyOrdinal, col);
+  one.value = std::move(Value);
+  one.replaced.reset();
 }
 
 const PropertyValue& PropertySheet::GetProperty(int PropertyOrdinal, int col) const {
   return cell(PropertyOrdinal, col).value;
+}
+
+const PropertyValue& PropertySheet::ValueToStore(int PropertyOrdinal, int col) const {
+  const auto& one = cell(PropertyOrdinal, col);
+  return one.replaced ? *one.replaced : one.value;
 }
 
 void PropertySheet::RefreshPropertyValues() {
@@ -108,7 +115,9 @@ void PropertySheet::RefreshPropertyValues() {
     for (std::size_t slot = 0; slot < columns(); ++slot) {
       if (!rules.row->takes(valueColumns[slot])) continue;
       Cell& one = cells_[i][slot];
+      const PropertyValue given = one.value;
       one.shown = FormatCellText(rules, one.value);
+      if (!sameValue(given, one.value)) one.replaced = given;
     }
   }
 }
@@ -143,9 +152,14 @@ void PropertySheet::LeaveCell() {
   const int ordinal = cursorRow_;
   Cell& left = cell(ordinal, cursorColumn_);
   const PropertyValue old = left.value;
-  left.value = ParseCellText(rowAt(ordinal), txtEntry.text, old);
+  std::string typed = txtEntry.text;  // a line break would end the value in a menu file
+  std::ranges::replace_if(
+      typed, [](char c) { return c == '\r' || c == '\n'; }, ' ');
+  left.value = ParseCellText(rowAt(ordinal), typed, old);
   left.shown = FormatCellText(rowAt(ordinal), left.value);
-  if (!sameValue(left.value, old) && Change) Change(ordinal);
+  if (sameValue(left.value, old)) return;
+  left.replaced.reset();
+  if (Change) Change(ordinal);
 }
 
 bool PropertySheet::isListRow() const { return edits(KindList) || edits(KindSortedList); }
@@ -222,7 +236,10 @@ void PropertySheet::txtEntry_Click() {
 }
 
 void PropertySheet::btnCombo_Click() {
-  if (isListRow()) list().visible = !list().visible;
+  if (!isListRow()) return;
+  list().selected.clear();  // the entry that was chosen last can be chosen again
+  list().text.clear();
+  list().visible = !list().visible;
 }
 
 void PropertySheet::btnFile_Click() {

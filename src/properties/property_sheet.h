@@ -2,6 +2,7 @@
 
 #include <array>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -29,6 +30,8 @@ class PropertySheet : public Form {
   /// Values go in and out as they are, unchecked and undrawn, by ordinal and value column (see `column`).
   void SetProperty(int PropertyOrdinal, int col, PropertyValue Value);
   const PropertyValue& GetProperty(int PropertyOrdinal, int col) const;
+  /// The same, but for a list value that the list lacks: the element keeps it until its own cell is committed.
+  const PropertyValue& ValueToStore(int PropertyOrdinal, int col) const;
   /// Makes the texts of all cells anew. A cell that is open stays so, with what was typed.
   void RefreshPropertyValues();
 
@@ -88,6 +91,7 @@ class PropertySheet : public Form {
   struct Cell {
     PropertyValue value;
     SharedText shown;
+    std::optional<PropertyValue> replaced = {};  ///< by the last entry of the list, which is shown for it
   };
 
   void bind();

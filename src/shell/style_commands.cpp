@@ -30,6 +30,7 @@ void frmMain::mnuStyleApplyStyle() {
     ports.asker.MsgBox(warning(*refusal));
     return;
   }
+  sheetOf(kindOf(selected->Key)).LeaveCell();  // what stands in it would undo the style
   ApplyPickedStyle(picking, *element);
   refill(*selected);
   SetIsDirty();
@@ -44,12 +45,11 @@ void frmMain::mnuStyleSaveStyle() {
   LeaveCells();
   const Node* root = document.tvTreeView.root();
   const auto* menu = root == nullptr ? nullptr : document.get<MenuObj>(*root);
-  if (menu != nullptr) {
-    const auto* first = root->Child() == nullptr ? nullptr : document.get<ItemObj>(*root->Child());
-    StepReport report;
-    SaveStyle(ports.files, state.programFolder, state.StyleName, styleOfMenu(*menu, first), report);
-    noteFailures(report.findings);
-  }
+  const auto* first =
+      root == nullptr || root->Child() == nullptr ? nullptr : document.get<ItemObj>(*root->Child());
+  StepReport report;
+  SaveStyle(ports.files, state.programFolder, state.StyleName, styleOfMenu(menu, first), report);
+  noteFailures(report.findings);
   ports.asker.MsgBox({.title = "Style created successfully",
                       .text = "The new style has been successfully created.\r\n"
                               "Open the Style Gallery to view it and use it in your menus",
@@ -58,9 +58,9 @@ void frmMain::mnuStyleSaveStyle() {
 
 void frmMain::mnuStyleOpenStyleLibrary() {
   LeaveCells();
-  if (selected == nullptr) return;
-  frmGallery form(ports, state, carryOver, kindOf(selected->Key),
+  frmGallery form(ports, state, carryOver, selected == nullptr ? Kind::None : kindOf(selected->Key),
                   [this](StyleScope scope, const MenuStyle& style) {
+                    if (selected == nullptr) return;
                     ApplyStyle(document, *selected, scope, style);
                     refill(*selected);
                     SetIsDirty();

@@ -66,7 +66,12 @@ void frmMain::mnuToolsCompileMenu() {
   if (!chooseCompiledFile()) return;
   LeaveCells();
   StepReport report;
-  if (refusalOfCompile(document) == nullptr) CompileMenu(ports.files, state.programFolder, document, report);
+  if (const auto* refusal = refusalOfCompile(document)) {
+    report.findings.push_back({joinPath(document.settings.CompiledPath, document.settings.CompiledName),
+                               std::string(refusal->text)});
+  } else {
+    CompileMenu(ports.files, state.programFolder, document, report);
+  }
   noteFailures(report.findings);
   const auto link = [this](std::string_view menu, std::string_view submenus) {
     startLinking(menu, submenus);

@@ -23,7 +23,7 @@ class Gallery : public testing::Test {
     SetDefaultValues(item);
     menu.BGColor = "#123456";
     StepReport report;
-    SaveStyle(files(), "C:\\p", "Blue", styleOfMenu(menu, &item), report);
+    SaveStyle(files(), "C:\\p", "Blue", styleOfMenu(&menu, &item), report);
     state.programFolder = "C:\\p";
   }
 
@@ -66,7 +66,7 @@ TEST_F(Gallery, AFileOfNoStyleCanBeDeletedButNotApplied) {
   auto& gallery = open(Kind::Item);
   gallery.choose(gallery.cboStyle, {1});
   EXPECT_EQ(gallery.WebBrowser.text, "C:\\p\\invalidstyle.html");
-  EXPECT_FALSE(gallery.btnApply.usable() || gallery.Frame1.usable());
+  EXPECT_FALSE(gallery.btnApply.usable() || gallery.Option1.usable());
   system.asker.answers = {BoxButton::No, BoxButton::Yes, BoxButton::Yes};
   gallery.click(gallery.btnDeleteStyle);  // kept: "No" too goes back to the first style
   EXPECT_TRUE(gallery.btnApply.usable() && has("Foreign.nbs"));
@@ -81,7 +81,8 @@ TEST_F(Gallery, ABrokenStyleIsShownAsFarAsItWasReadAndAnUnreadableOneNot) {
   styleFile().resize(styleFile().size() / 2);
   auto& gallery = open(Kind::Menu);
   EXPECT_EQ(system.asker.failures.size(), 1U);
-  EXPECT_TRUE(gallery.btnApply.usable());
+  EXPECT_FALSE(gallery.btnApply.usable());
+  EXPECT_TRUE(gallery.Option1.usable());
   EXPECT_THAT(files().read("C:\\p\\gallery\\stylepreview.js"), testing::HasSubstr("#123456"));
 
   auto& again = open(Kind::Menu);

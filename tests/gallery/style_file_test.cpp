@@ -20,7 +20,7 @@ class StyleFile : public testing::Test {
     files.files = {{"C:\\p\\dot.gif", "dot"}, {"C:\\pics\\a.gif", "a"}, {"C:\\pics\\b.gif", "b"}};
   }
 
-  void save(const std::string& name) { SaveStyle(files, "C:\\p", name, styleOfMenu(menu, &item), report); }
+  void save(const std::string& name) { SaveStyle(files, "C:\\p", name, styleOfMenu(&menu, &item), report); }
   std::string text(const std::string& name) { return files.files.at("C:\\p\\gallery\\" + name + ".nbs"); }
 
   MemoryFileSystem files;

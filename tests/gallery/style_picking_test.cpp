@@ -15,7 +15,7 @@ class Picking : public testing::Test {
 
   Document document = BuildSampleMenu();  // M0(I1 I2(S4(I5 I6 I7)) I3)
   StylePicking picking;
-  MenuStyle style = styleOfMenu(std::get<MenuObj>(element("M0")), &item("I1"));
+  MenuStyle style = styleOfMenu(&std::get<MenuObj>(element("M0")), &item("I1"));
 };
 
 TEST_F(Picking, GoesWhereTheKindFits) {

@@ -62,6 +62,24 @@ TEST_F(MenuSheet, HeadingsLeadToTheRowBelow) {
   EXPECT_FALSE(sheet.Editing());
 }
 
+TEST_F(MenuSheet, ALineBreakDoesNotReachTheFile) {
+  edit(9, 1, "Two\r\nlines");
+  EXPECT_EQ(text(9, 1), "Two  lines");
+}
+
+TEST_F(ItemSheet, KeepsAFontThatIsNotInstalledInTheStatesThatWereNotEdited) {
+  item.FontFamily1 = item.FontFamily2 = item.FontFamily3 = "Elsewhere";
+  PutValuesToPropertyControl(item, sheet);
+  edit(8, column::Normal, "serif");
+  GetValueFromPropertyControl(item, sheet, 8);
+  EXPECT_EQ(item.FontFamily1, "serif");
+  EXPECT_EQ(item.FontFamily2, "Elsewhere");
+  sheet.EnterCell(8, column::Normal);
+  sheet.click(sheet.btnReplicate);
+  GetValueFromPropertyControl(item, sheet, 8);
+  EXPECT_EQ(item.FontFamily2, "serif");
+}
+
 TEST_F(ItemSheet, RowsOfOneStateTakeNoOther) {
   edit(22, column::Normal, "a.html");
   EXPECT_EQ(text(22, column::MouseClick), "a.html");
