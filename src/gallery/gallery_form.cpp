@@ -45,6 +45,7 @@ frmGallery::frmGallery(Ports& ports, ProgramState& state, SubmenuCarryOver& carr
 void frmGallery::bind() {
   cboStyle.event = [this] { cboStyle_Click(); };
   WebBrowser.event = [this] { WebBrowser_DocumentComplete(); };
+  WebBrowser.reload = [this] { cboStyle_Click(); };
   Timer1.event = [this] { Timer1_Timer(); };
   Option1.frame = Option2.frame = Option3.frame = &Frame1;
   btnApply.event = [this] { btnApply_Click(); };

@@ -56,6 +56,8 @@ struct Control {
   /// What its use does: a click; another text, entry, folder or tab; the tick; the loaded page.
   std::function<void()> event;
   std::function<void()> doubleClick;
+  /// Of a browser whose page lasts no longer than its loading: makes it anew.
+  std::function<void()> reload;
 };
 
 class Form {

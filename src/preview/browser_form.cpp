@@ -16,6 +16,7 @@ frmBrowser::frmBrowser(FileSystem& files, Asker& asker, ProgramState& state,
       state_(state),
       CreatePreviewFile_(std::move(CreatePreviewFile)) {
   brwWebBrowser.event = [this] { brwWebBrowser_DocumentComplete(); };
+  brwWebBrowser.reload = [this] { btnRefreshPreview_Click(); };
   btnRefreshPreview.event = [this] { btnRefreshPreview_Click(); };
   chkBlackPreview.event = [this] { chkBlackPreview_Click(); };
   Timer1.event = [this] { Timer1_Timer(); };

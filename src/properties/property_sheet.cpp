@@ -110,6 +110,7 @@ const PropertyValue& PropertySheet::ValueToStore(int PropertyOrdinal, int col) c
 }
 
 void PropertySheet::RefreshPropertyValues() {
+  ++fillings_;
   for (std::size_t i = 0; i < cells_.size(); ++i) {
     const CellRules& rules = rules_[i];
     for (std::size_t slot = 0; slot < columns(); ++slot) {
@@ -160,6 +161,12 @@ void PropertySheet::LeaveCell() {
   if (sameValue(left.value, old)) return;
   left.replaced.reset();
   if (Change) Change(ordinal);
+}
+
+void PropertySheet::TakeBack() {
+  if (!editing_) return;
+  editing_ = false;
+  hideEditors();
 }
 
 bool PropertySheet::isListRow() const { return edits(KindList) || edits(KindSortedList); }

@@ -34,6 +34,8 @@ class PropertySheet : public Form {
   const PropertyValue& ValueToStore(int PropertyOrdinal, int col) const;
   /// Makes the texts of all cells anew. A cell that is open stays so, with what was typed.
   void RefreshPropertyValues();
+  /// How often that was done: whoever draws the sheet goes to its first row then.
+  std::size_t fillings() const { return fillings_; }
 
   const SheetTable& table() const { return table_; }
   int RowCount() const { return static_cast<int>(cells_.size()); }
@@ -47,6 +49,8 @@ class PropertySheet : public Form {
   void EnterCell(int PropertyOrdinal, int col);
   /// Commits what stands in the entry and closes the cell; without an open one it does nothing.
   void LeaveCell();
+  /// Closes the cell with the value that it has, whatever stands in the entry.
+  void TakeBack();
   /// Whether a cell is open; `cursorRow` and `cursorColumn` are its place, or that of the last one.
   bool Editing() const { return editing_; }
   int cursorRow() const { return cursorRow_; }
@@ -123,6 +127,7 @@ class PropertySheet : public Form {
   int cursorRow_ = 0;
   int cursorColumn_ = column::Normal;
   int helpContextID_ = 0;
+  std::size_t fillings_ = 0;
   Swatch pickedColour_;  ///< painted already in the open cell, not yet committed
 };
 

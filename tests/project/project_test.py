@@ -20,9 +20,10 @@ LAYERS = {
     "properties": ["model", "platform", "text"],
     "gallery": ["compiler", "persistence", "model", "platform", "text"],
     "shell": ["gallery", "properties", "preview", "linking", "persistence", "compiler", "model", "platform", "text"],
+    "desktop": ["shell", "gallery", "properties", "linking", "preview", "compiler", "model", "platform", "text"],
     "cli": ["shell", "gallery", "properties", "persistence", "compiler", "linking", "preview", "model", "platform", "text"],
 }
-PROGRAMS = ["cli"]
+PROGRAMS = ["cli", "desktop"]
 
 
 def output(*command):
@@ -51,7 +52,7 @@ class Includes(unittest.TestCase):
 
     def foreign(self, name, folder, below):
         if re.fullmatch(r"Q\w+|Qt\w*/.*", name):
-            return False
+            return folder == "desktop"
         # The library names the standard library alone, and the system in one folder.
         return folder in PROGRAMS or below[0] == "posix" or re.fullmatch("[a-z_]+", name)
 

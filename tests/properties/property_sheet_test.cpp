@@ -165,6 +165,17 @@ TEST_F(ItemSheet, ButtonsPutWhatIsChosenIntoTheEntry) {
   EXPECT_THAT(changes, ElementsAre(2, 18, 9));
 }
 
+TEST_F(ItemSheet, WhatIsTakenBackWasNever) {
+  item.ItemImage1 = " outer blanks.gif ";
+  PutValuesToPropertyControl(item, sheet);
+  sheet.EnterCell(2, column::Normal);
+  sheet.type("other.gif");
+  sheet.TakeBack();
+  EXPECT_FALSE(sheet.Editing() || sheet.txtEntry.visible);
+  EXPECT_EQ(text(2, column::Normal), " outer blanks.gif ");
+  EXPECT_THAT(changes, IsEmpty());
+}
+
 TEST_F(ItemSheet, TextOutlivesScrollingAndRefreshing) {
   sheet.EnterCell(1, column::Normal);
   sheet.click(sheet.btnCombo);

@@ -14,7 +14,7 @@ using testing::IsEmpty;
 
 /// Keeps what is registered, in order.
 struct Registered : ClassesRoot {
-  void CreateClassKey(std::string_view key) override { lines.push_back(std::string(key)); }
+  void CreateClassKey(std::string_view key) override { lines.emplace_back(key); }
   void SetClassValue(std::string_view key, std::string_view valueName, std::string_view value) override {
     lines.push_back(std::string(key) + " " + std::string(valueName) + "= " + std::string(value));
   }
@@ -24,7 +24,7 @@ struct Registered : ClassesRoot {
 class MainWindow : public testing::Test {
  protected:
   void set(const char* key, const char* value) { system.settings.SaveSetting("Settings", key, value); }
-  std::string get(const char* section, const char* key) {
+  std::string get(const char* section, const char* key) const {
     return system.settings.GetSetting(section, key, "none");
   }
   frmMain& start(const char* commandLine = "") {

@@ -1,0 +1,37 @@
+#include "desktop/application.h"
+
+#include <QDebug>
+#include <exception>
+
+#include "desktop/shown_text.h"
+#include "platform/file_error.h"
+
+namespace nimbrel {
+
+Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
+  setApplicationName("Nimbrel");
+  setApplicationDisplayName("Nimbrel");
+  setDesktopFileName("nimbrel");
+  setQuitOnLastWindowClosed(false);
+}
+
+bool Application::notify(QObject* receiver, QEvent* event) {
+  try {
+    return QApplication::notify(receiver, event);
+  } catch (const FileError& error) {
+    tell(shownPath(error.finding().path) + ": " + shown(error.finding().text()));
+  } catch (const std::exception& error) {
+    tell(QString::fromUtf8(error.what()));
+  }
+  return true;
+}
+
+void Application::tell(const QString& text) {
+  if (report) {
+    report(text);
+  } else {
+    qCritical().noquote() << text;
+  }
+}
+
+}  // namespace nimbrel

@@ -1,0 +1,154 @@
+#include "desktop/command_actions.h"
+
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMenuBar>
+#include <QToolBar>
+
+#include "desktop/icons.h"
+#include "desktop/shown_text.h"
+#include "shell/command_table.h"
+
+namespace nimbrel {
+namespace {
+
+constexpr const char* topicProperty = "helpTopic";
+
+/// The drawing of a button: its key in small letters, with hyphens.
+QString iconName(std::string_view key) {
+  if (key == "Insert Menu into Webpage") return "link-menu";
+  return shown(key).toLower().replace(' ', '-');
+}
+
+}  // namespace
+
+CommandActions::CommandActions(QMainWindow& window) : QObject(&window), window_(window) {
+  makeMenuBar();
+  makeContextMenus();
+  makeToolbar();
+  drawIcons();
+}
+
+QAction* CommandActions::makeAction(std::string_view name, std::string_view caption) {
+  auto* action = new QAction(shown(caption), this);
+  action->setMenuRole(QAction::NoRole);
+  entries_.emplace(name, action);
+  connect(action, &QAction::triggered, this, [this, wanted = shown(name)] { emit commandWanted(wanted); });
+  return action;
+}
+
+void CommandActions::makeMenuBar() {
+  QMenu* menu = nullptr;     // of the bar
+  QMenu* deepest = nullptr;  // where entries go
+  for (const auto& entry : menuBar()) {
+    if (entry.level == 0) {
+      deepest = menu = window_.menuBar()->addMenu(shown(entry.caption));
+      menu->menuAction()->setProperty(topicProperty, entry.helpTopic);
+      menu->installEventFilter(this);
+      menu->setToolTipsVisible(false);
+      continue;
+    }
+    if (entry.level == 1) deepest = menu;
+    if (entry.caption == "-") {
+      entries_.emplace(entry.name, deepest->addSeparator());
+      continue;
+    }
+    const auto* next = &entry + 1;
+    const bool hasEntries = next != menuBar().data() + menuBar().size() && next->level > entry.level;
+    if (hasEntries) {
+      deepest = menu->addMenu(shown(entry.caption));
+      entries_.emplace(entry.name, deepest->menuAction());
+      continue;
+    }
+    auto* action = makeAction(entry.name, entry.caption);
+    action->setShortcut(QKeySequence(shown(entry.shortcut)));
+    action->setCheckable((entry.state & Checked) != 0);
+    action->setProperty(topicProperty, entry.helpTopic);
+    deepest->addAction(action);
+  }
+}
+
+void CommandActions::makeContextMenus() {
+  for (const auto& described : contextMenus()) {
+    auto* menu = new QMenu(&window_);
+    contextMenus_.emplace(described.name, menu);
+    for (const auto& entry : described.entries) {
+      if (entry.caption == "-") {
+        menu->addSeparator();
+      } else {
+        menu->addAction(makeAction(entry.name, entry.caption));
+      }
+    }
+  }
+}
+
+void CommandActions::makeToolbar() {
+  auto* bar = window_.addToolBar(tr("Toolbar"));
+  bar->setObjectName("tbToolBar");
+  bar->setMovable(false);
+  bar->setContextMenuPolicy(Qt::PreventContextMenu);
+  constexpr int iconSide = 20;
+  bar->setIconSize({iconSide, iconSide});
+  for (const auto& described : toolbar()) {
+    if (described.key.empty()) {
+      bar->addSeparator();
+      continue;
+    }
+    auto* action = new QAction(shown(described.toolTip), this);
+    buttons_.emplace(described.key, action);
+    connect(action, &QAction::triggered, this,
+            [this, key = shown(described.key)] { emit commandWanted(key); });
+    bar->addAction(action);
+  }
+}
+
+void CommandActions::drawIcons() {
+  const auto ink = window_.palette().color(QPalette::WindowText);
+  for (const auto& [key, action] : buttons_) {
+    action->setIcon(drawnIcon(iconName(key), ink));
+    const auto entry = entries_.find(commandOfKey(key));
+    if (entry != entries_.end()) entry->second->setIcon(action->icon());
+  }
+}
+
+void CommandActions::refresh(const CommandStates& states) {
+  for (const auto& [name, action] : entries_) {
+    const auto* state = states.find(name);
+    if (state == nullptr) continue;
+    if (!action->isSeparator() && action->text() != shown(state->caption))
+      action->setText(shown(state->caption));
+    action->setEnabled(state->enabled);
+    action->setVisible(state->visible);
+    if (action->isCheckable()) action->setChecked(state->checked);
+  }
+  for (const auto& [key, action] : buttons_) action->setEnabled(states.button(key));
+}
+
+QMenu* CommandActions::contextMenu(std::string_view name) const {
+  const auto found = contextMenus_.find(name);
+  return found == contextMenus_.end() ? nullptr : found->second;
+}
+
+QAction* CommandActions::action(std::string_view name) const {
+  const auto found = entries_.find(name);
+  return found == entries_.end() ? nullptr : found->second;
+}
+
+QAction* CommandActions::button(std::string_view key) const {
+  const auto found = buttons_.find(key);
+  return found == buttons_.end() ? nullptr : found->second;
+}
+
+bool CommandActions::eventFilter(QObject* watched, QEvent* event) {
+  const auto* menu = qobject_cast<QMenu*>(watched);
+  if (menu == nullptr || event->type() != QEvent::KeyPress ||
+      static_cast<QKeyEvent*>(event)->key() != Qt::Key_F1) {
+    return QObject::eventFilter(watched, event);
+  }
+  const auto* entry = menu->activeAction() != nullptr ? menu->activeAction() : menu->menuAction();
+  const int topic = entry->property(topicProperty).toInt();
+  if (topic != 0) emit helpWanted(topic);
+  return topic != 0;
+}
+
+}  // namespace nimbrel

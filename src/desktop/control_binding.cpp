@@ -1,0 +1,322 @@
+#include "desktop/control_binding.h"
+
+#include <QAbstractButton>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QSignalBlocker>
+#include <QTabBar>
+#include <QTimer>
+#include <stdexcept>
+
+#include "desktop/browser_view.h"
+#include "desktop/folder_view.h"
+#include "desktop/shown_text.h"
+
+namespace nimbrel {
+namespace {
+
+using Act = std::function<void(const std::function<void()>&)>;
+
+/// What all widgets have in common.
+template <class Widget>
+class Binding : public ControlBinding {
+ public:
+  Binding(Form& form, Control& control, Widget& widget, Act act)
+      : form_(form), control_(control), widget_(widget), act_(std::move(act)) {}
+
+  void show() override {
+    const QSignalBlocker quiet(&widget_);
+    if (widget_.isEnabled() != control_.enabled) widget_.setEnabled(control_.enabled);
+    if (widget_.isHidden() == control_.visible) widget_.setVisible(control_.visible);
+    showContent();
+  }
+
+ protected:
+  virtual void showContent() = 0;
+
+  QString text(std::string_view heldText) const {
+    return widget_.property("paths").toBool() ? shownPath(heldText) : shown(heldText);
+  }
+  std::string typed(const QString& shownText) const {
+    return widget_.property("paths").toBool() ? heldPath(shownText) : held(shownText);
+  }
+  /// Texts of forms end their lines as files do.
+  QString lines(std::string_view heldText) const {
+    return text(heldText).replace("\r\n", "\n").replace('\r', '\n');
+  }
+
+  Form& form_;
+  Control& control_;
+  Widget& widget_;
+  Act act_;
+};
+
+/// A label that does something is a link, which the keyboard reaches too.
+class LabelBinding : public Binding<QLabel> {
+ public:
+  LabelBinding(Form& form, Control& control, QLabel& label, Act act)
+      : Binding(form, control, label, std::move(act)) {
+    if (!control_.event) return;
+    label.setTextFormat(Qt::RichText);
+    label.setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    QObject::connect(&label, &QLabel::linkActivated, &label,
+                     [this] { act_([this] { form_.click(control_); }); });
+  }
+
+ private:
+  void showContent() override {
+    auto wanted = lines(control_.text);
+    if (control_.event) wanted = "<a href=\"#\">" + wanted.toHtmlEscaped() + "</a>";
+    if (widget_.text() != wanted) widget_.setText(wanted);
+    if (!control_.event && widget_.textFormat() != Qt::PlainText) widget_.setTextFormat(Qt::PlainText);
+  }
+};
+
+class ButtonBinding : public Binding<QAbstractButton> {
+ public:
+  ButtonBinding(Form& form, Control& control, QAbstractButton& button, Act act)
+      : Binding(form, control, button, std::move(act)) {
+    QObject::connect(&button, &QAbstractButton::clicked, &button,
+                     [this] { act_([this] { form_.click(control_); }); });
+  }
+
+ private:
+  void showContent() override {
+    const auto wanted = text(control_.text);
+    if (!wanted.isEmpty() && widget_.text() != wanted) widget_.setText(wanted);
+  }
+};
+
+/// A check box or an option.
+class MarkBinding : public Binding<QAbstractButton> {
+ public:
+  MarkBinding(Form& form, Control& control, QAbstractButton& button, Act act)
+      : Binding(form, control, button, std::move(act)) {
+    button.setAutoExclusive(false);  // the form knows the groups
+    QObject::connect(&button, &QAbstractButton::clicked, &button, [this](bool checked) {
+      act_([this, checked] {
+        if (control_.kind == ControlKind::Option) {
+          form_.click(control_);
+        } else {
+          form_.check(control_, checked);
+        }
+      });
+    });
+  }
+
+ private:
+  void showContent() override {
+    const auto wanted = text(control_.text);
+    if (widget_.text() != wanted) widget_.setText(wanted);
+    if (widget_.isChecked() != control_.value) widget_.setChecked(control_.value);
+  }
+};
+
+class TextBinding : public Binding<QLineEdit> {
+ public:
+  TextBinding(Form& form, Control& control, QLineEdit& edit, Act act)
+      : Binding(form, control, edit, std::move(act)) {
+    QObject::connect(&edit, &QLineEdit::textEdited, &edit, [this](const QString& entry) {
+      act_([this, entry] { form_.enter(control_, typed(entry)); });
+    });
+  }
+
+ private:
+  void showContent() override {
+    // What is being typed stays as it is where it says the same.
+    if (typed(widget_.text()) != control_.text) widget_.setText(text(control_.text));
+  }
+};
+
+class ComboBinding : public Binding<QComboBox> {
+ public:
+  ComboBinding(Form& form, Control& control, QComboBox& box, Act act)
+      : Binding(form, control, box, std::move(act)) {
+    QObject::connect(&box, &QComboBox::activated, &box, [this](int index) {
+      act_([this, index] { form_.choose(control_, {static_cast<std::size_t>(index)}); });
+    });
+  }
+
+ private:
+  void showContent() override {
+    if (entries_ != control_.list) {
+      entries_ = control_.list;
+      widget_.clear();
+      for (const auto& entry : entries_) widget_.addItem(text(entry));
+    }
+    const int index = control_.selected.empty() ? -1 : static_cast<int>(control_.selected.front());
+    if (widget_.currentIndex() != index) widget_.setCurrentIndex(index);
+  }
+
+  std::vector<std::string> entries_;
+};
+
+class ListBinding : public Binding<QListWidget> {
+ public:
+  ListBinding(Form& form, Control& control, QListWidget& list, Act act)
+      : Binding(form, control, list, std::move(act)) {
+    list.setSelectionMode(control.manyAtOnce ? QAbstractItemView::ExtendedSelection
+                                             : QAbstractItemView::SingleSelection);
+    QObject::connect(&list, &QListWidget::itemSelectionChanged, &list,
+                     [this] { act_([this] { form_.choose(control_, selectedRows()); }); });
+    QObject::connect(&list, &QListWidget::itemActivated, &list, [this] {
+      if (control_.doubleClick) act_(control_.doubleClick);
+    });
+  }
+
+ private:
+  std::vector<std::size_t> selectedRows() const {
+    std::vector<std::size_t> rows;
+    for (const auto& index : widget_.selectionModel()->selectedRows()) {
+      rows.push_back(static_cast<std::size_t>(index.row()));
+    }
+    return rows;
+  }
+
+  void showContent() override {
+    if (entries_ != control_.list) {
+      entries_ = control_.list;
+      widget_.clear();
+      for (const auto& entry : entries_) widget_.addItem(text(entry));
+    }
+    if (selectedRows() == control_.selected) return;
+    widget_.clearSelection();
+    for (const auto row : control_.selected) widget_.item(static_cast<int>(row))->setSelected(true);
+  }
+
+  std::vector<std::string> entries_;
+};
+
+class FolderBinding : public Binding<FolderView> {
+ public:
+  FolderBinding(Form& form, Control& control, FolderView& view, Act act)
+      : Binding(form, control, view, std::move(act)) {
+    QObject::connect(&view, &FolderView::folderChosen, &view, [this](const QString& folder) {
+      act_([this, folder] { form_.enter(control_, heldPath(folder)); });
+    });
+  }
+
+ private:
+  void showContent() override {
+    if (heldPath(widget_.folder()) != control_.text) widget_.setFolder(shownPath(control_.text));
+  }
+};
+
+class TabsBinding : public Binding<QTabBar> {
+ public:
+  TabsBinding(Form& form, Control& control, QTabBar& tabs, Act act)
+      : Binding(form, control, tabs, std::move(act)) {
+    for (const auto& caption : control.list) tabs.addTab(shown(caption));
+    QObject::connect(&tabs, &QTabBar::currentChanged, &tabs, [this](int index) {
+      act_([this, index] { form_.choose(control_, {static_cast<std::size_t>(index)}); });
+    });
+  }
+
+ private:
+  void showContent() override {
+    const int index = control_.selected.empty() ? 0 : static_cast<int>(control_.selected.front());
+    if (widget_.currentIndex() != index) widget_.setCurrentIndex(index);
+  }
+};
+
+class FrameBinding : public Binding<QWidget> {
+ public:
+  using Binding::Binding;
+
+ private:
+  void showContent() override {
+    auto* box = qobject_cast<QGroupBox*>(&widget_);
+    if (box != nullptr && box->title() != text(control_.text)) box->setTitle(text(control_.text));
+  }
+};
+
+class BrowserBinding : public Binding<BrowserView> {
+ public:
+  BrowserBinding(Form& form, Control& control, BrowserView& view, Act act)
+      : Binding(form, control, view, std::move(act)) {
+    QObject::connect(&view, &BrowserView::documentComplete, &view, [this] {
+      if (control_.event) act_(control_.event);
+    });
+    QObject::connect(&view, &BrowserView::reloadWanted, &view, [this] {
+      if (control_.reload) {
+        act_(control_.reload);
+      } else {
+        widget_.navigate(shownPath(control_.text));
+      }
+    });
+  }
+
+ private:
+  void showContent() override {
+    if (visits_ == control_.visits) return;
+    visits_ = control_.visits;
+    widget_.navigate(shownPath(control_.text));
+  }
+
+  std::size_t visits_ = 0;
+};
+
+class TimerBinding : public ControlBinding {
+ public:
+  TimerBinding(Control& control, QObject& owner, Act act) : control_(control), timer_(new QTimer(&owner)) {
+    timer_->setInterval(control.interval);
+    QObject::connect(timer_, &QTimer::timeout, timer_,
+                     [this, act = std::move(act)] { act([this] { control_.event(); }); });
+  }
+
+  void show() override {
+    if (control_.value == timer_->isActive()) return;
+    if (control_.value) {
+      timer_->start();
+    } else {
+      timer_->stop();
+    }
+  }
+
+ private:
+  Control& control_;
+  QTimer* timer_;
+};
+
+template <class Bound, class Widget>
+std::unique_ptr<ControlBinding> bindAs(Form& form, Control& control, QWidget& widget, Act& act) {
+  auto* fitting = qobject_cast<Widget*>(&widget);
+  if (fitting == nullptr) return nullptr;
+  return std::make_unique<Bound>(form, control, *fitting, std::move(act));
+}
+
+std::unique_ptr<ControlBinding> bindOfKind(Form& form, Control& control, QWidget& widget, Act& act) {
+  switch (control.kind) {
+    case ControlKind::Label: return bindAs<LabelBinding, QLabel>(form, control, widget, act);
+    case ControlKind::Button: return bindAs<ButtonBinding, QAbstractButton>(form, control, widget, act);
+    case ControlKind::Option:
+    case ControlKind::Check: return bindAs<MarkBinding, QAbstractButton>(form, control, widget, act);
+    case ControlKind::Text: return bindAs<TextBinding, QLineEdit>(form, control, widget, act);
+    case ControlKind::List:
+      if (auto bound = bindAs<ComboBinding, QComboBox>(form, control, widget, act)) return bound;
+      return bindAs<ListBinding, QListWidget>(form, control, widget, act);
+    case ControlKind::Folder: return bindAs<FolderBinding, FolderView>(form, control, widget, act);
+    case ControlKind::Tabs: return bindAs<TabsBinding, QTabBar>(form, control, widget, act);
+    case ControlKind::Frame: return bindAs<FrameBinding, QWidget>(form, control, widget, act);
+    case ControlKind::Browser: return bindAs<BrowserBinding, BrowserView>(form, control, widget, act);
+    case ControlKind::Timer: break;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+std::unique_ptr<ControlBinding> bindControl(Form& form, Control& control, QWidget& widget, Act act) {
+  if (auto bound = bindOfKind(form, control, widget, act)) return bound;
+  throw std::logic_error(std::string(form.name) + ": no widget for " + std::string(control.name));
+}
+
+std::unique_ptr<ControlBinding> bindTimer(Control& control, QObject& owner, Act act) {
+  return std::make_unique<TimerBinding>(control, owner, std::move(act));
+}
+
+}  // namespace nimbrel

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "desktop/desktop_opener.h"
+#include "desktop/file_types.h"
+#include "desktop/help_window.h"
+#include "desktop/main_view.h"
+#include "desktop/qt_asker.h"
+#include "desktop/user_settings.h"
+#include "platform/posix/host_file_system.h"
+
+namespace nimbrel {
+
+class Application;
+
+/// The whole desktop program: the ports to this system, the main window behind them, and its view.
+class DesktopProgram {
+ public:
+  /// `programFolder` is a host path. Shows the splash screen until the main window can be shown.
+  DesktopProgram(Application& application, const std::string& programFolder);
+
+  /// `commandLine` is the name of a menu file, or empty.
+  void start(const std::string& commandLine);
+
+  frmMain& main() { return main_; }
+  MainView& view() { return view_; }
+  HelpWindow& help() { return help_; }
+
+ private:
+  HostFileSystem files_;
+  QtAsker asker_;
+  UserSettings settings_;
+  DesktopOpener opener_;
+  HelpWindow help_;
+  FileTypes fileTypes_;
+  Ports ports_;
+  frmMain main_;
+  MainView view_;
+};
+
+}  // namespace nimbrel

@@ -1,0 +1,105 @@
+#include "desktop/file_types.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QSaveFile>
+#include <QStandardPaths>
+#include <array>
+
+#include "desktop/shown_text.h"
+
+namespace nimbrel {
+namespace {
+
+struct FileType {
+  const char* extension;
+  const char* mimeType;
+  const char* icon;
+};
+constexpr std::array types{FileType{".nbr", "application/x-nimbrel-menu", "nimbrel-document"},
+                           FileType{".nbs", "application/x-nimbrel-style", "nimbrel-style"}};
+
+/// Whether the file was written: it was not there, or said something else.
+bool writeIfNew(const QString& path, const QByteArray& bytes) {
+  QFile old(path);
+  if (old.open(QIODevice::ReadOnly) && old.readAll() == bytes) return false;
+  QDir().mkpath(QFileInfo(path).path());
+  QSaveFile file(path);
+  return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
+}
+
+QByteArray resource(const QString& name) {
+  QFile file(name);
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void runInBackground(const QString& tool, const QString& folder) {
+  const auto path = QStandardPaths::findExecutable(tool);
+  if (path.isEmpty()) return;
+  QProcess process;
+  process.setProgram(path);
+  process.setArguments({folder});
+  process.setStandardOutputFile(QProcess::nullDevice());
+  process.setStandardErrorFile(QProcess::nullDevice());
+  process.startDetached();
+}
+
+}  // namespace
+
+FileTypes::FileTypes(QString dataFolder, QString program)
+    : dataFolder_(std::move(dataFolder)), program_(std::move(program)) {}
+
+void FileTypes::CreateClassKey(std::string_view key) { values_.try_emplace(std::string(key)); }
+
+void FileTypes::SetClassValue(std::string_view key, std::string_view valueName, std::string_view value) {
+  if (valueName.empty()) values_[std::string(key)] = value;
+}
+
+std::string FileTypes::value(const std::string& key) const {
+  const auto found = values_.find(key);
+  return found == values_.end() ? std::string() : found->second;
+}
+
+QString FileTypes::mimeTypes() const {
+  QString text =
+      "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+      "<mime-info xmlns=\"http://www.freedesktop.org/standards/shared-mime-info\">\n";
+  for (const auto& type : types) {
+    text += QString(
+                "  <mime-type type=\"%1\">\n    <comment>%2</comment>\n    <icon name=\"%3\"/>\n"
+                "    <glob pattern=\"*%4\"/>\n  </mime-type>\n")
+                .arg(type.mimeType, shown(value(value(type.extension))).toHtmlEscaped(), type.icon,
+                     type.extension);
+  }
+  return text + "</mime-info>\n";
+}
+
+/// The style type opens nothing: its command takes no file.
+QString FileTypes::desktopEntry() const {
+  QStringList opened;
+  for (const auto& type : types) {
+    if (value(value(type.extension) + "\\shell\\open\\command").ends_with("%1")) opened += type.mimeType;
+  }
+  return QString(
+             "[Desktop Entry]\nType=Application\nName=Nimbrel\nGenericName=Menu Builder\n"
+             "Comment=Build the navigation menu of a web site\nExec=\"%1\" %f\nIcon=nimbrel\nTerminal=false\n"
+             "Categories=Development;WebDevelopment;\nMimeType=%2;\n")
+      .arg(QString(program_).replace('\\', "\\\\").replace('"', "\\\""), opened.join(';'));
+}
+
+void FileTypes::publish() const {
+  bool isNew = writeIfNew(dataFolder_ + "/mime/packages/nimbrel-user.xml", mimeTypes().toUtf8());
+  isNew |= writeIfNew(dataFolder_ + "/applications/nimbrel-user.desktop", desktopEntry().toUtf8());
+  const auto icons = dataFolder_ + "/icons/hicolor/scalable/";
+  isNew |= writeIfNew(icons + "apps/nimbrel.svg", resource(":/icons/nimbrel.svg"));
+  for (const auto& type : types) {
+    isNew |= writeIfNew(icons + "mimetypes/" + type.icon + ".svg",
+                        resource(QString(":/icons/%1.svg").arg(type.icon)));
+  }
+  if (!isNew) return;
+  runInBackground("update-mime-database", dataFolder_ + "/mime");
+  runInBackground("update-desktop-database", dataFolder_ + "/applications");
+}
+
+}  // namespace nimbrel

@@ -1,0 +1,116 @@
+#include "desktop/form_window.h"
+
+#include <QAbstractButton>
+#include <QCloseEvent>
+#include <QFile>
+#include <QLineEdit>
+#include <QTabBar>
+#include <QUiLoader>
+#include <QVBoxLayout>
+#include <stdexcept>
+
+#include "desktop/browser_view.h"
+#include "desktop/folder_view.h"
+#include "desktop/shown_text.h"
+
+namespace nimbrel {
+namespace {
+
+/// Knows the widgets that are ours, or that the loader cannot make.
+class Loader : public QUiLoader {
+ public:
+  QWidget* createWidget(const QString& className, QWidget* parent, const QString& name) override {
+    QWidget* made = nullptr;
+    if (className == "BrowserView") made = new BrowserView(parent);
+    if (className == "FolderView") made = new FolderView(parent);
+    if (className == "QTabBar") made = new QTabBar(parent);
+    if (made == nullptr) return QUiLoader::createWidget(className, parent, name);
+    made->setObjectName(name);
+    return made;
+  }
+};
+
+QString named(std::string_view name) {
+  return QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size()));
+}
+
+}  // namespace
+
+FormWindow::FormWindow(Form& form, QWidget* parent) : QDialog(parent), form_(form) {
+  QFile layout(":/forms/" + named(form.name) + ".ui");
+  Loader loader;
+  QWidget* content = layout.open(QIODevice::ReadOnly) ? loader.load(&layout, this) : nullptr;
+  if (content == nullptr) throw std::logic_error("no window for " + std::string(form.name));
+  auto* whole = new QVBoxLayout(this);
+  whole->addWidget(content);
+  setObjectName(named(form.name));
+  resize(content->size());
+  setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+  bind();
+}
+
+void FormWindow::bind() {
+  const auto carryOut = [this](const std::function<void()>& deed) { act(deed); };
+  for (auto* control : form_.controls()) {
+    auto* widget = findChild<QWidget*>(named(control->name));
+    if (control->kind == ControlKind::Timer) {
+      bindings_.push_back(bindTimer(*control, *this, carryOut));
+    } else if (widget != nullptr) {
+      bindings_.push_back(bindControl(form_, *control, *widget, carryOut));
+    }
+  }
+}
+
+/// What an event throws goes on to whoever reports it, with the window as the form says.
+void FormWindow::act(const std::function<void()>& deed) {
+  struct Refresh {
+    FormWindow& window;
+    ~Refresh() {
+      window.refresh();
+      emit window.acted();
+    }
+  } const whatever{*this};
+  deed();
+}
+
+void FormWindow::refresh() {
+  if (windowTitle() != shown(form_.caption)) setWindowTitle(shown(form_.caption));
+  for (const auto& binding : bindings_) binding->show();
+  focus();
+  if (!form_.isOpen && isVisible()) hide();
+}
+
+void FormWindow::focus() {
+  if (form_.toFocus == nullptr) return;
+  auto* widget = findChild<QWidget*>(named(form_.toFocus->name));
+  form_.toFocus = nullptr;
+  if (widget == nullptr) return;
+  widget->setFocus();
+  if (auto* edit = qobject_cast<QLineEdit*>(widget)) edit->selectAll();
+}
+
+void FormWindow::closeEvent(QCloseEvent* event) {
+  act([this] { form_.QueryClose(); });
+  event->setAccepted(!form_.isOpen);
+}
+
+/// The Escape key: the cancel button where there is one, else the close box.
+void FormWindow::reject() {
+  act([this] {
+    if (auto* cancel = form_.find(form_.cancelButton)) {
+      form_.click(*cancel);
+    } else {
+      form_.QueryClose();
+    }
+  });
+}
+
+void FormWindow::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_F1) {
+    emit helpWanted();
+    return;
+  }
+  QDialog::keyPressEvent(event);
+}
+
+}  // namespace nimbrel

@@ -1,0 +1,41 @@
+#include "desktop/icons.h"
+
+#include <QFile>
+#include <QPainter>
+#include <QPixmap>
+#include <QSvgRenderer>
+#include <array>
+
+namespace nimbrel {
+namespace {
+
+/// Pixels; between them the icon is scaled down.
+constexpr std::array sizes{16, 20, 24, 32, 48, 64, 96};
+
+QPixmap rendered(QSvgRenderer& drawing, int size, double opacity) {
+  QPixmap pixmap(size, size);
+  pixmap.fill(Qt::transparent);
+  QPainter painter(&pixmap);
+  painter.setOpacity(opacity);
+  drawing.render(&painter);
+  return pixmap;
+}
+
+}  // namespace
+
+QIcon drawnIcon(const QString& name, const QColor& ink) {
+  QFile file(":/icons/" + name + ".svg");
+  if (!file.open(QIODevice::ReadOnly)) return {};
+  QSvgRenderer drawing(file.readAll().replace("currentColor", ink.name().toLatin1()));
+  constexpr double paleness = 0.35;
+  QIcon icon;
+  for (const int size : sizes) {
+    icon.addPixmap(rendered(drawing, size, 1));
+    icon.addPixmap(rendered(drawing, size, paleness), QIcon::Disabled);
+  }
+  return icon;
+}
+
+QIcon applicationIcon() { return QIcon(":/icons/nimbrel.svg"); }
+
+}  // namespace nimbrel

@@ -1,0 +1,152 @@
+#include "desktop/qt_asker.h"
+
+#include <QColorDialog>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLoggingCategory>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <algorithm>
+
+#include "desktop/form_window.h"
+#include "desktop/shown_text.h"
+
+namespace nimbrel {
+namespace {
+
+Q_LOGGING_CATEGORY(quietSteps, "nimbrel.steps", QtWarningMsg)
+
+QMessageBox::Icon iconOf(BoxIcon icon) {
+  switch (icon) {
+    case BoxIcon::Critical: return QMessageBox::Critical;
+    case BoxIcon::Question: return QMessageBox::Question;
+    case BoxIcon::Information: return QMessageBox::Information;
+    default: return QMessageBox::Warning;
+  }
+}
+
+QMessageBox::StandardButton buttonOf(BoxButton button) {
+  switch (button) {
+    case BoxButton::Yes: return QMessageBox::Yes;
+    case BoxButton::No: return QMessageBox::No;
+    case BoxButton::Cancel: return QMessageBox::Cancel;
+    case BoxButton::Help: return QMessageBox::Help;
+    default: return QMessageBox::Ok;
+  }
+}
+
+/// What the Escape key and the close box answer: the last button that takes nothing on.
+BoxButton escapeOf(const MessageBox& box) {
+  for (const auto button : {BoxButton::Cancel, BoxButton::No}) {
+    if (std::ranges::find(box.buttons, button) != box.buttons.end()) return button;
+  }
+  return box.buttons.front();
+}
+
+}  // namespace
+
+QString fileFilter(std::string_view filter) {
+  const auto parts = shown(filter).split('|');
+  auto patterns = parts.value(1);
+  auto description = parts.value(0);
+  description.remove(QRegularExpression(R"(\s*\([^)]*\)\s*$)"));
+  return description + " (" + patterns.replace(';', ' ') + ")";
+}
+
+/// Tells when the first wait begins and the last one ends.
+class QtAsker::Wait {
+ public:
+  explicit Wait(QtAsker& asker) : asker_(asker) {
+    if (asker_.waits_++ == 0 && asker_.waiting_) asker_.waiting_(true);
+  }
+  Wait(const Wait&) = delete;
+  Wait& operator=(const Wait&) = delete;
+  ~Wait() {
+    if (--asker_.waits_ == 0 && asker_.waiting_) asker_.waiting_(false);
+  }
+
+ private:
+  QtAsker& asker_;
+};
+
+QWidget* QtAsker::owner() const {
+  for (auto it = open_.rbegin(); it != open_.rend(); ++it) {
+    if ((*it)->isVisible()) return *it;
+  }
+  return main_;
+}
+
+void QtAsker::hideClosed() {
+  for (auto* window : open_) {
+    if (!window->form().isOpen) window->hide();
+  }
+}
+
+BoxButton QtAsker::MsgBox(const MessageBox& box) {
+  const Wait wait(*this);
+  hideClosed();
+  while (true) {
+    QMessageBox window(iconOf(box.icon), shown(box.title),
+                       shown(box.text).replace("\r\n", "\n").replace('\r', '\n'), QMessageBox::NoButton,
+                       owner());
+    window.setTextFormat(Qt::PlainText);
+    for (const auto button : box.buttons) window.addButton(buttonOf(button));
+    window.setDefaultButton(buttonOf(box.standard()));
+    window.setEscapeButton(buttonOf(escapeOf(box)));
+    window.setWindowModality(Qt::WindowModal);
+    window.exec();
+    const auto chosen = window.standardButton(window.clickedButton());
+    const auto answer = std::ranges::find(box.buttons, chosen, buttonOf);
+    if (answer == box.buttons.end()) return escapeOf(box);
+    if (*answer != BoxButton::Help) return *answer;
+    if (help_ != nullptr) help_->openTopic(box.helpTopic);
+  }
+}
+
+std::optional<std::string> QtAsker::chooseFile(const FileDialog& dialog) {
+  const Wait wait(*this);
+  hideClosed();
+  QFileDialog window(owner(), shown(dialog.title), shownPath(dialog.folder), fileFilter(dialog.filter));
+  if (!dialog.name.empty()) window.selectFile(shownPath(dialog.name));
+  if (dialog.kind == FileDialog::Save) {
+    window.setAcceptMode(QFileDialog::AcceptSave);
+    window.setOption(QFileDialog::DontConfirmOverwrite);  // the form asks, in its own words
+    const auto pattern = shown(dialog.filter).section('|', 1);
+    window.setDefaultSuffix(QFileInfo(pattern).suffix());
+  } else {
+    window.setFileMode(QFileDialog::AnyFile);  // likewise where there is none of that name
+  }
+  if (window.exec() != QDialog::Accepted || window.selectedFiles().isEmpty()) return std::nullopt;
+  return heldPath(window.selectedFiles().constFirst());
+}
+
+std::optional<std::uint32_t> QtAsker::chooseColour() {
+  const Wait wait(*this);
+  const auto colour = QColorDialog::getColor(Qt::white, owner(), QWidget::tr("Choose Color"));
+  if (!colour.isValid()) return std::nullopt;
+  constexpr unsigned byte = 8;
+  return static_cast<std::uint32_t>(colour.red()) | static_cast<std::uint32_t>(colour.green()) << byte |
+         static_cast<std::uint32_t>(colour.blue()) << 2 * byte;
+}
+
+void QtAsker::ShowModal(Form& form) {
+  const Wait wait(*this);
+  hideClosed();
+  FormWindow window(form, owner());
+  QObject::connect(&window, &FormWindow::helpWanted, &window, [this] {
+    if (help_ != nullptr) help_->openContents();
+  });
+  form.isOpen = true;
+  window.setWindowModality(Qt::WindowModal);
+  window.refresh();
+  open_.push_back(&window);
+  if (form.isOpen) window.exec();
+  std::erase(open_, &window);
+}
+
+void QtAsker::noteFailure(const Finding& finding) {
+  qCInfo(quietSteps).noquote() << shownPath(finding.path) << shown(finding.text());
+}
+
+}  // namespace nimbrel

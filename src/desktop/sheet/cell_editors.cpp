@@ -1,0 +1,148 @@
+#include "desktop/sheet/cell_editors.h"
+
+#include "desktop/shown_text.h"
+
+namespace nimbrel {
+
+CellEditors::CellEditors(PropertySheet& sheet, QWidget& cells, IconSource icons, Act act)
+    : sheet_(sheet),
+      cells_(cells),
+      icons_(std::move(icons)),
+      act_(std::move(act)),
+      entry_(&cells),
+      list_(&cells) {
+  list_.setObjectName("lstList");
+  addButton(sheet.btnCombo, "drop-down", {}, QWidget::tr("Open the list"));
+  addButton(sheet.btnFile, "browse-file", {}, QWidget::tr("Choose Image File"));
+  addButton(sheet.btnColour, "pick-colour", {}, QWidget::tr("Choose Color"));
+  addButton(sheet.btnFontSize, "font-size", {}, QWidget::tr("Set Font Size"));
+  const auto replicate = QWidget::tr("Copies the \"Normal\" state property value into the other two states");
+  addButton(sheet.btnReplicate, "replicate", replicate, replicate);
+  connectAll();
+}
+
+void CellEditors::addButton(Control& control, const char* icon, const QString& toolTip, const QString& name) {
+  auto* button = new QToolButton(&cells_);
+  button->setObjectName(shown(control.name));
+  button->setToolTip(toolTip);
+  button->setAccessibleName(name);
+  button->setFocusPolicy(Qt::NoFocus);  // what is typed goes on to the entry
+  button->setCursor(Qt::ArrowCursor);
+  button->setAutoFillBackground(true);
+  button->hide();
+  QObject::connect(button, &QToolButton::clicked, button, [this, &control] {
+    act_([this, &control] { sheet_.click(control); });
+    focusEntry();
+  });
+  buttons_.push_back({control, icon, button});
+}
+
+void CellEditors::connectAll() {
+  QObject::connect(&entry_, &QLineEdit::textEdited, &entry_, [this](const QString& text) {
+    act_([&] { sheet_.type(isPath() ? heldPath(text) : held(text)); });
+  });
+  QObject::connect(&entry_, &EntryEdit::clicked, &entry_, [this] {
+    if (sheet_.btnCombo.visible) act_([this] { sheet_.txtEntry_Click(); });
+  });
+  QObject::connect(&entry_, &EntryEdit::searched, &entry_, [this](const QString& typed) { search(typed); });
+  QObject::connect(&list_, &ListPopup::chosen, &list_, [this](int entry) { choose(entry); });
+  QObject::connect(&list_, &ListPopup::closed, &list_, [this] {
+    if (openList() != nullptr) act_([this] { sheet_.btnCombo_Click(); });
+  });
+}
+
+void CellEditors::drawIcons(int side) {
+  constexpr int margin = 8;
+  for (const auto& button : buttons_) {
+    button.widget->setIcon(icons_(button.icon));
+    button.widget->setIconSize(QSize(side - margin, side - margin));
+  }
+}
+
+bool CellEditors::isPath() const { return sheet_.row(sheet_.cursorRow()).Kind() == KindFile; }
+
+Control* CellEditors::openList() const {
+  for (auto* list : {&sheet_.lstList, &sheet_.lstSortedList}) {
+    if (list->visible) return list;
+  }
+  return nullptr;
+}
+
+void CellEditors::place(const QRect& entry, const QRect& button, const QRect& replicate) {
+  entry_.setGeometry(entry);
+  for (const auto& one : buttons_) {
+    one.widget->setGeometry(&one.control == &sheet_.btnReplicate ? replicate : button);
+  }
+}
+
+void CellEditors::refresh(const QString& name, const QRect& listPlace) {
+  if (sheet_.txtEntry.visible) {
+    if (entry_.accessibleName() != name) entry_.setAccessibleName(name);
+    if (entry_.isReadOnly() != sheet_.entryIsReadOnly()) entry_.setReadOnly(sheet_.entryIsReadOnly());
+    showText();
+  }
+  // The focus must not wander on to whatever comes next.
+  if (!sheet_.txtEntry.visible && entry_.hasFocus()) cells_.parentWidget()->setFocus(Qt::OtherFocusReason);
+  entry_.setVisible(sheet_.txtEntry.visible);
+  for (const auto& button : buttons_) button.widget->setVisible(button.control.visible);
+  showList(listPlace);
+}
+
+/// What is being typed stays as it is where it says the same.
+void CellEditors::showText() {
+  const auto typed = entry_.text();
+  if ((isPath() ? heldPath(typed) : held(typed)) == sheet_.txtEntry.text) return;
+  entry_.setText(isPath() ? shownPath(sheet_.txtEntry.text) : shown(sheet_.txtEntry.text));
+}
+
+void CellEditors::showList(const QRect& listPlace) {
+  auto* open = openList();
+  if (open == nullptr) {
+    list_.hide();
+  } else if (!list_.isVisible()) {
+    list_.fill(open->list);
+    list_.mark(shown(sheet_.txtEntry.text));
+    const QRect opener(entry_.mapToGlobal(QPoint()),
+                       buttons_.front().widget->mapToGlobal(buttons_.front().widget->rect().bottomRight()));
+    list_.open(listPlace, opener);
+  }
+}
+
+void CellEditors::choose(int entry) {
+  act_([&] {
+    if (auto* list = openList()) sheet_.choose(*list, {static_cast<std::size_t>(entry)});
+  });
+  focusEntry();
+}
+
+/// The list is closed, and the entry that fits is taken at once.
+void CellEditors::search(const QString& typed) {
+  if (!sheet_.btnCombo.visible) return;
+  const auto& list =
+      sheet_.row(sheet_.cursorRow()).Kind() == KindSortedList ? sheet_.lstSortedList : sheet_.lstList;
+  list_.fill(list.list);
+  list_.mark(shown(sheet_.txtEntry.text));
+  const int entry = list_.search(typed);
+  if (entry >= 0) act_([&] { sheet_.type(list.list[static_cast<std::size_t>(entry)]); });
+}
+
+void CellEditors::pressButton() {
+  for (const auto& button : buttons_) {
+    if (button.control.visible && &button.control != &sheet_.btnReplicate) {
+      button.widget->click();
+      return;
+    }
+  }
+}
+
+void CellEditors::focusEntry() {
+  if (entry_.isHidden()) return;
+  entry_.setFocus(Qt::OtherFocusReason);
+  if (sheet_.btnCombo.visible) {
+    entry_.deselect();  // it is for choosing
+  } else {
+    entry_.selectAll();
+  }
+}
+
+}  // namespace nimbrel

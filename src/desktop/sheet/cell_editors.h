@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QIcon>
+#include <QToolButton>
+#include <functional>
+#include <vector>
+
+#include "desktop/sheet/entry_edit.h"
+#include "desktop/sheet/list_popup.h"
+#include "properties/property_sheet.h"
+#include "properties/sheet_geometry.h"
+
+namespace nimbrel {
+
+/// A drawing by its name, in the ink of the palette of now.
+using IconSource = std::function<QIcon(const char* name)>;
+
+/// What floats over the open cell: the entry, the small buttons and the list. It shows what the sheet's controls
+/// say. What the author does goes to the sheet through `act`, which is handed the deed to carry it out.
+class CellEditors {
+ public:
+  using Act = std::function<void(const std::function<void()>&)>;
+
+  /// `cells` is where the grid draws its cells; what leaves it is cut off there.
+  CellEditors(PropertySheet& sheet, QWidget& cells, IconSource icons, Act act);
+
+  /// Texts and visibility, then the list, which drops down at `listPlace` on the screen.
+  void refresh(const QString& name, const QRect& listPlace);
+  /// Places within `cells`.
+  void place(const QRect& entry, const QRect& button, const QRect& replicate);
+  void drawIcons(int side);
+
+  EntryEdit& entry() { return entry_; }
+  ListPopup& list() { return list_; }
+  /// Presses the button of the open cell's kind, if it has one.
+  void pressButton();
+  /// A clicked button has its cell typed into again; all of the text is selected.
+  void focusEntry();
+
+ private:
+  struct Button {
+    Control& control;
+    const char* icon;
+    QToolButton* widget;
+  };
+
+  void addButton(Control& control, const char* icon, const QString& toolTip, const QString& name);
+  void connectAll();
+  bool isPath() const;
+  Control* openList() const;
+  void showText();
+  void showList(const QRect& listPlace);
+  void choose(int entry);
+  void search(const QString& typed);
+
+  PropertySheet& sheet_;
+  QWidget& cells_;
+  IconSource icons_;
+  Act act_;
+  EntryEdit entry_;
+  ListPopup list_;
+  std::vector<Button> buttons_;
+};
+
+}  // namespace nimbrel

@@ -1,0 +1,137 @@
+#include "desktop/sheet/cell_painter.h"
+
+#include <QAbstractItemView>
+#include <QHelpEvent>
+#include <QPainter>
+#include <QToolTip>
+
+#include "desktop/sheet/swatch.h"
+
+namespace nimbrel {
+namespace {
+
+constexpr int right = 3;      // pixels behind a text
+constexpr int textTop = 3;    // pixels, as the entry has it
+constexpr int longest = 500;  // characters, more than any cell shows
+
+constexpr QRgb groupCaption = 0xFF808080;
+constexpr QRgb groupValue = 0xFFD0D0D0;
+constexpr QRgb unusable = 0xFFEEEEEE;
+
+bool isDark(const QPalette& palette) {
+  constexpr int middle = 128;
+  return palette.color(QPalette::Base).lightness() < middle;
+}
+
+/// A light palette takes the fixed grey, a dark one is lightened as much as white is darkened by it.
+QColor grey(const QPalette& palette, QRgb fixed) {
+  if (!isDark(palette)) return QColor::fromRgb(fixed);
+  const auto base = palette.color(QPalette::Base);
+  const auto text = palette.color(QPalette::Text);
+  const int share = 255 - qRed(fixed);
+  const auto mixed = [share](int from, int to) { return from + (to - from) * share / 255; };
+  return {mixed(base.red(), text.red()), mixed(base.green(), text.green()), mixed(base.blue(), text.blue())};
+}
+
+}  // namespace
+
+struct CellPainter::Colours {
+  QColor background;
+  QColor text;
+};
+
+CellPainter::CellPainter(const SheetModel& model, QObject* parent)
+    : QStyledItemDelegate(parent), model_(model) {}
+
+QFont CellPainter::captionFont(const PropertyRow& row, QFont font) {
+  font.setBold(row.Kind() == KindGroup);
+  font.setUnderline(row.Kind() == KindGroup);
+  return font;
+}
+
+CellPainter::Colours CellPainter::coloursOf(const QStyleOptionViewItem& option,
+                                            const QModelIndex& index) const {
+  const auto& palette = option.palette;
+  const auto& sheet = model_.sheet();
+  const auto& row = sheet.row(index.row());
+  const Colours marked{palette.color(QPalette::Highlight), palette.color(QPalette::HighlightedText)};
+  const auto text = palette.color(QPalette::Text);
+  if (index.column() == column::Caption) {
+    if (row.Kind() == KindGroup) return {QColor::fromRgb(groupCaption), Qt::white};
+    if (sheet.Editing() && sheet.cursorRow() == index.row()) return marked;
+    return {palette.color(QPalette::Window), palette.color(QPalette::WindowText)};
+  }
+  if (row.Kind() == KindGroup) return {grey(palette, groupValue), text};
+  const bool isUsed = index.column() == column::Replicate ? row.OnlyColumn == 0 : row.takes(index.column());
+  if (!isUsed) return {grey(palette, unusable), text};
+  const bool isCurrent = (option.state & QStyle::State_HasFocus) != 0;
+  if (isCurrent && !model_.isOpen(index.row(), index.column())) return marked;
+  return {palette.color(QPalette::Base), text};
+}
+
+bool CellPainter::isColour(const QModelIndex& index) const {
+  const auto& row = model_.sheet().row(index.row());
+  return row.Kind() == KindColour && index.column() != column::Caption &&
+         index.column() != column::Replicate && row.takes(index.column());
+}
+
+QRect CellPainter::textPlace(const QRect& cell, const QModelIndex& index) const {
+  return cell.adjusted(inset + (isColour(index) ? cell.height() : 0), textTop, -right, 0);
+}
+
+void CellPainter::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                        const QModelIndex& index) const {
+  const auto colours = coloursOf(option, index);
+  const auto& cell = option.rect;
+  painter->save();
+  painter->fillRect(cell, colours.background);
+  if (isColour(index)) {
+    const QRect square(cell.topLeft(), QSize(cell.height(), cell.height()));
+    paintSwatch(*painter, square, model_.sheet().swatch(index.row(), index.column()),
+                isDark(option.palette) ? option.palette.color(QPalette::Text) : Qt::black);
+  }
+  const bool isCaption = index.column() == column::Caption;
+  painter->setFont(isCaption ? captionFont(model_.sheet().row(index.row()), option.font) : option.font);
+  painter->setPen(colours.text);
+  const auto place = textPlace(cell, index);
+  const auto text = index.data().toString().left(longest).replace('\n', ' ');
+  painter->drawText(place, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
+                    painter->fontMetrics().elidedText(text, Qt::ElideRight, place.width()));
+  painter->restore();
+}
+
+bool CellPainter::helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                            const QModelIndex& index) {
+  if (event->type() != QEvent::ToolTip || !index.isValid()) return false;
+  const auto text = index.data().toString().left(longest).trimmed();
+  const bool isCut = option.fontMetrics.horizontalAdvance(text) > textPlace(option.rect, index).width();
+  // A name may hold tags; they are to be read, not obeyed.
+  QToolTip::showText(event->globalPos(), isCut ? "<p>" + text.toHtmlEscaped() + "</p>" : QString(), view);
+  return true;
+}
+
+StateHeader::StateHeader(const PropertySheet& sheet, QWidget* parent)
+    : QHeaderView(Qt::Horizontal, parent), sheet_(sheet) {
+  setSectionResizeMode(Fixed);
+  setSectionsClickable(false);
+  setHighlightSections(false);
+  setMinimumSectionSize(1);
+}
+
+void StateHeader::paintSection(QPainter* painter, const QRect& place, int logicalIndex) const {
+  if (!sheet_.Editing() || sheet_.cursorColumn() != logicalIndex) {
+    painter->save();
+    QHeaderView::paintSection(painter, place, logicalIndex);
+    painter->restore();
+    return;
+  }
+  QFont bold = font();
+  bold.setBold(true);
+  painter->fillRect(place, palette().color(QPalette::Highlight));
+  painter->setPen(palette().color(QPalette::HighlightedText));
+  painter->setFont(bold);
+  painter->drawText(place, Qt::AlignCenter | Qt::TextSingleLine,
+                    model()->headerData(logicalIndex, Qt::Horizontal).toString());
+}
+
+}  // namespace nimbrel

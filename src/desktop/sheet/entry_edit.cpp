@@ -1,0 +1,94 @@
+#include "desktop/sheet/entry_edit.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <array>
+#include <optional>
+
+namespace nimbrel {
+namespace {
+
+struct KeyCommand {
+  int key;
+  Qt::KeyboardModifiers modifiers;
+  EntryCommand command;
+};
+
+constexpr std::array keyCommands{
+    KeyCommand{Qt::Key_Return, Qt::NoModifier, EntryCommand::Below},
+    KeyCommand{Qt::Key_Enter, Qt::NoModifier, EntryCommand::Below},
+    KeyCommand{Qt::Key_Down, Qt::NoModifier, EntryCommand::Below},
+    KeyCommand{Qt::Key_Up, Qt::NoModifier, EntryCommand::Above},
+    KeyCommand{Qt::Key_PageDown, Qt::NoModifier, EntryCommand::PageDown},
+    KeyCommand{Qt::Key_PageUp, Qt::NoModifier, EntryCommand::PageUp},
+    KeyCommand{Qt::Key_Escape, Qt::NoModifier, EntryCommand::TakeBack},
+    KeyCommand{Qt::Key_F4, Qt::NoModifier, EntryCommand::PressButton},
+    KeyCommand{Qt::Key_Down, Qt::AltModifier, EntryCommand::PressButton},
+    KeyCommand{Qt::Key_R, Qt::ControlModifier, EntryCommand::Replicate},
+    KeyCommand{Qt::Key_Tab, Qt::ControlModifier, EntryCommand::GoToLinks},
+    KeyCommand{Qt::Key_F6, Qt::NoModifier, EntryCommand::GoToLinks},
+};
+
+std::optional<EntryCommand> commandOf(const QKeyEvent& event) {
+  const auto modifiers = event.modifiers() & ~Qt::KeypadModifier;
+  for (const auto& entry : keyCommands) {
+    if (entry.key == event.key() && entry.modifiers == modifiers) return entry.command;
+  }
+  return std::nullopt;
+}
+
+/// The window's own commands of these keys are about the tree.
+bool isEditing(const QKeyEvent& event) {
+  return event.matches(QKeySequence::Cut) || event.matches(QKeySequence::Paste) ||
+         event.matches(QKeySequence::Undo) || event.matches(QKeySequence::Redo) ||
+         event.matches(QKeySequence::Delete);
+}
+
+bool isTyped(const QKeyEvent& event) {
+  return !event.text().isEmpty() && event.text().front().isPrint() &&
+         (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == 0;
+}
+
+}  // namespace
+
+EntryEdit::EntryEdit(QWidget* parent) : QLineEdit(parent) {
+  setObjectName("txtEntry");
+  setFrame(false);
+  setFocusPolicy(Qt::ClickFocus);  // the table's turn in the order of the tabulator is the entry's
+  hide();
+}
+
+bool EntryEdit::event(QEvent* event) {
+  if (event->type() == QEvent::ShortcutOverride) {
+    const auto& key = static_cast<QKeyEvent&>(*event);
+    if (commandOf(key) || isEditing(key)) {
+      event->accept();
+      return true;
+    }
+  }
+  return QLineEdit::event(event);
+}
+
+void EntryEdit::keyPressEvent(QKeyEvent* event) {
+  if (const auto command = commandOf(*event)) {
+    emit commanded(*command);
+  } else if (isReadOnly() && event->key() == Qt::Key_Space) {
+    emit commanded(EntryCommand::PressButton);
+  } else if (isReadOnly() && isTyped(*event)) {
+    emit searched(event->text());
+  } else {
+    QLineEdit::keyPressEvent(event);
+  }
+}
+
+void EntryEdit::mousePressEvent(QMouseEvent* event) {
+  QLineEdit::mousePressEvent(event);
+  if (event->button() == Qt::LeftButton) emit clicked();
+}
+
+bool EntryEdit::focusNextPrevChild(bool next) {
+  emit commanded(next ? EntryCommand::Next : EntryCommand::Previous);
+  return true;
+}
+
+}  // namespace nimbrel

@@ -1,0 +1,143 @@
+#include "desktop/sheet/help_panel.h"
+
+#include <QKeyEvent>
+#include <QStyleOptionFocusRect>
+#include <QStylePainter>
+#include <algorithm>
+
+#include "desktop/shown_text.h"
+#include "desktop/twips.h"
+
+namespace nimbrel {
+namespace {
+
+constexpr int labelLeft = 4;  // pixels, so that a text does not touch the window's edge
+
+/// The usual blue cannot be read on a dark ground.
+QColor linkColour(const QPalette& palette) {
+  constexpr int middle = 128;
+  const auto link = palette.color(QPalette::Link);
+  const bool isDark = palette.color(QPalette::Window).lightness() < middle;
+  constexpr QRgb lightBlue = 0xFF8AB4F8;
+  return isDark && link.lightness() <= middle ? QColor::fromRgb(lightBlue) : link;
+}
+
+void setTextOf(QLabel& label, const QString& text) {
+  if (label.text() != text) label.setText(text);
+}
+
+}  // namespace
+
+LinkLabel::LinkLabel(QWidget* parent) : QLabel(parent) {
+  setTextFormat(Qt::RichText);
+  setFocusPolicy(Qt::TabFocus);  // a click leaves the focus to the entry
+  connect(this, &QLabel::linkActivated, this, &LinkLabel::followed);
+}
+
+void LinkLabel::setLink(const QString& text) {
+  const auto colour = linkColour(palette()).name();
+  setTextOf(*this, "<a href=\"#\" style=\"color:" + colour + "\">" + text.toHtmlEscaped() + "</a>");
+  setAccessibleName(text);
+}
+
+void LinkLabel::keyPressEvent(QKeyEvent* event) {
+  const int key = event->key();
+  if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space) {
+    emit followed();
+  } else {
+    QLabel::keyPressEvent(event);
+  }
+}
+
+void LinkLabel::paintEvent(QPaintEvent* event) {
+  QLabel::paintEvent(event);
+  if (!hasFocus()) return;
+  QStyleOptionFocusRect option;
+  option.initFrom(this);
+  QStylePainter(this).drawPrimitive(QStyle::PE_FrameFocusRect, option);
+}
+
+HelpPanel::HelpPanel(PropertySheet& sheet, Act act, QWidget* parent)
+    : QWidget(parent),
+      sheet_(sheet),
+      act_(std::move(act)),
+      caption_(this),
+      text_(this),
+      moreHelp_(this),
+      example_(this) {
+  setObjectName("HelpPanel");
+  caption_.setObjectName("HelpLabel1");
+  text_.setObjectName("HelpLabel2");
+  for (auto* label : {&caption_, &text_}) label->setTextFormat(Qt::PlainText);
+  QFont bold = font();
+  bold.setBold(true);
+  caption_.setFont(bold);
+  text_.setWordWrap(true);
+  text_.setAlignment(Qt::AlignTop | Qt::AlignLeft);
+  prepareLink(moreHelp_, sheet.lblMoreHelpLink);
+  prepareLink(example_, sheet.lblExamplesLink);
+  example_.setToolTip(tr("Click here for a live demonstration of the selected property"));
+}
+
+void HelpPanel::prepareLink(LinkLabel& link, Control& control) {
+  link.setObjectName(shown(control.name));
+  connect(&link, &LinkLabel::followed, &link,
+          [this, &control] { act_([this, &control] { sheet_.click(control); }); });
+}
+
+void HelpPanel::showLink(LinkLabel& link, const Control& control) {
+  link.setLink(shown(control.text));
+  link.setVisible(control.visible);
+}
+
+void HelpPanel::refresh() {
+  setTextOf(caption_, shown(sheet_.HelpLabel1.text));
+  const auto text = shown(sheet_.HelpLabel2.text);
+  setTextOf(text_, text);
+  // The panel may cut it off.
+  const auto toolTip = text.isEmpty() ? text : "<p>" + text.toHtmlEscaped() + "</p>";
+  if (text_.toolTip() != toolTip) text_.setToolTip(toolTip);
+  showLink(moreHelp_, sheet_.lblMoreHelpLink);
+  showLink(example_, sheet_.lblExamplesLink);
+  placeCaption();
+}
+
+void HelpPanel::layOut(const SheetLayout& layout) {
+  setGeometry(toPixels(layout.HelpPanel.left), toPixels(layout.HelpPanel.top),
+              toPixels(layout.HelpPanel.width), toPixels(layout.HelpPanel.height));
+  const int line = toPixels(layout.HelpLabel1.height);
+  caption_.setGeometry(labelLeft, 0, toPixels(layout.HelpLabel1.width), line);
+  text_.setGeometry(labelLeft, line, toPixels(layout.HelpLabel2.width), toPixels(layout.HelpLabel2.height));
+  const auto endAt = [line](QLabel& link, int right) {
+    const int width = link.sizeHint().width();
+    link.setGeometry(right - width, 0, width, line);
+    link.raise();
+  };
+  endAt(example_, toPixels(layout.lblExamplesLinkRight));
+  endAt(moreHelp_, toPixels(layout.lblMoreHelpLinkRight));
+  placeCaption();
+}
+
+/// The links stand in the caption's line; it ends ahead of them.
+void HelpPanel::placeCaption() {
+  constexpr int gap = 8;
+  const int end = moreHelp_.isHidden() ? width() : moreHelp_.x() - gap;
+  caption_.resize(std::max(end - caption_.x(), 0), caption_.height());
+}
+
+bool HelpPanel::focusLinks() {
+  for (auto* link : {&moreHelp_, &example_}) {
+    if (!link->isHidden()) {
+      link->setFocus(Qt::TabFocusReason);
+      return true;
+    }
+  }
+  return false;
+}
+
+void HelpPanel::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) refresh();
+}
+
+}  // namespace nimbrel

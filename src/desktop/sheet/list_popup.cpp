@@ -1,0 +1,111 @@
+#include "desktop/sheet/list_popup.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QScreen>
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+#include "desktop/shown_text.h"
+
+namespace nimbrel {
+namespace {
+
+constexpr int spacing = 2;  // pixels between entries, as the sheet's geometry has it
+
+}  // namespace
+
+ListPopup::ListPopup(QWidget* parent) : QFrame(parent, Qt::Popup) {
+  setFrameStyle(Box | Plain);
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(&list_);
+  list_.setObjectName("entries");
+  list_.setFrameShape(NoFrame);
+  list_.setUniformItemSizes(true);
+  list_.setMouseTracking(true);
+  list_.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  list_.installEventFilter(this);
+  setFocusProxy(&list_);
+  connect(&list_, &QListWidget::itemEntered, &list_,
+          [this](QListWidgetItem* item) { list_.setCurrentItem(item); });
+  connect(&list_, &QListWidget::clicked, this,
+          [this](const QModelIndex& index) { emit chosen(index.row()); });
+}
+
+void ListPopup::fill(const std::vector<std::string>& texts) {
+  if (texts_ == texts) return;
+  texts_ = texts;
+  list_.clear();
+  widest_ = 0;
+  constexpr int margin = 8;  // pixels at both sides
+  const int height = list_.fontMetrics().height() + spacing;
+  for (const auto& text : texts) {
+    auto* item = new QListWidgetItem(shown(text), &list_);
+    widest_ = std::max(widest_, list_.fontMetrics().horizontalAdvance(item->text()) + margin);
+    item->setSizeHint(QSize(1, height));
+  }
+}
+
+void ListPopup::mark(const QString& text) {
+  const auto found = list_.findItems(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
+  list_.setCurrentItem(found.isEmpty() ? nullptr : found.constFirst());
+}
+
+int ListPopup::search(const QString& typed) {
+  list_.keyboardSearch(typed);
+  return list_.currentRow();
+}
+
+void ListPopup::open(const QRect& inner, const QRect& opener) {
+  opener_ = opener;
+  const int frame = 2 * frameWidth();
+  const int bar = list_.verticalScrollBar()->sizeHint().width();
+  QRect place(inner.topLeft(), QSize(std::max(inner.width(), widest_ + bar + frame), inner.height() + frame));
+  const auto available = parentWidget()->screen()->availableGeometry();
+  place.setSize(place.size().boundedTo(available.size()));
+  place.moveLeft(std::clamp(place.left(), available.left(), available.right() + 1 - place.width()));
+  place.moveTop(std::clamp(place.top(), available.top(), available.bottom() + 1 - place.height()));
+  setGeometry(place);
+  show();
+  list_.setFocus(Qt::PopupFocusReason);
+  if (list_.currentItem() != nullptr) list_.scrollToItem(list_.currentItem());
+}
+
+/// Comes here only from outside of the list.
+void ListPopup::mousePressEvent(QMouseEvent* event) {
+  if (opener_.contains(event->globalPosition().toPoint())) setAttribute(Qt::WA_NoMouseReplay);
+  QFrame::mousePressEvent(event);
+}
+
+void ListPopup::hideEvent(QHideEvent* event) {
+  QFrame::hideEvent(event);
+  emit closed();
+}
+
+bool ListPopup::focusNextPrevChild(bool) { return press(Qt::Key_Return); }
+
+bool ListPopup::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() != QEvent::KeyPress) return QFrame::eventFilter(watched, event);
+  return press(static_cast<QKeyEvent*>(event)->key()) || QFrame::eventFilter(watched, event);
+}
+
+bool ListPopup::press(int key) {
+  switch (key) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Tab:
+      if (list_.currentRow() >= 0) {
+        emit chosen(list_.currentRow());
+      } else {
+        hide();
+      }
+      return true;
+    case Qt::Key_Escape:
+    case Qt::Key_F4: hide(); return true;
+    case Qt::Key_F1: emit helpWanted(); return true;
+    default: return false;
+  }
+}
+
+}  // namespace nimbrel

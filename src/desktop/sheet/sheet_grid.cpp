@@ -1,0 +1,137 @@
+#include "desktop/sheet/sheet_grid.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <algorithm>
+
+#include "desktop/shown_text.h"
+
+namespace nimbrel {
+namespace {
+
+bool isModifier(int key) {
+  return key == Qt::Key_Shift || key == Qt::Key_Control || key == Qt::Key_Alt || key == Qt::Key_AltGr ||
+         key == Qt::Key_Meta;
+}
+
+}  // namespace
+
+SheetGrid::SheetGrid(SheetModel& model, QWidget* parent)
+    : QTableView(parent), sheetModel_(model), painter_(model) {
+  setObjectName("Grid");
+  setHorizontalHeader(new StateHeader(model.sheet(), this));
+  setModel(&model);
+  setItemDelegate(&painter_);
+  setAccessibleName(shown(model.sheet().table().title));
+  horizontalHeader()->setVisible(model.sheet().table().hasStates);
+  verticalHeader()->hide();
+  verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setVerticalScrollMode(ScrollPerPixel);
+  setSelectionMode(NoSelection);
+  setEditTriggers(NoEditTriggers);
+  setTabKeyNavigation(false);  // from a closed cell the tabulator leaves the table
+  setCornerButtonEnabled(false);
+  setWordWrap(false);
+}
+
+void SheetGrid::setRowHeight(int pixels) {
+  verticalHeader()->setMinimumSectionSize(pixels);
+  verticalHeader()->setDefaultSectionSize(pixels);
+}
+
+CellPlace SheetGrid::current() const { return {currentIndex().row(), currentIndex().column()}; }
+
+void SheetGrid::goTo(CellPlace place) {
+  const auto index = model()->index(place.row, place.column);
+  setCurrentIndex(index);
+  scrollTo(index);
+}
+
+int SheetGrid::rowsInSight() const {
+  return std::max(viewport()->height() / std::max(verticalHeader()->defaultSectionSize(), 1), 1);
+}
+
+void SheetGrid::mousePressEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
+  const auto index = indexAt(event->position().toPoint());
+  emit pressed(index.row(), index.column());
+}
+
+/// No other cell becomes current while the button is down.
+void SheetGrid::mouseMoveEvent(QMouseEvent* event) {
+  if (event->buttons() == Qt::NoButton) QTableView::mouseMoveEvent(event);
+}
+
+bool SheetGrid::isForCell(const QKeyEvent& event) const {
+  if (sheetModel_.sheet().Editing()) return event.key() != Qt::Key_F1 && !isModifier(event.key());
+  switch (event.key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_F2:
+    case Qt::Key_F4:
+    case Qt::Key_Backspace:
+    case Qt::Key_Delete: return true;
+    case Qt::Key_Down: return (event.modifiers() & Qt::AltModifier) != 0;
+    default: break;
+  }
+  return !event.text().isEmpty() && event.text().front().isPrint() &&
+         (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == 0;
+}
+
+void SheetGrid::keyPressEvent(QKeyEvent* event) {
+  if (isForCell(*event)) {
+    emit keyForCell(event);
+  } else {
+    QTableView::keyPressEvent(event);
+  }
+}
+
+void SheetGrid::focusInEvent(QFocusEvent* event) {
+  QTableView::focusInEvent(event);
+  const auto reason = event->reason();
+  if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason) {
+    emit reachedByKeyboard();
+  }
+}
+
+void SheetGrid::resizeEvent(QResizeEvent* event) {
+  QTableView::resizeEvent(event);
+  emit resized();
+}
+
+void SheetGrid::scrollContentsBy(int dx, int dy) {
+  QTableView::scrollContentsBy(dx, dy);
+  emit scrolled();
+}
+
+CellPlace SheetGrid::moved(CellPlace from, Step step, int times) const {
+  for (int i = 0; i < times; ++i) {
+    const auto next = cellAfter(sheetModel_.sheet(), from, step);
+    if (!next) break;
+    from = *next;
+  }
+  const auto& row = sheetModel_.sheet().row(from.row);
+  if (row.OnlyColumn != 0) from.column = row.OnlyColumn;
+  return from;
+}
+
+QModelIndex SheetGrid::moveCursor(CursorAction action, Qt::KeyboardModifiers) {
+  const int all = model()->rowCount();
+  auto place = current();
+  switch (action) {
+    case MoveDown: place = moved(place, Step::Below, 1); break;
+    case MoveUp: place = moved(place, Step::Above, 1); break;
+    case MoveRight:
+    case MoveNext: place = moved(place, Step::Next, 1); break;
+    case MoveLeft:
+    case MovePrevious: place = moved(place, Step::Previous, 1); break;
+    case MovePageDown: place = moved(place, Step::Below, rowsInSight()); break;
+    case MovePageUp: place = moved(place, Step::Above, rowsInSight()); break;
+    case MoveHome: place = moved(place, Step::Above, all); break;
+    case MoveEnd: place = moved(place, Step::Below, all); break;
+  }
+  return model()->index(place.row, place.column);
+}
+
+}  // namespace nimbrel

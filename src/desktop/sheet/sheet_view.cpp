@@ -1,0 +1,284 @@
+#include "desktop/sheet/sheet_view.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QScrollBar>
+#include <algorithm>
+
+#include "desktop/shown_text.h"
+#include "desktop/twips.h"
+
+namespace nimbrel {
+namespace {
+
+Box twips(const QRect& place) {
+  return {toTwips(place.x()), toTwips(place.y()), toTwips(place.width()), toTwips(place.height())};
+}
+
+QRect pixels(const Box& box) {
+  return {toPixels(box.left), toPixels(box.top), toPixels(box.width), toPixels(box.height)};
+}
+
+}  // namespace
+
+SheetView::SheetView(PropertySheet& sheet, IconSource icons, QWidget* parent)
+    : QWidget(parent),
+      sheet_(sheet),
+      model_(sheet),
+      title_(this),
+      grid_(model_, this),
+      splitter_(this),
+      help_(
+          sheet, [this](const auto& deed) { act(deed); }, this),
+      editors_(sheet, *grid_.viewport(), std::move(icons), [this](const auto& deed) { act(deed); }) {
+  setObjectName(shown(sheet.name));
+  title_.setObjectName(shown(sheet.lblTitle.name));
+  title_.setTextFormat(Qt::PlainText);
+  title_.setText(shown(sheet.lblTitle.text));
+  title_.setMargin(3);
+  title_.setBuddy(&grid_);
+  setMinimumSize(toPixels(smallestSheet), toPixels(smallestSheet));
+  measure();
+  connectAll();
+  refresh();
+  grid_.goTo(cellAfter(sheet, {-1, column::Normal}, Step::Below).value_or(openCell()));
+}
+
+void SheetView::connectAll() {
+  connect(&grid_, &SheetGrid::pressed, this, &SheetView::press);
+  connect(&grid_, &SheetGrid::keyForCell, this, &SheetView::keyForCell);
+  connect(&grid_, &SheetGrid::reachedByKeyboard, this, [this] { open(grid_.current()); });
+  connect(&grid_, &SheetGrid::scrolled, this, &SheetView::scrolled);
+  connect(&grid_, &SheetGrid::resized, this, &SheetView::setColumns);
+  connect(&editors_.entry(), &EntryEdit::commanded, this, &SheetView::command);
+  connect(&editors_.list(), &ListPopup::helpWanted, this, &SheetView::help);
+  connect(&splitter_, &HelpSplitter::dragBegun, this, &SheetView::leave);
+  connect(&splitter_, &HelpSplitter::moved, this, [this](int top) {
+    helpHeight_ = HelpHeight(toTwips(height()), top);
+    layOut();
+  });
+}
+
+void SheetView::act(const std::function<void()>& deed) {
+  const auto show = [this] {
+    refresh();
+    emit acted();
+  };
+  try {
+    deed();
+  } catch (...) {
+    show();
+    throw;
+  }
+  show();
+}
+
+void SheetView::refresh() {
+  model_.sync();
+  if (std::exchange(fillings_, sheet_.fillings()) != sheet_.fillings() && !sheet_.Editing()) {
+    grid_.scrollToTop();
+  }
+  help_.refresh();
+  if (sheet_.Editing()) placeEditors();
+  editors_.refresh(model_.nameOf(sheet_.cursorRow(), sheet_.cursorColumn()), listPlace());
+}
+
+void SheetView::leave() {
+  if (sheet_.Editing()) act([this] { sheet_.LeaveCell(); });
+}
+
+/// Commits what is open ahead of it.
+void SheetView::open(CellPlace place) {
+  act([&] {
+    sheet_.LeaveCell();
+    sheet_.EnterCell(place.row, place.column);
+  });
+  if (!sheet_.Editing()) return;
+  grid_.goTo(openCell());
+  editors_.focusEntry();
+}
+
+void SheetView::press(int row, int col) {
+  grid_.setFocus(Qt::MouseFocusReason);
+  if (row < 0 || col < 0) {
+    leave();
+  } else if (model_.isOpen(row, col)) {
+    editors_.focusEntry();
+  } else {
+    open({row, col});
+    column_ = sheet_.cursorColumn();
+  }
+}
+
+void SheetView::command(EntryCommand command) {
+  switch (command) {
+    case EntryCommand::Next: go(Step::Next, 1); break;
+    case EntryCommand::Previous: go(Step::Previous, 1); break;
+    case EntryCommand::Below: go(Step::Below, 1); break;
+    case EntryCommand::Above: go(Step::Above, 1); break;
+    case EntryCommand::PageDown: go(Step::Below, grid_.rowsInSight()); break;
+    case EntryCommand::PageUp: go(Step::Above, grid_.rowsInSight()); break;
+    case EntryCommand::TakeBack: act([this] { sheet_.TakeBack(); }); break;
+    case EntryCommand::PressButton: editors_.pressButton(); break;
+    case EntryCommand::Replicate:
+      act([this] { sheet_.click(sheet_.btnReplicate); });
+      editors_.focusEntry();
+      break;
+    case EntryCommand::GoToLinks: help_.focusLinks(); break;
+  }
+}
+
+void SheetView::go(Step step, int times) {
+  const bool isAlong = step == Step::Next || step == Step::Previous;
+  auto from = openCell();
+  if (!isAlong) from.column = column_;
+  std::optional<CellPlace> to;
+  for (auto next = cellAfter(sheet_, from, step); next && times > 0; --times) {
+    to = next;
+    next = cellAfter(sheet_, *next, step);
+  }
+  if (to) {
+    open(*to);
+    if (isAlong) column_ = sheet_.cursorColumn();
+  } else if (isAlong) {
+    leaveTable(step == Step::Next);
+  } else {
+    leave();
+  }
+}
+
+void SheetView::leaveTable(bool forward) {
+  leave();
+  grid_.setFocus(Qt::OtherFocusReason);
+  focusNextPrevChild(forward);
+}
+
+/// An open cell that was scrolled away comes back.
+void SheetView::keyForCell(QKeyEvent* event) {
+  const bool wasOpen = sheet_.Editing();
+  if (wasOpen) {
+    grid_.goTo(openCell());
+    editors_.entry().setFocus(Qt::OtherFocusReason);
+  } else {
+    open(grid_.current());
+    column_ = sheet_.cursorColumn();
+  }
+  const int key = event->key();
+  const bool onlyOpens = key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_F2;
+  if (sheet_.Editing() && (wasOpen || !onlyOpens)) QCoreApplication::sendEvent(&editors_.entry(), event);
+}
+
+void SheetView::scrolled() {
+  if (!sheet_.Editing()) return;
+  const bool isTyping = grid_.hasFocus();
+  sheet_.Grid_Scroll(grid_.isInSight(openCell()));
+  refresh();
+  if (isTyping && sheet_.txtEntry.visible) editors_.entry().setFocus(Qt::OtherFocusReason);
+}
+
+void SheetView::help() {
+  if (sheet_.HelpContextID() != 0) emit helpWanted(sheet_.HelpContextID());
+}
+
+void SheetView::keyPressEvent(QKeyEvent* event) {
+  const int key = event->key();
+  if (key == Qt::Key_F1 && sheet_.HelpContextID() != 0) {
+    help();
+  } else if ((key == Qt::Key_F6 || key == Qt::Key_Escape) && sheet_.Editing()) {
+    editors_.focusEntry();  // back from the links
+  } else {
+    QWidget::keyPressEvent(event);
+  }
+}
+
+void SheetView::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  leave();
+  layOut();
+}
+
+void SheetView::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  switch (event->type()) {
+    case QEvent::FontChange:
+    case QEvent::StyleChange:
+    case QEvent::PaletteChange:
+      measure();
+      layOut();
+      break;
+    default: break;
+  }
+}
+
+void SheetView::measure() {
+  constexpr int air = 8;  // pixels around a line of text in a cell
+  const int rowHeight = fontMetrics().height() + air;
+  grid_.setRowHeight(rowHeight);
+  int widest = 0;
+  for (int row = 0; row < sheet_.RowCount(); ++row) {
+    const QFontMetrics caption(CellPainter::captionFont(sheet_.row(row), font()));
+    const auto text = model_.data(model_.index(row, column::Caption), Qt::DisplayRole).toString();
+    widest = std::max(widest, caption.horizontalAdvance(text));
+  }
+  metrics_ = {
+      .pixelWidth = twipsPerPixel,
+      .pixelHeight = twipsPerPixel,
+      .StandardCellHeight = toTwips(rowHeight),
+      .titleHeight = toTwips(title_.sizeHint().height()),
+      .helpLabelHeight = toTwips(fontMetrics().height() + 2),
+      .textHeight = toTwips(fontMetrics().height()),
+      .swatchWidth = toTwips(rowHeight - 1),  // the last pixel is the grid line
+      .widestCaption = toTwips(widest),
+      .exampleLinkWidth = toTwips(fontMetrics().horizontalAdvance(shown(sheet_.lblExamplesLink.text)))};
+  editors_.drawIcons(toPixels(metrics_.buttonSide()));
+}
+
+void SheetView::layOut() {
+  const int tall = toTwips(height());
+  const int top =
+      helpHeight_ ? splitterTopAfterResize(tall, *helpHeight_, metrics_) : initialSplitterTop(tall, metrics_);
+  const auto layout = LayoutSheet(toTwips(width()), tall, top, metrics_);
+  title_.setGeometry(pixels(layout.lblTitle));
+  grid_.setGeometry(pixels(layout.Grid));
+  splitter_.setGeometry(pixels(layout.imgSplitter));
+  help_.layOut(layout);
+  setColumns();
+}
+
+/// The geometry leaves 6 pixels to the grid's frame, of which ours takes less.
+void SheetView::setColumns() {
+  constexpr int frame = 6;
+  const auto* bar = grid_.verticalScrollBar();
+  const auto scrollWidth = [bar] { return bar->isVisible() ? toTwips(bar->width()) : 0; };
+  layoutColumns(sheet_.table().hasStates, toTwips(grid_.viewport()->width() + frame) + scrollWidth(),
+                metrics_, scrollWidth,
+                [this](int col, int width) { grid_.setColumnWidth(col, toPixels(width)); });
+}
+
+EditorPlaces SheetView::editorPlaces() const {
+  const auto cell = grid_.placeOf(openCell()).translated(grid_.viewport()->pos());
+  const auto& row = sheet_.row(sheet_.cursorRow());
+  const auto& list = row.Kind() == KindSortedList ? sheet_.lstSortedList : sheet_.lstList;
+  return nimbrel::placeEditors(row.Kind(), twips(cell), twips(grid_.geometry()), toTwips(height()),
+                               list.list.size(), metrics_);
+}
+
+void SheetView::placeEditors() {
+  const auto origin = -(grid_.pos() + grid_.viewport()->pos());
+  const auto places = editorPlaces();
+  const int side = toPixels(metrics_.buttonSide());
+  const QRect button(toPixels(places.buttonLeft), toPixels(places.buttonTop), side, side);
+  const auto beside = grid_.placeOf({sheet_.cursorRow(), column::Replicate});
+  const auto replicate =
+      replicatePlace(twips(beside.translated(-origin - grid_.pos())), twips(grid_.geometry()), metrics_);
+  editors_.place(pixels(places.entry).translated(origin), button.translated(origin),
+                 pixels(replicate).translated(origin));
+}
+
+QRect SheetView::listPlace() const {
+  if (!sheet_.lstList.visible && !sheet_.lstSortedList.visible) return {};
+  const auto place = pixels(editorPlaces().list);
+  return {mapToGlobal(place.topLeft()), place.size()};
+}
+
+}  // namespace nimbrel

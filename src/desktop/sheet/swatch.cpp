@@ -1,0 +1,36 @@
+#include "desktop/sheet/swatch.h"
+
+#include "desktop/twips.h"
+#include "properties/sheet_geometry.h"
+
+namespace nimbrel {
+namespace {
+
+QColor colourOf(const Rgb& colour) { return {colour.red, colour.green, colour.blue}; }
+
+/// Drawn as lines: a pattern brush has its own pixels, too fine for a screen of many.
+void hatchDownwards(QPainter& painter, const QRect& box) {
+  constexpr int gap = 5;
+  painter.setClipRect(box);
+  painter.setPen(Qt::black);  // what fills the box is light, whatever the palette is
+  for (int x = box.left() - box.height(); x < box.right(); x += gap) {
+    painter.drawLine(x, box.top(), x + box.height(), box.bottom() + 1);
+  }
+}
+
+}  // namespace
+
+void paintSwatch(QPainter& painter, const QRect& square, const Swatch& swatch, const QColor& ink) {
+  const Box inner = swatchBox(toTwips(square.height()));
+  const QRect box(square.left() + toPixels(inner.left), square.top() + toPixels(inner.top),
+                  toPixels(inner.width), toPixels(inner.height));
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing, false);
+  painter.fillRect(box, colourOf(swatch.value_or(noColourFill)));
+  if (!swatch) hatchDownwards(painter, box);
+  painter.setPen(ink);
+  painter.drawRect(box.adjusted(0, 0, -1, -1));
+  painter.restore();
+}
+
+}  // namespace nimbrel

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+#include <string>
+#include <string_view>
+
+/// Between what the library holds (one-byte text, paths in document form) and what stands on the screen.
+namespace nimbrel {
+
+QString shown(std::string_view text);
+std::string held(const QString& text);
+
+/// Paths in the system's own form.
+QString shownPath(std::string_view documentPath);
+std::string heldPath(const QString& path);
+
+}  // namespace nimbrel

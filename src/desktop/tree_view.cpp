@@ -1,0 +1,72 @@
+#include "desktop/tree_view.h"
+
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+
+namespace nimbrel {
+
+TreeView::TreeView(TreeModel& model, QWidget* parent) : QTreeView(parent), tree_(model) {
+  setModel(&model);
+  setHeaderHidden(true);
+  setUniformRowHeights(true);
+  setEditTriggers(NoEditTriggers);
+  setExpandsOnDoubleClick(true);
+  setAccessibleName(tr("Menu structure"));
+}
+
+void TreeView::showSelected(const Node* node) {
+  const auto index = tree_.indexOf(node);
+  if (currentIndex() == index && (!index.isValid() || selectionModel()->isSelected(index))) return;
+  isOwnMove_ = true;
+  setCurrentIndex(index);
+  if (index.isValid()) scrollTo(index);
+  isOwnMove_ = false;
+}
+
+void TreeView::openUp() {
+  constexpr int small = 400;  // rows
+  constexpr int levels = 1;
+  int rows = 0;
+  for (auto index = tree_.index(0, 0); index.isValid() && rows <= small; index = indexBelow(index)) {
+    ++rows;
+    if (rows + tree_.rowCount(index) > small) {
+      expandToDepth(levels);
+      return;
+    }
+    expand(index);
+  }
+}
+
+void TreeView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+  QTreeView::currentChanged(current, previous);
+  if (!isOwnMove_ && current.isValid()) emit nodeChosen(tree_.node(current));
+}
+
+/// The right button selects nothing: its menu belongs to the current node.
+void TreeView::mousePressEvent(QMouseEvent* event) {
+  if (event->button() != Qt::RightButton) QTreeView::mousePressEvent(event);
+}
+
+void TreeView::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() != Qt::RightButton) {
+    QTreeView::mouseReleaseEvent(event);
+  } else if (indexAt(event->pos()).isValid()) {
+    emit contextMenuWanted(event->globalPosition().toPoint());
+  }
+}
+
+void TreeView::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Delete && !event->isAutoRepeat()) {
+    emit deletePressed();
+  } else {
+    QTreeView::keyPressEvent(event);
+  }
+}
+
+/// From the keyboard; the mouse has its own way.
+void TreeView::contextMenuEvent(QContextMenuEvent* event) {
+  if (event->reason() == QContextMenuEvent::Mouse || !currentIndex().isValid()) return;
+  emit contextMenuWanted(viewport()->mapToGlobal(visualRect(currentIndex()).bottomLeft()));
+}
+
+}  // namespace nimbrel

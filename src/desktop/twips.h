@@ -1,0 +1,15 @@
+#pragma once
+
+#include <cmath>
+
+/// The library measures the screen in twips, 1/1440 inch; Qt in pixels that are independent of the screen, 96 to
+/// the inch.
+namespace nimbrel {
+
+inline constexpr int twipsPerPixel = 15;
+
+constexpr int toTwips(int pixels) { return pixels * twipsPerPixel; }
+constexpr int toPixels(int twips) { return twips / twipsPerPixel; }
+inline int toPixels(float twips) { return static_cast<int>(std::lround(twips / twipsPerPixel)); }
+
+}  // namespace nimbrel

@@ -1,0 +1,28 @@
+#include "desktop/user_settings.h"
+
+#include "desktop/shown_text.h"
+#include "text/product.h"
+
+namespace nimbrel {
+namespace {
+
+QString path(std::string_view section, std::string_view key) { return shown(section) + '/' + shown(key); }
+
+}  // namespace
+
+UserSettings::UserSettings()
+    : store_(QSettings::IniFormat, QSettings::UserScope, shown(productTitle), shown(productTitle)) {}
+
+std::string UserSettings::GetSetting(std::string_view section, std::string_view key,
+                                     std::string_view standard) const {
+  const auto value = store_.value(path(section, key));
+  return value.isValid() ? held(value.toString()) : std::string(standard);
+}
+
+/// Written at once: the next start may come before this one ends.
+void UserSettings::SaveSetting(std::string_view section, std::string_view key, std::string_view value) {
+  store_.setValue(path(section, key), shown(value));
+  store_.sync();
+}
+
+}  // namespace nimbrel

@@ -1,0 +1,118 @@
+// Takes the pictures of docs/pictures from the running program, into the folder of its first argument.
+#include <QDir>
+#include <QPalette>
+#include <QPushButton>
+#include <QTest>
+#include <iostream>
+
+#include "desktop_run.h"
+
+namespace nimbrel {
+namespace {
+
+class Photographer {
+ public:
+  explicit Photographer(const QString& folder) : folder_(folder) {}
+
+  void take(QWidget& window, const QString& name) {
+    QTest::qWait(150);
+    const auto path = folder_ + "/" + name + ".png";
+    if (!window.grab().save(path)) std::cerr << "cannot write " << path.toStdString() << '\n';
+  }
+
+  /// A command whose window is taken and then closed; windows that come behind it likewise.
+  void takeModal(const char* command, const std::vector<QString>& names) {
+    for (const auto& name : names) {
+      run_.then([this, name](QWidget& window) {
+        if (name == "gallery") QTest::qWait(2500);
+        take(window, name);
+        QTest::keyClick(&window, Qt::Key_Escape);
+      });
+    }
+    run_.run(command);
+  }
+
+  void work() {
+    run_.start(run_.programFolder() + "/Examples/thistlewick/thistlewick.nbr");
+    auto& view = run_.view();
+    constexpr QSize size(1000, 640);
+    view.resize(size);
+    for (const auto* key : {"M0", "S4", "I1"}) {
+      auto* node = run_.main().document.tvTreeView.find(key);
+      if (node != nullptr) run_.select(key);
+      take(view, QString("sheet-") + (key[0] == 'M' ? "menu" : key[0] == 'S' ? "submenu" : "item"));
+    }
+    takeModal("mnuHelpAbout", {"about"});
+    takeModal("mnuHelpTipOfTheDay", {"tip"});
+    takeModal("mnuToolsCompileProperties", {"compile-properties"});
+    takeModal("mnuStylePickStyle", {"style-picked"});
+    takeModal("mnuStyleSaveStyle", {"create-style"});
+    takeModal("mnuStyleOpenStyleLibrary", {"gallery"});
+    takeModal("mnuToolsInsertMenuIntoWebpage", {"link-file"});
+    compile();
+    view.commands().action("mnuToolsPreview")->trigger();
+    waitFor([&] { return run_.evaluate(view.preview(), "document.readyState").toString() == "complete"; });
+    QTest::qWait(1200);
+    take(view.preview(), "preview");
+    help();
+    darkTheme();
+  }
+
+ private:
+  void compile() {
+    run_.then([this](QWidget& window) {
+      take(window, "compile-warning");
+      QTest::mouseClick(window.findChild<QPushButton*>("cmdOk"), Qt::LeftButton);
+    });
+    run_.thenChooseFile(run_.path("site/menu.js"));
+    QDir().mkpath(run_.path("site"));
+    run_.write("site/index.html", "<html><body></body></html>");
+    run_.write("site/news.html", "<html><body></body></html>");
+    run_.then([this](QWidget& window) {
+      take(window, "compile-report");
+      QTest::mouseClick(window.findChild<QPushButton*>("cmdYes"), Qt::LeftButton);
+    });
+    run_.then([this](QWidget& window) {
+      QTest::qWait(500);
+      take(window, "linking");
+      QTest::keyClick(&window, Qt::Key_Escape);
+    });
+    run_.run("mnuToolsCompileMenu");
+  }
+
+  void help() {
+    if (!run_.program().help().openTopic(2280)) return;
+    QTest::qWait(800);
+    take(run_.program().help(), "help");
+    run_.program().help().hide();
+  }
+
+  void darkTheme() {
+    QPalette dark(QColor(0x35, 0x37, 0x3B), QColor(0x2B, 0x2D, 0x30));
+    dark.setColor(QPalette::Base, QColor(0x1E, 0x1F, 0x22));
+    dark.setColor(QPalette::AlternateBase, QColor(0x26, 0x28, 0x2B));
+    dark.setColor(QPalette::Text, Qt::white);
+    dark.setColor(QPalette::WindowText, Qt::white);
+    dark.setColor(QPalette::ButtonText, Qt::white);
+    QApplication::setPalette(dark);
+    QTest::qWait(100);
+    take(run_.view(), "dark-theme");
+  }
+
+  QString folder_;
+  DesktopRun run_;
+};
+
+}  // namespace
+}  // namespace nimbrel
+
+int main(int argc, char** argv) {
+  const auto application = nimbrel::offscreenApplication(argc, argv);
+  if (argc != 2) {
+    std::cerr << "usage: " << argv[0] << " FOLDER\n";
+    return 2;
+  }
+  QDir().mkpath(argv[1]);
+  nimbrel::Photographer(argv[1]).work();
+  return 0;
+}
