@@ -71,8 +71,8 @@ struct Statement {
 int numberOf(const std::string& word) {
   int number = 0;
   const auto* end = word.data() + word.size();
-  if (std::from_chars(word.data(), end, number).ptr != end || word.empty())
-    throw MacroFault("no number: " + word);
+  const auto read = std::from_chars(word.data(), end, number);
+  if (read.ec != std::errc{} || read.ptr != end) throw MacroFault("no number: " + word);
   return number;
 }
 
@@ -179,7 +179,11 @@ void Player::replicate(const Words& words) {
 }
 
 void Player::close() {
-  isClosed_ = window_.QueryClose();
+  try {
+    isClosed_ = window_.QueryClose();
+  } catch (const FileError& error) {
+    asker_.noteFailure(error.finding());
+  }
   transcript_.tell("closed", isClosed_);
 }
 

@@ -60,16 +60,16 @@ void frmCompileProperties::fill() {
 /// A tab is left only with good folder names behind it.
 void frmCompileProperties::TabStrip1_Click() {
   if (!ValidateFolderName(txtLibraryPath) || !ValidateFolderName(txtImagePath)) {
-    TabStrip1.selected = {0};
-    TabStrip1.text = TabStrip1.list.front();
+    TabStrip1.selected = {tab_};
+    TabStrip1.text = TabStrip1.list[tab_];
   }
   showTab();
 }
 
 void frmCompileProperties::showTab() {
-  const auto tab = TabStrip1.selected.empty() ? 0 : TabStrip1.selected.front();
+  tab_ = TabStrip1.selected.empty() ? 0 : TabStrip1.selected.front();
   const std::array frames{&Frame1, &Frame2, &Frame3, &Frame4};
-  for (std::size_t i = 0; i < frames.size(); ++i) frames.at(i)->visible = i == tab;
+  for (std::size_t i = 0; i < frames.size(); ++i) frames.at(i)->visible = i == tab_;
 }
 
 void frmCompileProperties::Option1_Click() {

@@ -87,6 +87,7 @@ class frmCompileProperties : public Form {
   void showTab();
   bool ValidateFolderName(const Control& textBox);
 
+  std::size_t tab_ = 0;  ///< in front
   Asker& asker_;
   ProgramState& state_;
   CompileSettings& settings_;

@@ -26,7 +26,7 @@ bool Application::notify(QObject* receiver, QEvent* event) {
   return true;
 }
 
-void Application::tell(const QString& text) {
+void Application::tell(const QString& text) const {
   if (report) {
     report(text);
   } else {

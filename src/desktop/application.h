@@ -18,7 +18,7 @@ class Application : public QApplication {
   bool notify(QObject* receiver, QEvent* event) override;
 
  private:
-  void tell(const QString& text);
+  void tell(const QString& text) const;
 };
 
 }  // namespace nimbrel

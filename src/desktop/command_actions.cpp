@@ -115,8 +115,9 @@ void CommandActions::refresh(const CommandStates& states) {
   for (const auto& [name, action] : entries_) {
     const auto* state = states.find(name);
     if (state == nullptr) continue;
-    if (!action->isSeparator() && action->text() != shown(state->caption))
-      action->setText(shown(state->caption));
+    auto caption = shown(state->caption);
+    if (name.starts_with("mnuFileMRU")) caption.replace('&', "&&");  // a path marks no key
+    if (!action->isSeparator() && action->text() != caption) action->setText(caption);
     action->setEnabled(state->enabled);
     action->setVisible(state->visible);
     if (action->isCheckable()) action->setChecked(state->checked);

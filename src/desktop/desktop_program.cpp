@@ -40,6 +40,10 @@ DesktopProgram::DesktopProgram(Application& application, const std::string& prog
   asker_.setMainWindow(&view_);
   asker_.setHelp(&help_);
   asker_.onWaiting([this](bool isWaiting) { view_.setWaiting(isWaiting); });
+  help_.onMissing([this](const QString& file) {
+    asker_.MsgBox(
+        {.title = std::string(productTitle), .text = held("The help file cannot be opened: " + file)});
+  });
   application.report = [this](const QString& text) {
     asker_.MsgBox({.title = std::string(productTitle), .text = held(text), .icon = BoxIcon::Critical});
   };

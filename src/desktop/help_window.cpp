@@ -54,7 +54,6 @@ HelpWindow::~HelpWindow() = default;
 
 /// The help is registered in a collection of this user's, anew whenever the file is another one.
 bool HelpWindow::load() {
-  if (engine_ != nullptr) return true;
   if (!QFileInfo(file_).isFile()) return false;
   QDir().mkpath(cacheFolder_);
   auto engine = std::make_unique<QHelpEngine>(cacheFolder_ + "/help.qhc", this);
@@ -147,8 +146,14 @@ void HelpWindow::come(int tab) {
   activateWindow();
 }
 
+bool HelpWindow::isReady() {
+  if (engine_ != nullptr || load()) return true;
+  if (missing_) missing_(file_);
+  return false;
+}
+
 bool HelpWindow::openTopic(int topic) {
-  if (!load()) return false;
+  if (!isReady()) return false;
   const auto links = engine_->documentsForIdentifier(QString("topic-%1").arg(topic));
   if (links.isEmpty()) return openContents();
   showPage(links.constFirst().url);
@@ -157,14 +162,14 @@ bool HelpWindow::openTopic(int topic) {
 }
 
 bool HelpWindow::openContents() {
-  if (!load()) return false;
+  if (!isReady()) return false;
   showPage(QUrl(home));
   come(ContentsTab);
   return true;
 }
 
 bool HelpWindow::openSearch() {
-  if (!load()) return false;
+  if (!isReady()) return false;
   if (page_->source().isEmpty()) showPage(QUrl(home));
   come(SearchTab);
   engine_->searchEngine()->queryWidget()->setFocus();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <functional>
 #include <memory>
 
 #include "platform/ports.h"
@@ -20,18 +21,23 @@ class HelpWindow : public QMainWindow, public HelpSystem {
   HelpWindow(QString file, QString cacheFolder);
   ~HelpWindow() override;
 
+  /// Called with the name of a help file that cannot be opened, each time that help is wanted.
+  void onMissing(std::function<void(const QString&)> tell) { missing_ = std::move(tell); }
+
   bool openTopic(int topic) override;
   bool openContents() override;
   bool openSearch() override;
 
  private:
   bool load();
+  bool isReady();
   void build();
   void buildSearch();
   void showPage(const QUrl& page);
   void come(int tab);
 
   QString file_;
+  std::function<void(const QString&)> missing_;
   QString cacheFolder_;
   QHelpEngine* engine_ = nullptr;
   QTabWidget* tabs_ = nullptr;

@@ -1,5 +1,6 @@
 #include <QPixmap>
 #include <QSplashScreen>
+#include <QTimer>
 #include <unistd.h>
 
 #include "desktop/application.h"
@@ -32,11 +33,12 @@ int main(int argc, char** argv) {
       QIcon(":/icons/splash.svg").pixmap(nimbrel::frmSplash::width, nimbrel::frmSplash::height));
   splash.setObjectName("frmSplash");
   splash.show();
-  application.processEvents();
+  QCoreApplication::processEvents();
 
   const auto folder = nimbrel::absoluteHostPath(nimbrel::programFolder(std::nullopt));
   nimbrel::DesktopProgram program(application, folder);
   splash.close();
-  program.start(commandLine(application.arguments()));
-  return application.exec();
+  // Within the event loop, where a fault is told and the program goes on.
+  QTimer::singleShot(0, &application, [&] { program.start(commandLine(QCoreApplication::arguments())); });
+  return QCoreApplication::exec();
 }

@@ -6,6 +6,7 @@
 #include <QScreen>
 #include <QStatusBar>
 #include <QTimer>
+#include <array>
 #include <utility>
 
 #include "desktop/icons.h"
@@ -157,9 +158,10 @@ void MainView::refresh() {
 
 void MainView::showSheets() {
   const auto* visible = main_.visibleSheet();
-  const std::pair<const PropertySheet*, SheetView*> sheets[] = {{&main_.prctlMenu, &menuSheet_},
-                                                                {&main_.prctlSubmenu, &submenuSheet_},
-                                                                {&main_.prctlItem, &itemSheet_}};
+  const std::array<std::pair<const PropertySheet*, SheetView*>, 3> sheets{
+      {{&main_.prctlMenu, &menuSheet_},
+       {&main_.prctlSubmenu, &submenuSheet_},
+       {&main_.prctlItem, &itemSheet_}}};
   for (const auto& [sheet, view] : sheets) {
     if (sheet == visible) view->refresh();
     if (view->isHidden() == (sheet == visible)) view->setVisible(sheet == visible);
@@ -167,11 +169,13 @@ void MainView::showSheets() {
 }
 
 void MainView::showBeside(FormWindow& window) {
-  if (window.form().isOpen && !window.isVisible()) {
-    window.show();
-    window.raise();
-  }
   window.refresh();
+  auto& shows = shows_[&window];
+  if (!window.form().isOpen || shows == window.form().shows) return;
+  shows = window.form().shows;
+  window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+  window.show();
+  window.raise();
 }
 
 void MainView::setWaiting(bool isWaiting) {
@@ -188,7 +192,8 @@ bool MainView::mayClose() {
 }
 
 void MainView::closeEvent(QCloseEvent* event) {
-  event->setAccepted(mayClose());
+  event->ignore();  // also if the save throws
+  if (mayClose()) event->accept();
   if (isClosed_) qApp->quit();
 }
 

@@ -2,7 +2,7 @@
 
 #include <QLabel>
 #include <QMainWindow>
-#include <memory>
+#include <map>
 #include <vector>
 
 #include "desktop/command_actions.h"
@@ -38,7 +38,6 @@ class MainView : public QMainWindow {
   FormWindow& preview() { return preview_; }
   FormWindow& liveExamples() { return liveExamples_; }
 
- public slots:
   void run(const QString& command);
 
  protected:
@@ -57,7 +56,6 @@ class MainView : public QMainWindow {
   void showBeside(FormWindow& window);
   void noteGeometry();
   void drawIcons();
-  void help();
 
   frmMain& main_;
   TreeModel model_;
@@ -67,7 +65,8 @@ class MainView : public QMainWindow {
   CommandActions commands_;
   FormWindow preview_;
   FormWindow liveExamples_;
-  std::size_t visits_ = 0;  ///< of the windows beside this one, to bring them forward
+  std::map<const FormWindow*, std::size_t>
+      shows_;  ///< of the windows beside this one, as they were last seen
   bool isStarted_ = false;
   bool isClosed_ = false;
 };

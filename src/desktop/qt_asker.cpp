@@ -71,10 +71,9 @@ class QtAsker::Wait {
 };
 
 QWidget* QtAsker::owner() const {
-  for (auto it = open_.rbegin(); it != open_.rend(); ++it) {
-    if ((*it)->isVisible()) return *it;
-  }
-  return main_;
+  const auto top =
+      std::find_if(open_.rbegin(), open_.rend(), [](auto* window) { return window->isVisible(); });
+  return top == open_.rend() ? main_ : *top;
 }
 
 void QtAsker::hideClosed() {

@@ -89,6 +89,7 @@ Node* AddItem(Document& document, std::string_view selectedKey) {
   ItemObj item;
   SetDefaultValues(item);
   item.ItemName1 = item.ItemName2 = item.ItemName3 = "Item" + number;
+  if (kindOf(selectedKey) == Kind::Item && selected->Parent() == nullptr) return nullptr;
   const auto relationship = kindOf(selectedKey) == Kind::Item ? Relationship::Next : Relationship::Child;
   Node& node = enter(document, "I" + number, std::move(item), selected, relationship);
   dress(document, *document.get<ItemObj>(node), node);

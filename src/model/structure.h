@@ -26,7 +26,8 @@ const Message* refusalOfSubmenu(const Document& document, std::string_view paren
 Node* AddSubmenu(Document& document, std::string_view parentKey);
 
 /// Adds an item behind the selected item, or as the last of the selected menu, dressed as the item ahead of
-/// it, else as the item that its submenu hangs from. None if no node has that key.
+/// it, else as the item that its submenu hangs from. None if no node has that key, or
+/// if it is an item that a file has made a root.
 Node* AddItem(Document& document, std::string_view selectedKey);
 
 /// Removes a node and all that hangs from it, from the tree and from `ElementColl`.

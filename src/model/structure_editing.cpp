@@ -80,6 +80,7 @@ Node* PasteSubtree(Document& document, Node& target, const Clipboard& clipboard)
   const Node* source = clipboard.tvCopyTree.root();
   if (source == nullptr) return nullptr;
   const bool behind = kindOf(source->Key) == Kind::Item && kindOf(target.Key) == Kind::Item;
+  if (behind && target.Parent() == nullptr) return nullptr;
   std::unordered_map<const Node*, Node*> pasted;
   for (const Node* node = source; node != nullptr; node = following(node, source)) {
     Node& made =
@@ -91,9 +92,13 @@ Node* PasteSubtree(Document& document, Node& target, const Clipboard& clipboard)
   return pasted.at(source);
 }
 
-bool canMoveUp(const Node& item) { return item.Text != item.FirstSibling()->Text; }
+bool canMoveUp(const Node& item) {
+  return item.Parent() != nullptr && item.Text != item.FirstSibling()->Text;
+}
 
-bool canMoveDown(const Node& item) { return item.Text != item.LastSibling()->Text; }
+bool canMoveDown(const Node& item) {
+  return item.Parent() != nullptr && item.Text != item.LastSibling()->Text;
+}
 
 bool MoveItemUp(Document& document, Node& item) {
   return canMoveUp(item) && move(document, item, item.Previous(), Relationship::Previous);

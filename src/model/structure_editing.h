@@ -28,11 +28,12 @@ const Message* refusalOfPaste(const Clipboard& clipboard, const Node& target);
 void CopySubtree(const Document& document, const Node& node, Clipboard& clipboard);
 
 /// Pastes what the clipboard holds, under new keys: an item on an item directly behind it, all else as the last
-/// child. Gives the new top, none with an empty clipboard. Not for a target that is refused. Throws
+/// child. Gives the new top, none with an empty clipboard, nor behind an item that a file has made a root, since
+/// a second root is not saved. Not for a target that is refused. Throws
 /// `std::overflow_error` where the key counter is used up; what was pasted up to there stays.
 Node* PasteSubtree(Document& document, Node& target, const Clipboard& clipboard);
 
-/// Whether an item can move among its siblings. kept: texts are compared, not nodes, so that an item named as
+/// Whether an item can move among its siblings; roots cannot. kept: texts are compared, not nodes, so that an item named as
 /// the first of its siblings cannot move up from wherever it stands.
 bool canMoveUp(const Node& item);
 bool canMoveDown(const Node& item);

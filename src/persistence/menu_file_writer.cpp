@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "persistence/menu_file.h"
 #include "persistence/menu_file_layout.h"
 #include "persistence/property_line.h"
@@ -7,7 +9,15 @@
 namespace nimbrel {
 namespace {
 
-std::string lineOf(const std::string& value) { return value; }
+/// A comma would end the value at the reader and shift all behind it; in quotes it stays whole. Where both come
+/// together, or a line breaks, a likeness is written: else the file could not be read again.
+std::string lineOf(std::string value) {
+  if (value.find_first_of(",\r\n") == std::string::npos) return value;
+  std::ranges::replace(value, '"', '\'');
+  std::ranges::replace_if(
+      value, [](char c) { return c == '\r' || c == '\n'; }, ' ');
+  return '"' + value + '"';
+}
 std::string lineOf(bool value) { return value ? "True" : "False"; }
 std::string lineOf(std::int32_t value) { return printedForm(value); }
 

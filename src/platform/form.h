@@ -70,6 +70,7 @@ class Form {
   const std::string_view name;
   std::string caption;
   bool isOpen = false;
+  std::size_t shows = 0;  ///< of one that stands beside others: how often it was to come to the front
   /// The button that the Escape key stands for; empty if there is none.
   std::string_view cancelButton;
   /// What is to take the focus, all of its text selected. Whoever shows the form sees to it and clears this.

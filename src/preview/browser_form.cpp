@@ -26,6 +26,8 @@ frmBrowser::frmBrowser(FileSystem& files, Asker& asker, ProgramState& state,
 
 void frmBrowser::Show() {
   isOpen = true;
+  ++shows;
+  if (!state_.isPreviewWindowLoaded) toFocus = &btnRefreshPreview;
   state_.isPreviewWindowLoaded = true;
 }
 

@@ -61,9 +61,14 @@ void CreatePreviewFile(FileSystem& files, const std::string& programFolder, bool
   steps.makeFolder(folder);
   steps.makeFolder(data);
 
-  const auto* menu = std::get_if<MenuObj>(&document.ElementColl.begin()->second);
+  const auto* menu =
+      document.ElementColl.empty() ? nullptr : std::get_if<MenuObj>(&document.ElementColl.begin()->second);
   const bool isPopup = menu != nullptr && menu->Collapsable == 1;
   steps.generate(previewPagePath(programFolder), pageText(isPopup, BlackPreview));
+  if (document.tvTreeView.empty()) {
+    report.findings.push_back({previewPagePath(programFolder), "there is no menu to show"});
+    return;
+  }
   const ScriptTarget target{folder, dataFolder, dataFolder, "preview"};
   const auto script =
       ScriptMaker(steps, programFolder).CreateMenuScript(ScriptMode::Preview, document, target, true);

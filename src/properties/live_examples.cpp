@@ -7,6 +7,7 @@ namespace nimbrel {
 void frmLiveExamples::ShowExample(std::string_view ExampleFile, std::string_view Caption) {
   state_.isLiveExamplesWindowLoaded = true;
   isOpen = true;
+  ++shows;
   navigate(brwWebBrowser, joinPath(joinPath(state_.programFolder, "Live Examples"), ExampleFile));
   caption = "Live Example for property: \"" + std::string(Caption) + "\"";
 }

@@ -90,7 +90,7 @@ void frmMain::mnuFileOpen() {
 void frmMain::load() {
   select(nullptr);
   isPartlyRead_ = true;
-  ownFile_ = state.FilePath + '\\' + state.FileTitle;
+  ownFile_ = joinPath(state.FilePath, state.FileTitle);
   Findings notes;
   try {
     state.IsDirty = false;

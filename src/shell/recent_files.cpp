@@ -37,7 +37,7 @@ RecentFiles addRecentFile(SettingsStore& settings, const RecentFile& file) {
 /// kept: the test counts no backslash and the cut counts it, so that 41 characters of a long path are shown.
 std::string recentFileCaption(int slot, const RecentFile& file) {
   constexpr std::size_t longest = 40;
-  const auto path = file.path();
+  const auto path = file.folder + '\\' + file.name;
   const auto number = std::to_string(slot) + ". ";
   if (file.folder.size() + file.name.size() <= longest) return number + path;
   return number + "..." + path.substr(path.size() - longest - 1);

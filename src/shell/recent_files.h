@@ -14,7 +14,8 @@ struct RecentFile {
   std::string name;
 
   bool empty() const { return folder.empty() && name.empty(); }
-  std::string path() const { return folder + '\\' + name; }
+  /// What can be opened; a file of the current folder has a name alone.
+  std::string path() const { return folder.empty() ? name : folder + '\\' + name; }
   bool operator==(const RecentFile&) const = default;
 };
 

@@ -40,7 +40,11 @@ frmTip::frmTip(Ports& ports, const std::string& programFolder, std::function<voi
 
 bool frmTip::LoadTips(const std::string& path) {
   if (!ports_.files.isFile(path)) return false;
-  tips_ = linesOf(ports_.files.read(path));
+  try {
+    tips_ = linesOf(ports_.files.read(path));
+  } catch (const FileError&) {
+    return false;
+  }
   cmdNextTip_Click();
   return true;
 }

@@ -1,10 +1,12 @@
 // How the program begins and ends.
 #include <array>
+#include <exception>
 
 #include "shell/main_window.h"
 #include "shell/settings.h"
 #include "text/numbers.h"
 #include "text/paths.h"
+#include "text/product.h"
 
 namespace nimbrel {
 namespace {
@@ -95,6 +97,9 @@ void frmMain::Activate(std::string_view commandLine, StartWindows windows) {
     openCommandLine(commandLine);
   } catch (const FileError& error) {
     ports.asker.noteFailure(error.finding());
+    ports.asker.MsgBox({.title = std::string(productTitle),
+                        .text = error.finding().path + ": " + error.finding().text(),
+                        .icon = BoxIcon::Critical});
   }
   const bool showsWindows = windows == StartWindows::Wanted;
   if (settings::ShowTips.readFlag(ports.settings)) {
@@ -104,7 +109,11 @@ void frmMain::Activate(std::string_view commandLine, StartWindows windows) {
   }
   UpdateMRUList("", "");
   if (settings::ShowPreview.readFlag(ports.settings)) {
-    if (showsWindows) CreatePreviewFile();
+    if (showsWindows) {
+      CreatePreviewFile();
+      browser.Show();
+      browser.RefreshPreview();  // kept: the page is shown already
+    }
   } else {
     commands.entry("mnuToolsShowPreviewOnStartup").checked = false;
   }
@@ -115,9 +124,17 @@ bool frmMain::QueryClose() {
   LeaveCells();
   browser.isOpen = liveExamples.isOpen = false;
   saveGeometry();
-  const bool mayClose = PromptToSave();
+  std::exception_ptr fault;
+  bool mayClose = false;
+  try {
+    mayClose = PromptToSave();
+  } catch (...) {
+    fault =
+        std::current_exception();  // a save that cannot write keeps the window, and is told behind the rest
+  }
   state.isPreviewWindowLoaded = false;
   state.isLiveExamplesWindowLoaded = false;
+  if (fault) std::rethrow_exception(fault);
   return mayClose;
 }
 

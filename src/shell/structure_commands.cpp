@@ -55,7 +55,7 @@ void frmMain::mnuEditPaste() {
   }
   const auto before = document.tvTreeView.size();
   try {
-    PasteSubtree(document, *selected, clipboard);
+    if (PasteSubtree(document, *selected, clipboard) == nullptr) return;
   } catch (...) {
     if (document.tvTreeView.size() > before) SetIsDirty();
     throw;
@@ -67,6 +67,7 @@ void frmMain::mnuItemAddItem() {
   if (selected == nullptr) return;
   LeaveCells();
   Node* node = AddItem(document, selected->Key);
+  if (node == nullptr) return;
   SelectNode(node);
   SetIsDirty();
 }
@@ -113,6 +114,7 @@ void frmMain::mnuItemDeleteItem() {
 void frmMain::mnuSubmenuDeleteSubmenu() {
   if (!isSelected(selected, Kind::Submenu)) return;
   if (!askToDelete(selected->Child() == nullptr ? deleteSubmenu : deleteSubmenuTree)) return;
+  prctlSubmenu.TakeBack();  // its element goes, and what stands in the cell with it
   removeSelected();
   RefreshCurrentSheet();
   SetIsDirty();

@@ -12,7 +12,7 @@ namespace {
 
 class Photographer {
  public:
-  explicit Photographer(const QString& folder) : folder_(folder) {}
+  explicit Photographer(QString folder) : folder_(std::move(folder)) {}
 
   void take(QWidget& window, const QString& name) {
     QTest::qWait(150);

@@ -116,6 +116,7 @@ StateHeader::StateHeader(const PropertySheet& sheet, QWidget* parent)
   setSectionsClickable(false);
   setHighlightSections(false);
   setMinimumSectionSize(1);
+  setTextElideMode(Qt::ElideRight);
 }
 
 void StateHeader::paintSection(QPainter* painter, const QRect& place, int logicalIndex) const {
@@ -130,8 +131,9 @@ void StateHeader::paintSection(QPainter* painter, const QRect& place, int logica
   painter->fillRect(place, palette().color(QPalette::Highlight));
   painter->setPen(palette().color(QPalette::HighlightedText));
   painter->setFont(bold);
+  const auto state = model()->headerData(logicalIndex, Qt::Horizontal).toString();
   painter->drawText(place, Qt::AlignCenter | Qt::TextSingleLine,
-                    model()->headerData(logicalIndex, Qt::Horizontal).toString());
+                    QFontMetrics(bold).elidedText(state, Qt::ElideRight, place.width()));
 }
 
 }  // namespace nimbrel

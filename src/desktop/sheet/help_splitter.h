@@ -12,9 +12,6 @@ class HelpSplitter : public QWidget {
  public:
   explicit HelpSplitter(QWidget* parent);
 
-  /// In twips, as all of the sheet's geometry.
-  int topInTwips() const;
-
  signals:
   void dragBegun();
   /// `twips` is where its top is to be from now on.
@@ -29,6 +26,8 @@ class HelpSplitter : public QWidget {
   void focusOutEvent(QFocusEvent* event) override;
 
  private:
+  int topInTwips() const;
+  /// In twips too, as all of the sheet's geometry.
   int draggedTop(int pixelsFromTop) const;
 
   QWidget shadow_;

@@ -60,8 +60,10 @@ void SheetView::connectAll() {
 }
 
 void SheetView::act(const std::function<void()>& deed) {
+  isActing_ = true;
   const auto show = [this] {
     refresh();
+    isActing_ = false;
     emit acted();
   };
   try {
@@ -74,9 +76,12 @@ void SheetView::act(const std::function<void()>& deed) {
 }
 
 void SheetView::refresh() {
+  auto& entry = editors_.entry();
+  if (!sheet_.Editing() && !isActing_ && entry.hasFocus()) caret_ = entry.cursorPosition();
   model_.sync();
   if (std::exchange(fillings_, sheet_.fillings()) != sheet_.fillings() && !sheet_.Editing()) {
     grid_.scrollToTop();
+    caret_.reset();
   }
   help_.refresh();
   if (sheet_.Editing()) placeEditors();
@@ -89,6 +94,7 @@ void SheetView::leave() {
 
 /// Commits what is open ahead of it.
 void SheetView::open(CellPlace place) {
+  caret_.reset();
   act([&] {
     sheet_.LeaveCell();
     sheet_.EnterCell(place.row, place.column);
@@ -153,15 +159,17 @@ void SheetView::leaveTable(bool forward) {
   focusNextPrevChild(forward);
 }
 
-/// An open cell that was scrolled away comes back.
+/// An open cell that was scrolled away comes back; one that a command closed is typed on.
 void SheetView::keyForCell(QKeyEvent* event) {
   const bool wasOpen = sheet_.Editing();
   if (wasOpen) {
     grid_.goTo(openCell());
     editors_.entry().setFocus(Qt::OtherFocusReason);
   } else {
+    const auto caret = std::exchange(caret_, std::nullopt);
     open(grid_.current());
     column_ = sheet_.cursorColumn();
+    if (caret) editors_.entry().setCursorPosition(*caret);
   }
   const int key = event->key();
   const bool onlyOpens = key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_F2;

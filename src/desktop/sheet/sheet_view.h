@@ -73,6 +73,9 @@ class SheetView : public QWidget {
   std::optional<int> helpHeight_;  ///< twips, once the author has chosen it
   int column_ = column::Normal;    ///< in which Enter, Up and Down go on
   std::size_t fillings_ = 0;
+  bool isActing_ = false;
+  /// Where the author was typing as a command, such as saving, closed the cell.
+  std::optional<int> caret_;
 };
 
 }  // namespace nimbrel
