@@ -222,7 +222,7 @@ void MainView::changeEvent(QEvent* event) {
 }
 
 void MainView::drawIcons() {
-  const auto ink = tree_.palette().color(QPalette::Text);
+  const auto ink = palette().color(QPalette::Text);
   model_.setIcons(drawnIcon("node-menu", ink), drawnIcon("node-submenu", ink), drawnIcon("node-item", ink));
   tree_.viewport()->update();
   commands_.drawIcons();

@@ -106,6 +106,17 @@ TEST_F(StructureEditing, StopsWhereTheCounterIsUsedUp) {
   EXPECT_EQ(document.ElementColl.size(), document.tvTreeView.size());
 }
 
+TEST_F(StructureEditing, MakesNoSecondRootBesideAnItemThatAFileMadeOne) {
+  Document foreign;
+  foreign.tvTreeView.addRoot("I1", "Root");
+  foreign.ElementColl.add("I1", ItemObj{});
+  CopySubtree(document, node("I1"), clipboard);
+  EXPECT_EQ(PasteSubtree(foreign, *foreign.tvTreeView.root(), clipboard), nullptr);
+  EXPECT_EQ(AddItem(foreign, "I1"), nullptr);
+  EXPECT_FALSE(canMoveUp(*foreign.tvTreeView.root()));
+  EXPECT_EQ(shape(foreign), "I1");
+}
+
 TEST_F(StructureEditing, TheNeighbourFollowsWhatGoes) {
   EXPECT_EQ(neighbourOf(node("I1")), &node("I2"));
   EXPECT_EQ(neighbourOf(node("I3")), &node("I2"));

@@ -37,6 +37,17 @@ TEST(MenuFile, IsReadBackEqual) {
   }
 }
 
+TEST(MenuFile, WithACommaInItsHeaderIsReadBackWhole) {
+  Document document;
+  BuildDefaultDocument(document);
+  document.settings.CompiledPath = "C:\\site, one";
+  document.settings.nbrSubmenusFrame = "a \"b\",\nc";
+  auto read = readBytes(menuFileText(document));
+  EXPECT_EQ(read.settings.nbrSubmenusFrame, "a 'b', c") << "a likeness, rather than a file that cannot be read";
+  read.settings.nbrSubmenusFrame = document.settings.nbrSubmenusFrame;
+  EXPECT_EQ(read, document);
+}
+
 TEST(MenuFile, OfTheGreatestSizeIsReadBackEqual) {
   const Document document = largeDocument(32767);
   EXPECT_EQ(document.tvTreeView.size(), 32767U);
