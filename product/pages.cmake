@@ -51,6 +51,15 @@ foreach(number RANGE 5)
   list(APPEND staged ${library})
 endforeach()
 
+file(GLOB gallery_sources CONFIGURE_DEPENDS gallery/*)
+set(styles_made ${CMAKE_CURRENT_BINARY_DIR}/styles.stamp)
+add_custom_command(OUTPUT ${styles_made}
+  COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/gallery/make_styles.py --nbrc $<TARGET_FILE:nbrc> --rsvg-convert ${RSVG_CONVERT}
+          --home ${NIMBREL_STAGE} ${CMAKE_CURRENT_BINARY_DIR}/styles
+  COMMAND ${CMAKE_COMMAND} -E touch ${styles_made}
+  DEPENDS ${gallery_sources} ${compiler} COMMENT "Styles" VERBATIM)
+list(APPEND staged ${styles_made})
+
 file(GLOB_RECURSE example_sources CONFIGURE_DEPENDS "Live Examples/*")
 set(examples_made ${CMAKE_CURRENT_BINARY_DIR}/live-examples.stamp)
 add_custom_command(OUTPUT ${examples_made}

@@ -62,6 +62,8 @@ void CommandActions::makeMenuBar() {
     }
     auto* action = makeAction(entry.name, entry.caption);
     action->setShortcut(QKeySequence(shown(entry.shortcut)));
+    // The preview is asked for again from its own window too.
+    if (entry.name == "mnuToolsPreview") action->setShortcutContext(Qt::ApplicationShortcut);
     action->setCheckable((entry.state & Checked) != 0);
     action->setProperty(topicProperty, entry.helpTopic);
     deepest->addAction(action);

@@ -11,6 +11,8 @@
 #include <QWebEnginePage>
 #include <QWebEngineView>
 #include <filesystem>
+#include <memory>
+#include <optional>
 #include <stdexcept>
 #include <unistd.h>
 
@@ -146,14 +148,12 @@ void DesktopRun::select(const char* key) {
 QVariant DesktopRun::evaluate(FormWindow& window, const QString& script) {
   auto* browser = window.findChild<BrowserView*>();
   if (browser == nullptr || browser->view() == nullptr) return {};
-  QVariant result;
-  bool isThere = false;
-  browser->view()->page()->runJavaScript(script, [&](const QVariant& value) {
-    result = value;
-    isThere = true;
-  });
-  waitFor([&] { return isThere; });
-  return result;
+  // A page that goes away takes the answer with it, or gives it when nobody waits any longer.
+  const auto answer = std::make_shared<std::optional<QVariant>>();
+  browser->view()->page()->runJavaScript(script, [answer](const QVariant& value) { *answer = value; });
+  constexpr int patience = 400;
+  waitFor([&] { return answer->has_value(); }, patience);
+  return answer->value_or(QVariant());
 }
 
 }  // namespace nimbrel

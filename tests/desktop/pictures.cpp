@@ -1,4 +1,5 @@
 // Takes the pictures of docs/pictures from the running program, into the folder of its first argument.
+#include <QAbstractItemView>
 #include <QDir>
 #include <QPalette>
 #include <QPushButton>
@@ -37,11 +38,20 @@ class Photographer {
     auto& view = run_.view();
     constexpr QSize size(1000, 640);
     view.resize(size);
-    for (const auto* key : {"M0", "S4", "I1"}) {
-      auto* node = run_.main().document.tvTreeView.find(key);
-      if (node != nullptr) run_.select(key);
-      take(view, QString("sheet-") + (key[0] == 'M' ? "menu" : key[0] == 'S' ? "submenu" : "item"));
+    run_.select("M0");
+    take(view, "sheet-menu");
+    for (Node* node = run_.main().document.tvTreeView.root(); node != nullptr; node = following(node)) {
+      if (kindOf(node->Key) != Kind::Submenu) continue;
+      run_.select(node->Key.c_str());
+      break;
     }
+    take(view, "sheet-submenu");
+    run_.select("I1");
+    auto* grid = view.sheet(Kind::Item).findChild<QAbstractItemView*>();
+    constexpr int colourRow = 18;
+    const auto cell = grid->visualRect(grid->model()->index(colourRow, column::MouseOver));
+    QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, cell.center());
+    take(view, "sheet-item");
     takeModal("mnuHelpAbout", {"about"});
     takeModal("mnuHelpTipOfTheDay", {"tip"});
     takeModal("mnuToolsCompileProperties", {"compile-properties"});

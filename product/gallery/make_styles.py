@@ -1,0 +1,90 @@
+#!/usr/bin/python3
+"""Makes the styles of the gallery from styles.json: make_styles.py --nbrc PATH --rsvg-convert PATH --home STAGE WORK_DIR
+
+Each style is set on a new menu through the program's own property sheets, by a macro, and saved as an author saves one,
+so that its file is as the program writes it. Its arrows are drawn here, in the colours of its texts.
+"""
+import argparse
+import json
+import subprocess
+from pathlib import Path
+
+HERE = Path(__file__).parent
+STATES = (1, 3, 4)  # columns of an item's sheet
+
+# Rows of the sheets, by what they hold.
+MENU = {"titlePadding": 20, "titleFont": 21, "titleSize": 22, "titleBold": 23, "titleText": 26, "titleBg": 27, "bg": 31, "borderStyle": 33,
+        "borderWidth": 34, "borderColour": 35, "gap": 36}
+ITEM = {"alignment": 4, "padding": 7, "font": 8, "size": 9, "bold": 10, "underline": 12, "text": 13, "arrow": 14, "borderStyle": 15,
+        "borderWidth": 16, "borderColour": 17, "bg": 18}
+
+ARROWS = {
+    "triangle": '<path d="M3 1.5 7.5 5 3 8.5z" fill="{0}"/>',
+    "chevron": '<path d="m3 1.5 4 3.5-4 3.5" fill="none" stroke="{0}" stroke-width="1.6"/>',
+}
+
+
+def styles():
+    table = json.loads((HERE / "styles.json").read_text(encoding="utf-8"))
+    return [table["defaults"] | style for style in table["styles"]]
+
+
+def quoted(text):
+    return '"' + str(text).replace("\\", "\\\\").replace('"', '\\"') + '"'
+
+
+def arrow(style, colour, converter, folder):
+    drawing = folder / f"arrow-{style['arrow']}-{colour[1:]}.svg"
+    picture = drawing.with_suffix(".png")
+    if not picture.exists():
+        drawing.write_text('<svg xmlns="http://www.w3.org/2000/svg" width="10" height="10" viewBox="0 0 10 10">'
+                           + ARROWS[style["arrow"]].format(colour) + "</svg>\n", encoding="utf-8")
+        subprocess.run([converter, "-o", picture, drawing], check=True)
+    return str(picture).replace("/", "\\")  # as sheets hold paths
+
+
+def macro_of(style, converter, folder):
+    """The statements that give a new menu this look and save it."""
+    def edit(row, column, value):
+        return f"edit {row} {column} {quoted(value)}"
+
+    border, over = style["border"], 1
+    title = {"titlePadding": style["padding"] - 2, "titleFont": style["font"], "titleSize": style["size"], "titleBold": "yes",
+             "titleText": style["text"][over], "titleBg": style["item"][over] or style["bg"], "bg": style["bg"],
+             "borderStyle": border[0], "borderWidth": border[1], "borderColour": border[2], "gap": style["gap"]}
+    lines = ["select M0"]
+    lines += [edit(MENU[name], 1, value) for name, value in title.items()]
+    lines.append("select I1")
+    kind, width, colours = style["itemBorder"]
+    for state, column in enumerate(STATES):
+        item = {"alignment": "Left", "padding": style["padding"], "font": style["font"], "size": style["size"],
+                "bold": style["bold"][state], "underline": style.get("underline", ["no"] * 3)[state],
+                "text": style["text"][state], "arrow": arrow(style, style["text"][state], converter, folder),
+                "borderStyle": kind, "borderWidth": width, "borderColour": colours[state],
+                "bg": style["item"][state]}
+        lines += [edit(ITEM[name], column, value) for name, value in item.items()]
+    lines += ["form frmSaveStyle " + quoted("txtStyleName=" + style["name"]) + " btnOk!", "run mnuStyleSaveStyle"]
+    return [*lines, "answer No", "run mnuFileNew"]
+
+
+def main():
+    words = argparse.ArgumentParser(description="Makes the styles of the gallery.")
+    words.add_argument("--nbrc", type=Path, required=True)
+    words.add_argument("--rsvg-convert", required=True)
+    words.add_argument("--home", type=Path, required=True, help="the program's folder, whose gallery takes the styles")
+    words.add_argument("work", type=Path)
+    given = words.parse_args()
+    given.work.mkdir(parents=True, exist_ok=True)
+    for style in styles():  # one that is there would be asked about
+        (given.home / "gallery" / (style["name"] + ".nbs")).unlink(missing_ok=True)
+    macro = given.work / "styles.macro"
+    lines = [line for style in styles() for line in macro_of(style, given.rsvg_convert, given.work.resolve())]
+    macro.write_text("\n".join(lines) + "\n", encoding="utf-8")
+    run = subprocess.run([given.nbrc, "--home", given.home, "play", macro], capture_output=True, text=True)
+    saved = run.stdout.count("Style created successfully")
+    if run.returncode != 0 or saved != len(styles()):
+        raise SystemExit(f"{saved} of {len(styles())} styles were saved\n{run.stderr}{run.stdout[-2000:]}")
+
+
+if __name__ == "__main__":
+    main()
