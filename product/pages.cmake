@@ -42,7 +42,11 @@ endforeach()
 # The main menu goes to the frame beside the one in which its submenus open.
 nimbrel_stage_pages(brasswick menu.js nav.html menu_sub.js first-week.html hours.html safety.html welcome.html)
 
-# The preview of a style finds its libraries in the gallery.
+# The preview of a style finds its libraries and its marker picture in the gallery.
+set(marker ${NIMBREL_STAGE}/gallery/nbrmenupath.gif)
+add_custom_command(OUTPUT ${marker}
+  COMMAND ${CMAKE_COMMAND} -E copy ${CMAKE_CURRENT_SOURCE_DIR}/dot.gif ${marker} DEPENDS dot.gif VERBATIM)
+list(APPEND staged ${marker})
 foreach(number RANGE 5)
   set(library ${NIMBREL_STAGE}/gallery/nbrData/nbrlib${number}.js)
   add_custom_command(OUTPUT ${library}

@@ -11,7 +11,7 @@ namespace nimbrel {
 Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
   setApplicationName("Nimbrel");
   setApplicationDisplayName("Nimbrel");
-  setDesktopFileName("nimbrel");
+  setDesktopFileName("example.nimbrel.Nimbrel");
   setQuitOnLastWindowClosed(false);
 }
 

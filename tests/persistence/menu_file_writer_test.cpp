@@ -43,7 +43,8 @@ TEST(MenuFile, WithACommaInItsHeaderIsReadBackWhole) {
   document.settings.CompiledPath = "C:\\site, one";
   document.settings.nbrSubmenusFrame = "a \"b\",\nc";
   auto read = readBytes(menuFileText(document));
-  EXPECT_EQ(read.settings.nbrSubmenusFrame, "a 'b', c") << "a likeness, rather than a file that cannot be read";
+  EXPECT_EQ(read.settings.nbrSubmenusFrame, "a 'b', c")
+      << "a likeness, rather than a file that cannot be read";
   read.settings.nbrSubmenusFrame = document.settings.nbrSubmenusFrame;
   EXPECT_EQ(read, document);
 }

@@ -59,6 +59,33 @@ TEST_F(ProgramFolder, ElseIsThePerUserFolderThatTheFirstStartFills) {
   EXPECT_TRUE(fs::exists(root_ / "data/nimbrel/libraries"));
 }
 
+TEST_F(ProgramFolder, ANewerVersionLeavesTheAuthorsWorkAlone) {
+  const std::string product = "share/nimbrel/";
+  const std::string perUser = "home/.local/share/nimbrel/";
+  for (const auto* file : {"kept.html", "changed.html", "deleted.html", "gone.html"}) {
+    root_.write(product + file, "old");
+  }
+  start("");
+  root_.write(perUser + "changed.html", "the author's");
+  root_.write(perUser + "own.nbs", "the author's");
+  fs::remove(root_ / (perUser + "deleted.html"));
+
+  for (const auto* file : {"kept.html", "changed.html", "deleted.html", "added.html"}) {
+    root_.write(product + file, "new");
+  }
+  fs::remove(root_ / (product + "gone.html"));
+  start("");
+  EXPECT_EQ(root_.read(perUser + "kept.html"), "old") << "the same version changes nothing";
+  auto list = root_.read(perUser + ".installed");
+  root_.write(perUser + ".installed", "1" + list.substr(list.find('\n')));
+  start("");
+  EXPECT_EQ(root_.read(perUser + "kept.html"), "new");
+  EXPECT_EQ(root_.read(perUser + "added.html"), "new");
+  EXPECT_EQ(root_.read(perUser + "changed.html"), "the author's");
+  EXPECT_EQ(root_.read(perUser + "own.nbs"), "the author's");
+  EXPECT_FALSE(fs::exists(root_ / (perUser + "deleted.html")) || fs::exists(root_ / (perUser + "gone.html")));
+}
+
 TEST_F(ProgramFolder, TakesUpAFillingThatWasCutOff) {
   fs::create_directories(root_ / "home/.local/share/nimbrel.new/libraries");
   root_.write("home/.local/share/nimbrel.new/libraries/half.js", "half");

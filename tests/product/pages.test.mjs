@@ -1,6 +1,6 @@
 // What lies beside the program for authors to look at: the samples and the live examples, as the build stages them.
 import assert from 'node:assert/strict';
-import { existsSync, mkdtempSync, readdirSync, readFileSync, rmSync } from 'node:fs';
+import { cpSync, existsSync, mkdtempSync, readdirSync, readFileSync, rmSync, writeFileSync } from 'node:fs';
 import { tmpdir } from 'node:os';
 import { basename, join } from 'node:path';
 import { after, before, test } from 'node:test';
@@ -113,6 +113,23 @@ inEachBrowser((name, open) => {
       }
     });
   }
+
+  test('each style of the gallery has a preview without a fault', async () => {
+    const home = mkdtempSync(join(tmpdir(), 'nimbrel-styles-'));
+    try {
+      for (const part of ['libraries', 'gallery', 'dot.gif', 'stylepreview-back.jpg']) {
+        cpSync(join(bin, part), join(home, part), { recursive: true });
+      }
+      for (const style of namesIn(join(home, 'gallery'), '.nbs')) {
+        const macro = join(home, 'show.macro');
+        writeFileSync(macro, `form frmGallery "cboStyle=${basename(style, '.nbs')}" btnCancel!\nrun mnuStyleOpenStyleLibrary\n`);
+        nbrc('--home', home, 'play', macro);
+        await visit(addressOf(home, 'gallery', 'stylepreview.html'), 1, (shown) => [shown.mainFrame()], opensSubmenu);
+      }
+    } finally {
+      rmSync(home, { recursive: true });
+    }
+  });
 
   for (const [kind, group] of Object.entries(table)) {
     test(`each live example of the ${kind} sheet shows a menu for each setting, without a fault`, async () => {

@@ -63,6 +63,26 @@ class Includes(unittest.TestCase):
                     self.assertIn({"library": folder, "posix": "platform"}.get(name, name), [folder, *layers])
 
 
+class Documents(unittest.TestCase):
+    def test_their_links_lead_somewhere(self):
+        elsewhere = {"build", "node_modules", "out"}
+        for page in SOURCE.rglob("*.md"):
+            name = page.relative_to(SOURCE).as_posix()
+            if name.split("/")[0] in elsewhere or name.startswith("product/help/pages/"):
+                continue  # pages of the help are made by a script that stops at a dead link
+            for target in re.findall(r"\]\(([^)#]+)(?:#[^)]*)?\)", page.read_text()):
+                with self.subTest(page=name, link=target):
+                    self.assertTrue("://" in target or (page.parent / target).exists())
+
+    def test_the_desktop_takes_what_is_installed_for_it(self):
+        folder = SOURCE / "packaging/desktop"
+        output("desktop-file-validate", *map(str, folder.glob("*.desktop")))
+        output("mandoc", "-T", "lint", "-W", "warning", str(SOURCE / "packaging/man/Nimbrel.1"))
+        output("xmllint", "--noout", str(folder / "nimbrel.xml"))
+        output("appstreamcli", "validate", "--no-net",
+               str(STAGE.parent / "packaging/example.nimbrel.Nimbrel.metainfo.xml"))
+
+
 class Manual(unittest.TestCase):
     def test_it_is_well_formed_and_whole(self):
         page = str(SOURCE / "packaging/man/nbrc.1")

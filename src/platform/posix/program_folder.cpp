@@ -4,8 +4,7 @@
 #include <filesystem>
 #include <system_error>
 
-#include "platform/file_error.h"
-#include "platform/posix/host_paths.h"
+#include "platform/posix/product_copy.h"
 
 namespace nimbrel {
 namespace {
@@ -33,17 +32,6 @@ bool holdsLibraries(const fs::path& folder) {
   return fs::is_directory(folder / "libraries", error);
 }
 
-/// Copies the installed product files, all or nothing: the folder takes its name once it is whole.
-void fill(const fs::path& folder, const fs::path& product) {
-  std::error_code error;
-  const fs::path unfinished = folder.string() + ".new";
-  fs::remove_all(unfinished, error);
-  fs::create_directories(folder.parent_path(), error);
-  fs::copy(product, unfinished, fs::copy_options::recursive, error);
-  if (!error) fs::rename(unfinished, folder, error);
-  if (error) throw FileError(fromHostPath(folder.string()), error.message());
-}
-
 }  // namespace
 
 std::string programFolder(const std::optional<std::string>& asked) {
@@ -54,7 +42,12 @@ std::string programFolder(const std::optional<std::string>& asked) {
 
   const fs::path folder = perUserFolder();
   const fs::path product = beside.parent_path() / "share" / "nimbrel";
-  if (!holdsLibraries(folder) && holdsLibraries(product)) fill(folder, product);
+  if (!holdsLibraries(product)) return folder.string();
+  if (holdsLibraries(folder)) {
+    updateProductCopy(product, folder);
+  } else {
+    makeProductCopy(product, folder);
+  }
   return folder.string();
 }
 

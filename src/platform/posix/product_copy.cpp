@@ -1,0 +1,120 @@
+#include "platform/posix/product_copy.h"
+
+#include <cstdint>
+#include <fstream>
+#include <iterator>
+#include <map>
+#include <optional>
+#include <string>
+#include <system_error>
+
+#include "platform/file_error.h"
+#include "platform/posix/host_paths.h"
+#include "text/product.h"
+
+namespace nimbrel {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* listName =
+    ".installed";  // a line of the version, then a line a file: its mark, blank, its path
+
+std::optional<std::string> contents(const fs::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  if (!file) return std::nullopt;
+  return std::string(std::istreambuf_iterator<char>(file), {});
+}
+
+/// Tells two versions of a file apart; not made to withstand anyone's intent.
+std::string mark(const std::string& bytes) {
+  std::uint64_t hash = 14'695'981'039'346'656'037U;
+  for (const char byte : bytes) {
+    hash ^= static_cast<unsigned char>(byte);
+    hash *= 1'099'511'628'211U;
+  }
+  return std::to_string(hash);
+}
+
+using Marks = std::map<std::string, std::string>;  // by path below the folder
+
+Marks marksOf(const fs::path& folder) {
+  Marks marks;
+  std::error_code error;
+  for (fs::recursive_directory_iterator it(folder, error), end; !error && it != end; it.increment(error)) {
+    if (!it->is_regular_file(error) || it->path().filename() == listName) continue;
+    if (const auto bytes = contents(it->path()))
+      marks[it->path().lexically_relative(folder).string()] = mark(*bytes);
+  }
+  return marks;
+}
+
+/// The version and the marks of the list; the version is empty where there is none.
+std::pair<std::string, Marks> readList(const fs::path& copy) {
+  std::ifstream list(copy / listName);
+  std::string version;
+  std::getline(list, version);
+  Marks marks;
+  for (std::string one, path; list >> one && std::getline(list.ignore(), path);) marks[path] = one;
+  return {version, marks};
+}
+
+bool writeList(const fs::path& copy, const Marks& marks) {
+  const fs::path unfinished = copy / (std::string(listName) + ".new");
+  {
+    std::ofstream list(unfinished);
+    list << productBuild << '\n';
+    for (const auto& [path, one] : marks) list << one << ' ' << path << '\n';
+    if (!list.flush()) return false;
+  }
+  std::error_code error;
+  fs::rename(unfinished, copy / listName, error);
+  return !error;
+}
+
+/// In place of an older one, whole or not at all.
+bool replaceFile(const fs::path& from, const fs::path& to) {
+  std::error_code error;
+  const fs::path unfinished = to.string() + ".new";
+  fs::create_directories(to.parent_path(), error);
+  fs::copy_file(from, unfinished, fs::copy_options::overwrite_existing, error);
+  if (!error) fs::rename(unfinished, to, error);
+  return !error;
+}
+
+}  // namespace
+
+void makeProductCopy(const fs::path& product, const fs::path& copy) {
+  std::error_code error;
+  const fs::path unfinished = copy.string() + ".new";
+  fs::remove_all(unfinished, error);
+  fs::create_directories(copy.parent_path(), error);
+  fs::copy(product, unfinished, fs::copy_options::recursive, error);
+  if (!error && !writeList(unfinished, marksOf(product))) error = std::make_error_code(std::errc::io_error);
+  if (!error) fs::rename(unfinished, copy, error);
+  if (error) throw FileError(fromHostPath(copy.string()), error.message());
+}
+
+void updateProductCopy(const fs::path& product, const fs::path& copy) {
+  const auto [version, before] = readList(copy);
+  if (version == productBuild) return;
+  const auto installed = marksOf(product);
+  const auto own = marksOf(copy);
+  const auto isUntouched = [&](const std::string& path) {
+    const auto was = before.find(path);
+    const auto is = own.find(path);
+    return was != before.end() && is != own.end() && was->second == is->second;
+  };
+  bool isWhole = true;
+  for (const auto& [path, one] : installed) {
+    const bool isNew = !before.contains(path) && !own.contains(path);
+    if (isNew || isUntouched(path)) isWhole &= replaceFile(product / path, copy / path);
+  }
+  for (const auto& [path, one] : before) {
+    std::error_code error;
+    if (!installed.contains(path) && isUntouched(path)) fs::remove(copy / path, error);
+  }
+  if (isWhole) writeList(copy, installed);
+}
+
+}  // namespace nimbrel
