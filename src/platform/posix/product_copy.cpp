@@ -49,14 +49,18 @@ Marks marksOf(const fs::path& folder) {
   return marks;
 }
 
-/// The version and the marks of the list; the version is empty where there is none.
-std::pair<std::string, Marks> readList(const fs::path& copy) {
-  std::ifstream list(copy / listName);
+/// What was installed; the version is empty where no list tells.
+struct Installed {
   std::string version;
-  std::getline(list, version);
   Marks marks;
-  for (std::string one, path; list >> one && std::getline(list.ignore(), path);) marks[path] = one;
-  return {version, marks};
+};
+
+Installed readList(const fs::path& copy) {
+  std::ifstream list(copy / listName);
+  Installed installed;
+  std::getline(list, installed.version);
+  for (std::string one, path; list >> one && std::getline(list.ignore(), path);) installed.marks[path] = one;
+  return installed;
 }
 
 bool writeList(const fs::path& copy, const Marks& marks) {
@@ -96,8 +100,9 @@ void makeProductCopy(const fs::path& product, const fs::path& copy) {
 }
 
 void updateProductCopy(const fs::path& product, const fs::path& copy) {
-  const auto [version, before] = readList(copy);
-  if (version == productBuild) return;
+  const auto old = readList(copy);
+  if (old.version == productBuild) return;
+  const auto& before = old.marks;
   const auto installed = marksOf(product);
   const auto own = marksOf(copy);
   const auto isUntouched = [&](const std::string& path) {
