@@ -1,10 +1,12 @@
+#include <QLabel>
+#include <QLayout>
 #include <QPixmap>
-#include <QSplashScreen>
 #include <QTimer>
 #include <unistd.h>
 
 #include "desktop/application.h"
 #include "desktop/desktop_program.h"
+#include "desktop/form_window.h"
 #include "desktop/shown_text.h"
 #include "platform/posix/host_paths.h"
 #include "platform/posix/program_folder.h"
@@ -22,6 +24,19 @@ std::string commandLine(const QStringList& arguments) {
   return nimbrel::heldPath(arguments.mid(1).join(' '));
 }
 
+/// Stands while the rest loads.
+void showAtOnce(nimbrel::frmSplash& splash, nimbrel::FormWindow& window) {
+  const QSize size(nimbrel::frmSplash::width, nimbrel::frmSplash::height);
+  window.setWindowFlags(Qt::SplashScreen | Qt::FramelessWindowHint);
+  window.layout()->setContentsMargins(0, 0, 0, 0);
+  window.findChild<QLabel*>("Picture1")->setPixmap(QIcon(":/icons/splash.svg").pixmap(size));
+  window.setFixedSize(size);
+  splash.isOpen = true;
+  window.refresh();
+  window.show();
+  QCoreApplication::processEvents();
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -29,15 +44,13 @@ int main(int argc, char** argv) {
   QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
   nimbrel::Application application(argc, argv);
 
-  QSplashScreen splash(
-      QIcon(":/icons/splash.svg").pixmap(nimbrel::frmSplash::width, nimbrel::frmSplash::height));
-  splash.setObjectName("frmSplash");
-  splash.show();
-  QCoreApplication::processEvents();
+  nimbrel::frmSplash splash;
+  nimbrel::FormWindow splashWindow(splash);
+  showAtOnce(splash, splashWindow);
 
   const auto folder = nimbrel::absoluteHostPath(nimbrel::programFolder(std::nullopt));
   nimbrel::DesktopProgram program(application, folder);
-  splash.close();
+  splashWindow.hide();
   // Within the event loop, where a fault is told and the program goes on.
   QTimer::singleShot(0, &application, [&] { program.start(commandLine(QCoreApplication::arguments())); });
   return QCoreApplication::exec();
