@@ -45,7 +45,7 @@ std::string saved(MemoryFileSystem& files, const Document& sample) {
   StepReport report;
   const auto& menu = std::get<MenuObj>(*sample.ElementColl.find("M0"));
   const auto& item = std::get<ItemObj>(*sample.ElementColl.find("I2"));  // keeps the mark of a submenu
-  SaveStyle(files, program, "saved", styleOfMenu(menu, &item), report);
+  SaveStyle(files, program, "saved", styleOfMenu(&menu, &item), report);
   return files.read(styleFilePath(program, "saved"));
 }
 
