@@ -87,8 +87,7 @@ class Call {
 
 // The shared runs of arguments, in the order of the runtime's parameters.
 
-template <class Container>
-void titleText(Call& call, const Container& container, const SharedText& name) {
+void titleText(Call& call, const TitledContainer& container, const SharedText& name) {
   call.id(container.ContainerStyleID);
   call.idOrNull(container.TitleStyleID);
   if (container.DisplayNameAsTitle == 1) {
@@ -100,8 +99,7 @@ void titleText(Call& call, const Container& container, const SharedText& name) {
 }
 
 /// `hasImage` is what the form at hand takes for "there is a title image".
-template <class Container>
-void titleImage(Call& call, const Container& container, bool hasImage) {
+void titleImage(Call& call, const TitledContainer& container, bool hasImage) {
   constexpr std::uint8_t noTitle = 2;
   if (container.DisplayNameAsTitle != noTitle && hasImage) {
     call.number(container.TitleImageNo - 1);
@@ -115,8 +113,7 @@ void titleImage(Call& call, const Container& container, bool hasImage) {
   }
 }
 
-template <class Container>
-void items(Call& call, const Container& container, std::uint8_t type) {
+void items(Call& call, const TitledContainer& container, std::uint8_t type) {
   call.number(container.DistanceBetweenItems);
   if (type == 0) {
     call.constant("1");

@@ -93,8 +93,7 @@ void appendContent(std::string& call, char marker, const Look& look) {
   call += ')';
 }
 
-template <class Container>
-void appendTitle(std::string& call, const Container& c) {
+void appendTitle(std::string& call, const TitledContainer& c) {
   if (c.DisplayNameAsTitle == 0 && c.TitleImage == notSet) return;
   constexpr float noImage = 0;
   appendContent(call, '1',
@@ -103,8 +102,7 @@ void appendTitle(std::string& call, const Container& c) {
                  c.TitleBorderStyle, c.TitleBorderWidth, c.TitleBorderColor, c.TitlePadding, c.TitleCursor});
 }
 
-template <class Container>
-void appendContainer(std::string& call, const Container& c) {
+void appendContainer(std::string& call, const TitledContainer& c) {
   call += "nbrCreateCSS(0,1,0,n,";
   appendColor(call, c.BGColor);
   call += ',';

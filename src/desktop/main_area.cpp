@@ -11,10 +11,6 @@ namespace {
 
 constexpr int gripWidth = 40 / twipsPerPixel + 2;  // fills the gap ahead of the sheets
 
-QRect pixels(const Rectangle& twips) {
-  return {toPixels(twips.left), toPixels(twips.top), toPixels(twips.width), toPixels(twips.height)};
-}
-
 }  // namespace
 
 MainArea::MainArea(QWidget& tree, std::vector<QWidget*> sheets, QWidget* parent)
@@ -63,13 +59,13 @@ void MainArea::setSplitter(int pixelsFromLeft) {
 void MainArea::layOut() {
   if (width() == 0 || height() == 0) return;
   const auto layout = SizeControls(measures(*this, title_), toTwips(splitter_));
-  title_.setGeometry(pixels(layout.lblMenuTitle).adjusted(0, 0, 0, 0));
+  title_.setGeometry(toPixels(layout.lblMenuTitle));
   title_.resize(title_.width(), title_.sizeHint().height());
-  tree_.setGeometry(pixels(layout.tvTreeView));
-  auto grip = pixels(layout.imgSplitter);
+  tree_.setGeometry(toPixels(layout.tvTreeView));
+  auto grip = toPixels(layout.imgSplitter);
   grip.setWidth(gripWidth);
   grip_.setGeometry(grip);
-  for (auto* sheet : sheets_) sheet->setGeometry(pixels(layout.sheets));
+  for (auto* sheet : sheets_) sheet->setGeometry(toPixels(layout.sheets));
 }
 
 void MainArea::resizeEvent(QResizeEvent* event) {
@@ -84,11 +80,10 @@ bool MainArea::eventFilter(QObject* watched, QEvent* event) {
 
 bool MainArea::drag(QEvent& event) {
   const auto window = measures(*this, title_);
-  const Rectangle grip{toTwips(grip_.x()), toTwips(grip_.y()), toTwips(grip_.width()),
-                       toTwips(grip_.height())};
+  const auto grip = toTwips(grip_.geometry());
   switch (event.type()) {
     case QEvent::MouseButtonPress:
-      bar_.setGeometry(pixels(splitterBar(grip)));
+      bar_.setGeometry(toPixels(splitterBar(grip)));
       bar_.show();
       bar_.raise();
       isDragged_ = true;

@@ -2,13 +2,13 @@
 
 #include <span>
 
-#include "model/properties.h"
+#include "model/titled_container.h"
 
 namespace nimbrel {
 
 /// The main menu, its title and its container, the box in which its items stand.
 /// A new object holds empty texts and zeros until `SetDefaultValues` or a reader fills it.
-struct MenuObj {
+struct MenuObj : TitledContainer {
   SharedText menuname;        ///< name of the main menu; its node text
   std::uint8_t MenuType = 0;  ///< layout of the main menu (vertical, horizontal, horizontal menubar)
   std::uint8_t Movable = 0;   ///< the user of the page can drag the menu
@@ -18,43 +18,8 @@ struct MenuObj {
   float VerticalDistanceFromCorner = 0;    ///< vertical distance from that edge
   std::uint8_t StickySubmenus = 0;         ///< submenus stay open
   float ZIndex = 0;                        ///< stacking order value of the menu
-  std::uint8_t DisplayNameAsTitle = 0;     ///< what the title shows (name and image, image only, no title)
   std::uint8_t Collapsable = 0;            ///< the main menu is a popup
   std::uint8_t MenuHow = 0;                ///< how the main menu appears (instantly, unfolding)
-  std::uint8_t UnfoldDirection = 0;        ///< direction of unfolding
-  SharedText TitleImage;                   ///< image file of the title
-  std::uint8_t TitleImageAlignment = 0;    ///< position of the image against the text
-  std::uint8_t TitleTextAlignment = 0;     ///< alignment of the title content
-  SharedText TitleTooltip;                 ///< tooltip of the title
-  std::uint8_t TitleCursor = 0;            ///< mouse cursor over the title, by list position
-  float TitlePadding = 0;                  ///< padding of the title
-  SharedText TitleFontFamily;              ///< font of the title
-  SharedText TitleFontSize;                ///< font size of the title, as text with unit or keyword
-  std::uint8_t TitleFontBold = 0;          ///< title text bold
-  std::uint8_t TitleFontItalic = 0;        ///< title text italic
-  std::uint8_t TitleFontUnderlined = 0;    ///< title text underlined
-  SharedText TitleFontColor;               ///< colour of the title text
-  SharedText TitleBGColor;                 ///< background colour of the title
-  SharedText TitleBorderStyle;             ///< border style of the title
-  std::uint8_t TitleBorderWidth = 0;       ///< border width of the title
-  SharedText TitleBorderColor;             ///< border colour of the title
-  SharedText BGColor;                      ///< background colour of the container
-  SharedText BGImage;                      ///< background image file of the container
-  SharedText BorderStyle;                  ///< border style of the container
-  std::uint8_t BorderWidth = 0;            ///< border width of the container
-  SharedText BorderColor;                  ///< border colour of the container
-  float DistanceBetweenItems = 0;          ///< space between items
-  std::uint8_t UniformItemWidths = 0;      ///< all items get one width
-  std::uint8_t UniformItemHeights = 0;     ///< all items get one height
-  SharedText JavascriptOnOpen;             ///< script run when the element opens
-  SharedText JavascriptOnClose;            ///< script run when the element closes
-
-  // Calculated by each compile, never stored, copied or compared: the numbers of shared styles as text
-  // (empty: none) and of images in the compiled menu (from 1, 0: none).
-  SharedText ContainerStyleID;
-  SharedText TitleStyleID;
-  float TitleImageNo = 0;
-  float BGImageNo = 0;
 
   /// The stored properties in file order.
   static constexpr std::span<const Property<MenuObj>> properties();

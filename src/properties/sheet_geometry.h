@@ -4,20 +4,12 @@
 #include <cstddef>
 #include <functional>
 
+#include "platform/box.h"
 #include "properties/property_row.h"
 
 /// Where the parts of a property sheet stand. All lengths are twips, places are relative to the sheet; cells
 /// are given as the grid gives them, relative to the grid.
 namespace nimbrel {
-
-struct Box {
-  int left = 0;
-  int top = 0;
-  int width = 0;
-  int height = 0;
-
-  bool operator==(const Box&) const = default;
-};
 
 /// What a screen and its fonts say.
 struct SheetMetrics {

@@ -38,7 +38,7 @@ int splitterBarLeft(const WindowMeasures& window, int gripLeft, int pointerX) {
   return kept(gripLeft + pointerX, window.formWidth, barMargin);
 }
 
-Rectangle splitterBar(const Rectangle& grip) {
+Box splitterBar(const Box& grip) {
   constexpr int shorter = 20;
   return {grip.left, grip.top, grip.width / 2, grip.height - shorter};
 }

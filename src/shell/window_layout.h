@@ -1,15 +1,9 @@
 #pragma once
 
+#include "platform/box.h"
+
 /// Where the parts of the main window go. All lengths are twips, 1/1440 inch, from the inner upper left corner.
 namespace nimbrel {
-
-struct Rectangle {
-  int left = 0;
-  int top = 0;
-  int width = 0;
-  int height = 0;
-  bool operator==(const Rectangle&) const = default;
-};
 
 /// What the layout of the main window depends on.
 struct WindowMeasures {
@@ -26,10 +20,10 @@ struct WindowMeasures {
 };
 
 struct WindowLayout {
-  Rectangle lblMenuTitle;
-  Rectangle tvTreeView;
-  Rectangle imgSplitter;
-  Rectangle sheets;
+  Box lblMenuTitle;
+  Box tvTreeView;
+  Box imgSplitter;
+  Box sheets;
 };
 
 inline constexpr int smallestFormWidth = 3000;
@@ -42,6 +36,6 @@ WindowLayout SizeControls(const WindowMeasures& window, int x);
 int splitterBarLeft(const WindowMeasures& window, int gripLeft, int pointerX);
 
 /// The bar at the start of a drag, over the grip.
-Rectangle splitterBar(const Rectangle& grip);
+Box splitterBar(const Box& grip);
 
 }  // namespace nimbrel

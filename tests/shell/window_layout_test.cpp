@@ -18,7 +18,7 @@ WindowMeasures measures() {
 TEST(WindowLayout, PartsTheWindowAtTheSplitter) {
   const auto layout = SizeControls(measures(), 3000);
   EXPECT_EQ(layout.lblMenuTitle.top, 450);
-  EXPECT_EQ(layout.tvTreeView, (Rectangle{0, 715, 3000, 6000 - (300 + 450 + 250)}));
+  EXPECT_EQ(layout.tvTreeView, (Box{0, 715, 3000, 6000 - (300 + 450 + 250)}));
   EXPECT_EQ(layout.sheets.left, 3040);
   EXPECT_EQ(layout.sheets.top, 450);
   EXPECT_EQ(layout.sheets.width, 9000 - 3140);

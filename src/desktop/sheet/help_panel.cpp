@@ -103,8 +103,7 @@ void HelpPanel::refresh() {
 }
 
 void HelpPanel::layOut(const SheetLayout& layout) {
-  setGeometry(toPixels(layout.HelpPanel.left), toPixels(layout.HelpPanel.top),
-              toPixels(layout.HelpPanel.width), toPixels(layout.HelpPanel.height));
+  setGeometry(toPixels(layout.HelpPanel));
   const int line = toPixels(layout.HelpLabel1.height);
   caption_.setGeometry(labelLeft, 0, toPixels(layout.HelpLabel1.width), line);
   text_.setGeometry(labelLeft, line, toPixels(layout.HelpLabel2.width), toPixels(layout.HelpLabel2.height));

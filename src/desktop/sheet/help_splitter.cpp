@@ -20,17 +20,14 @@ HelpSplitter::HelpSplitter(QWidget* parent) : QWidget(parent), shadow_(parent) {
   shadow_.hide();
 }
 
-int HelpSplitter::topInTwips() const { return toTwips(y()); }
-
 int HelpSplitter::draggedTop(int pixelsFromTop) const {
-  return draggedSplitterTop(topInTwips(), toTwips(pixelsFromTop), toTwips(parentWidget()->height()));
+  return draggedSplitterTop(toTwips(y()), toTwips(pixelsFromTop), toTwips(parentWidget()->height()));
 }
 
 void HelpSplitter::mousePressEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
   emit dragBegun();
-  const Box bar = draggingShadow({toTwips(x()), topInTwips(), toTwips(width()), toTwips(height())});
-  shadow_.setGeometry(toPixels(bar.left), toPixels(bar.top), toPixels(bar.width), toPixels(bar.height));
+  shadow_.setGeometry(toPixels(draggingShadow(toTwips(geometry()))));
   shadow_.show();
   shadow_.raise();
 }

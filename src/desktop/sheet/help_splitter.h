@@ -26,7 +26,6 @@ class HelpSplitter : public QWidget {
   void focusOutEvent(QFocusEvent* event) override;
 
  private:
-  int topInTwips() const;
   /// In twips too, as all of the sheet's geometry.
   int draggedTop(int pixelsFromTop) const;
 

@@ -9,18 +9,6 @@
 #include "desktop/twips.h"
 
 namespace nimbrel {
-namespace {
-
-Box twips(const QRect& place) {
-  return {toTwips(place.x()), toTwips(place.y()), toTwips(place.width()), toTwips(place.height())};
-}
-
-QRect pixels(const Box& box) {
-  return {toPixels(box.left), toPixels(box.top), toPixels(box.width), toPixels(box.height)};
-}
-
-}  // namespace
-
 SheetView::SheetView(PropertySheet& sheet, IconSource icons, QWidget* parent)
     : QWidget(parent),
       sheet_(sheet),
@@ -246,9 +234,9 @@ void SheetView::layOut() {
   const int top =
       helpHeight_ ? splitterTopAfterResize(tall, *helpHeight_, metrics_) : initialSplitterTop(tall, metrics_);
   const auto layout = LayoutSheet(toTwips(width()), tall, top, metrics_);
-  title_.setGeometry(pixels(layout.lblTitle));
-  grid_.setGeometry(pixels(layout.Grid));
-  splitter_.setGeometry(pixels(layout.imgSplitter));
+  title_.setGeometry(toPixels(layout.lblTitle));
+  grid_.setGeometry(toPixels(layout.Grid));
+  splitter_.setGeometry(toPixels(layout.imgSplitter));
   help_.layOut(layout);
   setColumns();
 }
@@ -267,7 +255,7 @@ EditorPlaces SheetView::editorPlaces() const {
   const auto cell = grid_.placeOf(openCell()).translated(grid_.viewport()->pos());
   const auto& row = sheet_.row(sheet_.cursorRow());
   const auto& list = row.Kind() == KindSortedList ? sheet_.lstSortedList : sheet_.lstList;
-  return nimbrel::placeEditors(row.Kind(), twips(cell), twips(grid_.geometry()), toTwips(height()),
+  return nimbrel::placeEditors(row.Kind(), toTwips(cell), toTwips(grid_.geometry()), toTwips(height()),
                                list.list.size(), metrics_);
 }
 
@@ -278,14 +266,14 @@ void SheetView::placeEditors() {
   const QRect button(toPixels(places.buttonLeft), toPixels(places.buttonTop), side, side);
   const auto beside = grid_.placeOf({sheet_.cursorRow(), column::Replicate});
   const auto replicate =
-      replicatePlace(twips(beside.translated(-origin - grid_.pos())), twips(grid_.geometry()), metrics_);
-  editors_.place(pixels(places.entry).translated(origin), button.translated(origin),
-                 pixels(replicate).translated(origin));
+      replicatePlace(toTwips(beside.translated(-origin - grid_.pos())), toTwips(grid_.geometry()), metrics_);
+  editors_.place(toPixels(places.entry).translated(origin), button.translated(origin),
+                 toPixels(replicate).translated(origin));
 }
 
 QRect SheetView::listPlace() const {
   if (!sheet_.lstList.visible && !sheet_.lstSortedList.visible) return {};
-  const auto place = pixels(editorPlaces().list);
+  const auto place = toPixels(editorPlaces().list);
   return {mapToGlobal(place.topLeft()), place.size()};
 }
 

@@ -21,9 +21,7 @@ void hatchDownwards(QPainter& painter, const QRect& box) {
 }  // namespace
 
 void paintSwatch(QPainter& painter, const QRect& square, const Swatch& swatch, const QColor& ink) {
-  const Box inner = swatchBox(toTwips(square.height()));
-  const QRect box(square.left() + toPixels(inner.left), square.top() + toPixels(inner.top),
-                  toPixels(inner.width), toPixels(inner.height));
+  const auto box = toPixels(swatchBox(toTwips(square.height()))).translated(square.topLeft());
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing, false);
   painter.fillRect(box, colourOf(swatch.value_or(noColourFill)));

@@ -6,7 +6,7 @@
 #include <QTest>
 #include <iostream>
 
-#include "desktop_run.h"
+#include "desktop/desktop_run.h"
 
 namespace nimbrel {
 namespace {

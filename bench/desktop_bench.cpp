@@ -10,8 +10,8 @@
 #include <iostream>
 #include <numeric>
 
+#include "desktop/desktop_run.h"
 #include "desktop/shown_text.h"
-#include "desktop_run.h"
 #include "persistence/menu_file.h"
 #include "support/generated_document.h"
 
