@@ -90,11 +90,12 @@ void workOnALargeMenu(DesktopRun& run) {
     selections.push_back(milliseconds([&] {
       QTest::keyClick(&tree, Qt::Key_Down);
       view.repaint();
+      QCoreApplication::processEvents();
     }));
   }
   constexpr double frame = 16;
-  verdict("select a node and fill its sheet, median of 200", median(selections), frame);
-  std::cout << "  its worst: " << worst(selections) << " ms\n";
+  verdict("select a node and fill its sheet, worst of 200", worst(selections), frame);
+  std::cout << "  its median: " << median(selections) << " ms\n";
 
   std::vector<double> scrolls;
   auto* bar = tree.verticalScrollBar();

@@ -62,7 +62,7 @@ class FuzzedAuthor : public Asker {
     const std::string path = choices_.one(paths);
     return path.empty() ? std::nullopt : std::optional(path);
   }
-  std::optional<std::uint32_t> chooseColour() override {
+  std::optional<std::uint32_t> chooseColour(std::uint32_t) override {
     return choices_.below(2) == 0 ? std::nullopt : std::optional<std::uint32_t>(0xA0B0C0);
   }
   void ShowModal(Form& form) override {

@@ -37,7 +37,7 @@ class PlayAsker : public Asker {
 
   BoxButton MsgBox(const MessageBox& box) override;
   std::optional<std::string> chooseFile(const FileDialog& dialog) override;
-  std::optional<std::uint32_t> chooseColour() override;
+  std::optional<std::uint32_t> chooseColour(std::uint32_t start) override;
   void ShowModal(Form& form) override;
   void noteFailure(const Finding& finding) override;
 

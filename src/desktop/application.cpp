@@ -10,7 +10,7 @@ namespace nimbrel {
 
 Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
   setApplicationName("Nimbrel");
-  setApplicationDisplayName("Nimbrel");
+  // No display name: the system would put it behind each of our titles.
   setDesktopFileName("example.nimbrel.Nimbrel");
   setQuitOnLastWindowClosed(false);
 }

@@ -4,6 +4,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QToolBar>
+#include <algorithm>
 
 #include "desktop/icons.h"
 #include "desktop/shown_text.h"
@@ -18,6 +19,15 @@ constexpr const char* topicProperty = "helpTopic";
 QString iconName(std::string_view key) {
   if (key == "Insert Menu into Webpage") return "link-menu";
   return shown(key).toLower().replace(' ', '-');
+}
+
+/// A number and a path that may lack its front. A path marks no key.
+QString recentFile(std::string_view caption) {
+  constexpr std::string_view number = "1. ";
+  constexpr std::string_view cut = "...";
+  auto begin = std::min(number.size(), caption.size());
+  if (caption.substr(begin).starts_with(cut)) begin += cut.size();
+  return shown(caption.substr(0, begin)) + shownPath(caption.substr(begin)).replace('&', "&&");
 }
 
 }  // namespace
@@ -117,8 +127,8 @@ void CommandActions::refresh(const CommandStates& states) {
   for (const auto& [name, action] : entries_) {
     const auto* state = states.find(name);
     if (state == nullptr) continue;
-    auto caption = shown(state->caption);
-    if (name.starts_with("mnuFileMRU")) caption.replace('&', "&&");  // a path marks no key
+    const bool isFile = name.starts_with("mnuFileMRU");
+    const auto caption = isFile ? recentFile(state->caption) : shown(state->caption);
     if (!action->isSeparator() && action->text() != caption) action->setText(caption);
     action->setEnabled(state->enabled);
     action->setVisible(state->visible);

@@ -36,6 +36,19 @@ QIcon drawnIcon(const QString& name, const QColor& ink) {
   return icon;
 }
 
+QIcon drawnIcon(const QString& name, const QColor& ink, const QColor& selectedInk) {
+  auto icon = drawnIcon(name, ink);
+  for (const int size : sizes) {
+    auto pixmap = icon.pixmap(QSize(size, size), 1);
+    QPainter painter(&pixmap);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(pixmap.rect(), selectedInk);
+    painter.end();
+    icon.addPixmap(pixmap, QIcon::Selected);
+  }
+  return icon;
+}
+
 QIcon applicationIcon() { return QIcon(":/icons/nimbrel.svg"); }
 
 }  // namespace nimbrel

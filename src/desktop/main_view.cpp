@@ -6,34 +6,44 @@
 #include <QScreen>
 #include <QStatusBar>
 #include <QTimer>
+#include <algorithm>
 #include <array>
 #include <utility>
 
 #include "desktop/icons.h"
 #include "desktop/main_area.h"
+#include "desktop/sheet/entry_edit.h"
 #include "desktop/shown_text.h"
 #include "desktop/twips.h"
 
 namespace nimbrel {
 namespace {
 
-/// Shows what stands after a deed, also where it threw.
-class AfterDeed {
- public:
-  explicit AfterDeed(MainView& view) : view_(view) {}
-  AfterDeed(const AfterDeed&) = delete;
-  AfterDeed& operator=(const AfterDeed&) = delete;
-  ~AfterDeed() { view_.refresh(); }
-
- private:
-  MainView& view_;
-};
-
 bool bringsAnotherDocument(const QString& command) {
   return command.startsWith("mnuFile") || command == "New" || command == "Open";
 }
 
 }  // namespace
+
+/// Shows what stands after a deed, also where it threw. The name of the node whose cells a deed leaves may have
+/// changed.
+class MainView::AfterDeed {
+ public:
+  explicit AfterDeed(MainView& view) : view_(view) {
+    endComposing();
+    if (view.main_.CurrentNode != nullptr) left_ = view.main_.CurrentNode->Key;
+  }
+  AfterDeed(const AfterDeed&) = delete;
+  AfterDeed& operator=(const AfterDeed&) = delete;
+  ~AfterDeed() {
+    if (const auto* node = view_.main_.document.tvTreeView.find(left_)) view_.model_.syncText(*node);
+    view_.refresh();
+  }
+
+ private:
+  MainView& view_;
+  std::string left_;
+};
 
 MainView::MainView(frmMain& main)
     : main_(main),
@@ -44,15 +54,15 @@ MainView::MainView(frmMain& main)
       itemSheet_(main.prctlItem, icons()),
       area_(new MainArea(tree_, {&menuSheet_, &submenuSheet_, &itemSheet_}, this)),
       commands_(*this),
-      preview_(main.browser, this),
-      liveExamples_(main.liveExamples, this) {
+      preview_(main.browser),
+      liveExamples_(main.liveExamples) {
   setObjectName("frmMain");
   setWindowIcon(applicationIcon());
   tree_.setObjectName("tvTreeView");
   statusBar()->setObjectName("sbStatusBar");
   setCentralWidget(area_);
   setMinimumWidth(toPixels(smallestFormWidth));
-  for (auto* window : {&preview_, &liveExamples_}) window->setWindowFlag(Qt::Window);
+  for (auto* window : {&preview_, &liveExamples_}) window->setWindowFlags(Qt::Window);
   drawIcons();
   connectAll();
 }
@@ -67,11 +77,7 @@ SheetView& MainView::sheet(Kind kind) {
 
 void MainView::connectAll() {
   connect(&tree_, &TreeView::nodeChosen, this, &MainView::showNode);
-  connect(&tree_, &TreeView::deletePressed, this, [this] {
-    constexpr int deleteKey = 46;
-    const AfterDeed after(*this);
-    main_.tvTreeView_KeyUp(deleteKey);
-  });
+  connect(&tree_, &TreeView::deletePressed, this, &MainView::deleteNode);
   connect(&tree_, &TreeView::contextMenuWanted, this, &MainView::showContextMenu);
   connect(&commands_, &CommandActions::commandWanted, this, &MainView::run);
   connect(&commands_, &CommandActions::helpWanted, this,
@@ -111,6 +117,7 @@ void MainView::start(const std::string& commandLine) {
 }
 
 void MainView::run(const QString& command) {
+  endComposing();
   // The window may be closed by the command, which ends the program behind it.
   if (command == "mnuFileExit") {
     close();
@@ -143,13 +150,22 @@ void MainView::showNode(Node* node) {
   main_.tvTreeView_NodeClick(node);
 }
 
+void MainView::deleteNode() {
+  constexpr int deleteKey = 46;
+  const AfterDeed after(*this);
+  main_.tvTreeView_KeyUp(deleteKey);
+  model_.sync();
+}
+
 void MainView::showContextMenu(const QPoint& place) {
   if (auto* menu = commands_.contextMenu(main_.contextMenu())) menu->popup(place);
 }
 
 void MainView::refresh() {
-  if (windowTitle() != shown(main_.title)) setWindowTitle(shown(main_.title));
-  setWindowModified(main_.state.IsDirty);
+  const std::array paths{main_.state.FilePath + '\\' + main_.state.FileTitle};
+  // What Qt takes for the place of its own mark is doubled.
+  const auto title = shownWithPaths(main_.title, paths).replace("[*]", "[*][*]");
+  if (windowTitle() != title) setWindowTitle(title);
   commands_.refresh(main_.commands);
   tree_.showSelected(main_.selected);
   showSheets();
@@ -158,13 +174,22 @@ void MainView::refresh() {
 
 void MainView::showSheets() {
   const auto* visible = main_.visibleSheet();
-  const std::array<std::pair<const PropertySheet*, SheetView*>, 3> sheets{
-      {{&main_.prctlMenu, &menuSheet_},
-       {&main_.prctlSubmenu, &submenuSheet_},
-       {&main_.prctlItem, &itemSheet_}}};
-  for (const auto& [sheet, view] : sheets) {
-    if (sheet == visible) view->refresh();
-    if (view->isHidden() == (sheet == visible)) view->setVisible(sheet == visible);
+  const std::array views{&menuSheet_, &submenuSheet_, &itemSheet_};
+  const auto shows = [visible](const SheetView* view) { return &view->sheet() == visible; };
+  const auto* focused = focusWidget();
+  for (auto* view : views) {
+    if (!shows(view)) continue;
+    view->refresh();
+    view->show();
+    // Of a sheet that is hidden it would go to whatever comes next.
+    const bool isTaken = std::ranges::any_of(
+        views, [&](auto* other) { return other != view && other->isAncestorOf(focused); });
+    if (isTaken) view->setFocus(Qt::OtherFocusReason);
+  }
+  for (auto* view : views) {
+    if (shows(view) || view->isHidden()) continue;
+    view->refresh();
+    view->hide();
   }
 }
 
@@ -172,10 +197,23 @@ void MainView::showBeside(FormWindow& window) {
   window.refresh();
   auto& shows = shows_[&window];
   if (!window.form().isOpen || shows == window.form().shows) return;
+  if (shows == 0) window.move(placeBeside(window.size()));
   shows = window.form().shows;
   window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
   window.show();
   window.raise();
+}
+
+/// Right of this window, as far as the screen reaches: neither is to hide the other.
+QPoint MainView::placeBeside(const QSize& size) const {
+  constexpr int frame = 16;  // pixels, about what the system puts around a window
+  const auto available = screen()->availableGeometry();
+  const auto whole = frameGeometry();
+  const int right = whole.right() + 1;
+  const int rightmost = available.right() + 1 - size.width() - frame;
+  const bool fitsOnTheLeft = whole.left() - size.width() - frame >= available.left();
+  const int left = right > rightmost && fitsOnTheLeft ? whole.left() - size.width() - frame : right;
+  return {std::clamp(left, available.left(), std::max(rightmost, available.left())), whole.top()};
 }
 
 void MainView::setWaiting(bool isWaiting) {
@@ -185,6 +223,7 @@ void MainView::setWaiting(bool isWaiting) {
 
 bool MainView::mayClose() {
   if (isClosed_) return true;
+  if (auto* popup = QApplication::activePopupWidget()) popup->close();  // it would take the first answer
   noteGeometry();
   const AfterDeed after(*this);
   isClosed_ = main_.QueryClose();
@@ -223,7 +262,9 @@ void MainView::changeEvent(QEvent* event) {
 
 void MainView::drawIcons() {
   const auto ink = palette().color(QPalette::Text);
-  model_.setIcons(drawnIcon("node-menu", ink), drawnIcon("node-submenu", ink), drawnIcon("node-item", ink));
+  const auto selectedInk = palette().color(QPalette::HighlightedText);
+  const auto drawn = [&](const char* name) { return drawnIcon(name, ink, selectedInk); };
+  model_.setIcons(drawn("node-menu"), drawn("node-submenu"), drawn("node-item"));
   tree_.viewport()->update();
   commands_.drawIcons();
 }

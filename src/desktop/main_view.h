@@ -48,12 +48,16 @@ class MainView : public QMainWindow {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  class AfterDeed;
+
   void connectAll();
   IconSource icons() const;
   void showNode(Node* node);
+  void deleteNode();
   void showContextMenu(const QPoint& place);
   void showSheets();
   void showBeside(FormWindow& window);
+  QPoint placeBeside(const QSize& size) const;
   void noteGeometry();
   void drawIcons();
 

@@ -87,8 +87,8 @@ BoxButton QtAsker::MsgBox(const MessageBox& box) {
   hideClosed();
   while (true) {
     QMessageBox window(iconOf(box.icon), shown(box.title),
-                       shown(box.text).replace("\r\n", "\n").replace('\r', '\n'), QMessageBox::NoButton,
-                       owner());
+                       shownWithPaths(box.text, box.paths).replace("\r\n", "\n").replace('\r', '\n'),
+                       QMessageBox::NoButton, owner());
     window.setTextFormat(Qt::PlainText);
     for (const auto button : box.buttons) window.addButton(buttonOf(button));
     window.setDefaultButton(buttonOf(box.standard()));
@@ -120,11 +120,13 @@ std::optional<std::string> QtAsker::chooseFile(const FileDialog& dialog) {
   return heldPath(window.selectedFiles().constFirst());
 }
 
-std::optional<std::uint32_t> QtAsker::chooseColour() {
+std::optional<std::uint32_t> QtAsker::chooseColour(std::uint32_t start) {
   const Wait wait(*this);
-  const auto colour = QColorDialog::getColor(Qt::white, owner(), QWidget::tr("Choose Color"));
-  if (!colour.isValid()) return std::nullopt;
   constexpr unsigned byte = 8;
+  const auto part = [start](unsigned number) { return static_cast<int>(start >> number * byte & 0xFFU); };
+  const QColor first(part(0), part(1), part(2));
+  const auto colour = QColorDialog::getColor(first, owner(), QWidget::tr("Choose Color"));
+  if (!colour.isValid()) return std::nullopt;
   return static_cast<std::uint32_t>(colour.red()) | static_cast<std::uint32_t>(colour.green()) << byte |
          static_cast<std::uint32_t>(colour.blue()) << 2 * byte;
 }

@@ -15,6 +15,14 @@ QString shownPath(std::string_view documentPath) {
   return QFile::decodeName(QByteArray::fromStdString(toHostPath(documentPath)));
 }
 
+QString shownWithPaths(std::string_view text, std::span<const std::string> paths) {
+  auto whole = shown(text);
+  for (const auto& path : paths) {
+    if (!path.empty()) whole.replace(shown(path), shownPath(path));
+  }
+  return whole;
+}
+
 std::string heldPath(const QString& path) { return fromHostPath(QFile::encodeName(path).toStdString()); }
 
 }  // namespace nimbrel

@@ -44,7 +44,11 @@ void TreeView::currentChanged(const QModelIndex& current, const QModelIndex& pre
 
 /// The right button selects nothing: its menu belongs to the current node.
 void TreeView::mousePressEvent(QMouseEvent* event) {
-  if (event->button() != Qt::RightButton) QTreeView::mousePressEvent(event);
+  if (event->button() == Qt::RightButton) return;
+  const auto index = indexAt(event->pos());
+  const bool isAnew = index.isValid() && index == currentIndex() && event->button() == Qt::LeftButton;
+  QTreeView::mousePressEvent(event);
+  if (isAnew) emit nodeChosen(tree_.node(currentIndex()));
 }
 
 void TreeView::mouseReleaseEvent(QMouseEvent* event) {

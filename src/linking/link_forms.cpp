@@ -115,9 +115,13 @@ void frmInsertIntoWebPage1::cmdLink_Click() {
 /// The pages that stayed as they were, in one box.
 void frmInsertIntoWebPage1::reportUnlinked(const Findings& findings) {
   if (findings.empty()) return;
-  std::string text = "These pages could not be linked and are as they were:";
-  for (const auto& finding : findings) text += "\r\n" + finding.path + ": " + finding.text();
-  ports_.asker.MsgBox({.title = std::string(linkCaption), .text = std::move(text)});
+  MessageBox box{.title = std::string(linkCaption),
+                 .text = "These pages could not be linked and are as they were:"};
+  for (const auto& finding : findings) {
+    box.text += "\r\n" + finding.path + ": " + finding.text();
+    box.paths.push_back(finding.path);
+  }
+  ports_.asker.MsgBox(box);
 }
 
 void frmInsertIntoWebPage1::goOnWithSubmenus() {
@@ -176,15 +180,17 @@ void frmInsertIntoWebPage0::cmdBrowse_Click() {
 void frmInsertIntoWebPage0::cmdOk_Click() {
   const auto path = txtMenuDestination.text;
   if (!ports_.files.isFile(path)) {
-    ports_.asker.MsgBox(
-        {.title = "File not found", .text = path + " cannot be found.\r\nPlease specify an existing file."});
+    ports_.asker.MsgBox({.title = "File not found",
+                         .text = path + " cannot be found.\r\nPlease specify an existing file.",
+                         .paths = {path}});
     return;
   }
   std::string script;
   try {
     script = ports_.files.read(path);
   } catch (const FileError& error) {
-    ports_.asker.MsgBox({.title = std::string(linkCaption), .text = path + ": " + error.finding().text()});
+    ports_.asker.MsgBox(
+        {.title = std::string(linkCaption), .text = path + ": " + error.finding().text(), .paths = {path}});
     return;
   }
   if (const auto* refusal = refusalOfCompiledMenu(script)) {

@@ -22,7 +22,8 @@ struct MessageBox {
   BoxIcon icon = BoxIcon::Exclamation;
   std::vector<BoxButton> buttons = {BoxButton::OK};
   std::optional<BoxButton> defaultButton = {};
-  int helpTopic = 0;  ///< what its Help button opens
+  int helpTopic = 0;                    ///< what its Help button opens
+  std::vector<std::string> paths = {};  ///< those within `text`, for a screen that shows them in its own form
 
   BoxButton standard() const { return defaultButton.value_or(buttons.front()); }
 };
@@ -48,8 +49,9 @@ class Asker {
   virtual BoxButton MsgBox(const MessageBox& box) = 0;
   /// The chosen path, none if the author cancels.
   virtual std::optional<std::string> chooseFile(const FileDialog& dialog) = 0;
-  /// The chosen colour, blue in the high byte and red in the low one; none if the author cancels.
-  virtual std::optional<std::uint32_t> chooseColour() = 0;
+  /// The chosen colour, blue in the high byte and red in the low one; none if the author cancels. `start` is where
+  /// the choice begins.
+  virtual std::optional<std::uint32_t> chooseColour(std::uint32_t start) = 0;
   /// Shows a form until it is closed.
   virtual void ShowModal(Form& form) = 0;
   /// What went wrong in a step that is to fail in silence. The desktop program says nothing of it.

@@ -45,6 +45,11 @@ struct Rgb {
   std::uint8_t blue = 0;
 
   bool operator==(const Rgb&) const = default;
+  /// As one number, blue in the high byte and red in the low one.
+  constexpr std::uint32_t number() const {
+    constexpr unsigned byte = 8;
+    return static_cast<std::uint32_t>(blue) << 2 * byte | static_cast<std::uint32_t>(green) << byte | red;
+  }
 };
 using Swatch = std::optional<Rgb>;
 

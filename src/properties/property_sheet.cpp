@@ -54,6 +54,8 @@ PropertySheet::PropertySheet(const SheetTable& table, Ports& ports, ProgramState
       fonts_(fontList(ports.fonts)),
       cells_(table.rows.size()) {
   lblTitle.text = table.title;
+  lstSortedList.list.assign(fonts_.DisplayTexts.begin(), fonts_.DisplayTexts.end());
+  std::ranges::sort(lstSortedList.list, {}, [](const auto& text) { return lowered(text); });
   prepareRows();
   bind();
   hideEditors();
@@ -142,6 +144,7 @@ void PropertySheet::EnterCell(int PropertyOrdinal, int col) {
   pickedColour_.reset();
   txtEntry.text = Shown(cursorRow_, cursorColumn_).view();
   helpContextID_ = entered.HelpTopic;
+  if (isListRow()) fillList();
   showEditors();
   showHelp();
 }
@@ -191,8 +194,8 @@ bool PropertySheet::entryIsReadOnly() const { return isListRow() || edits(KindFo
 void PropertySheet::fillList() {
   Control& box = list();
   const auto& texts = openRow().choices->DisplayTexts;
-  box.list.assign(texts.begin(), texts.end());
-  if (&box == &lstSortedList) std::ranges::sort(box.list, {}, [](const auto& text) { return lowered(text); });
+  // The fonts are the one list that is sorted, once for all.
+  if (&box == &lstList) box.list.assign(texts.begin(), texts.end());
   box.selected.clear();
   box.text.clear();
 }
@@ -205,7 +208,6 @@ void PropertySheet::showEditors() {
   btnFontSize.visible = kind == KindFontSize;
   btnCombo.visible = isListRow();
   btnReplicate.visible = table_.hasStates && openRow().row->OnlyColumn == 0;
-  if (isListRow()) fillList();
 }
 
 void PropertySheet::hideEditors() {
@@ -249,31 +251,41 @@ void PropertySheet::btnCombo_Click() {
   list().visible = !list().visible;
 }
 
+/// A chooser may have outlived the edit: a session that was to end and did not has left the cell meanwhile.
+void PropertySheet::enter(Place open, std::string_view text) {
+  EnterCell(open.row, open.column);
+  txtEntry.text = text;
+}
+
 void PropertySheet::btnFile_Click() {
   if (!edits(KindFile)) return;
+  const Place open = place();
   const auto path = ports_.asker.chooseFile({.kind = FileDialog::Open,
                                              .title = "Choose Image File",
                                              .filter = std::string(FileFilter),
                                              .folder = state_.FilePath,
                                              .name = {}});
-  if (path) txtEntry.text = *path;
+  if (path) enter(open, *path);
 }
 
 void PropertySheet::btnColour_Click() {
   if (!edits(KindColour)) return;
-  const auto colour = ports_.asker.chooseColour();
+  const Place open = place();
+  constexpr Rgb white{0xFF, 0xFF, 0xFF};
+  const auto colour = ports_.asker.chooseColour(swatchOf(txtEntry.text).value_or(white).number());
   if (!colour) return;
-  txtEntry.text = colourText(*colour);
+  enter(open, colourText(*colour));
   pickedColour_ = swatchOf(txtEntry.text);
 }
 
 void PropertySheet::btnFontSize_Click() {
   if (!edits(KindFontSize)) return;
+  const Place open = place();
   state_.tmpFontSize = trimmed(txtEntry.text);
   frmFontSize form(state_.tmpFontSize);
   form.Form_Activate();
   ports_.asker.ShowModal(form);
-  txtEntry.text = state_.tmpFontSize;
+  enter(open, state_.tmpFontSize);
 }
 
 /// What is copied is always "Normal", whichever state was open.

@@ -108,6 +108,12 @@ class PropertySheet : public Form {
   bool isListRow() const;
   bool edits(PropertyKind kind) const { return editing_ && openRow().row->Kind() == kind; }
   Control& list() { return openRow().row->Kind() == KindSortedList ? lstSortedList : lstList; }
+  struct Place {
+    int row;
+    int column;
+  };
+  Place place() const { return {cursorRow_, cursorColumn_}; }
+  void enter(Place open, std::string_view text);
   void fillList();
   void showEditors();
   void hideEditors();

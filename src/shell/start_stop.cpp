@@ -99,7 +99,8 @@ void frmMain::Activate(std::string_view commandLine, StartWindows windows) {
     ports.asker.noteFailure(error.finding());
     ports.asker.MsgBox({.title = std::string(productTitle),
                         .text = error.finding().path + ": " + error.finding().text(),
-                        .icon = BoxIcon::Critical});
+                        .icon = BoxIcon::Critical,
+                        .paths = {error.finding().path}});
   }
   const bool showsWindows = windows == StartWindows::Wanted;
   if (settings::ShowTips.readFlag(ports.settings)) {

@@ -52,7 +52,8 @@ std::optional<std::string> frmMain::chooseCompiledFile() {
   const auto answer = ports.asker.MsgBox({.title = "Compile Menu",
                                           .text = path + " already exists.\rDo you want to replace it?",
                                           .buttons = {BoxButton::Yes, BoxButton::No},
-                                          .defaultButton = BoxButton::No});
+                                          .defaultButton = BoxButton::No,
+                                          .paths = {path}});
   return answer == BoxButton::Yes ? std::optional(path) : std::nullopt;
 }
 

@@ -30,7 +30,7 @@ void copyProgram(const QString& to) {
   fs::create_directories(to.toStdString());
   for (const auto& entry : fs::directory_iterator(stage)) {
     const auto name = entry.path().filename().string();
-    if (name == "nbrc" || name == "Nimbrel" || name == "Live Examples") continue;
+    if (name == "nbrc" || name == "Nimbrel") continue;
     fs::copy(entry.path(), fs::path(to.toStdString()) / name, fs::copy_options::recursive);
   }
 }

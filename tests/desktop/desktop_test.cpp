@@ -102,11 +102,15 @@ TEST_F(Desktop, AsksAheadOfLosingWorkAndSavesUnderTheTypedName) {
   run.thenPress("Yes");
   run.thenChooseFile(run.path(QString::fromUtf8("меню ä")));
   EXPECT_TRUE(run.view().close());
-  EXPECT_TRUE(QFile::exists(run.path(QString::fromUtf8("меню ä.nbr"))));
+  const auto file = run.path(QString::fromUtf8("меню ä.nbr"));
+  EXPECT_TRUE(QFile::exists(file));
+  EXPECT_TRUE(run.view().commands().action("mnuFileMRU1")->text().endsWith(file.right(12)));
 }
 
 TEST_F(Desktop, EveryDialogOpensAndClosesEachWay) {
-  run.start(run.programFolder() + "/Examples/thistlewick/thistlewick.nbr");
+  const auto sample = run.programFolder() + "/Examples/thistlewick/thistlewick.nbr";
+  run.start(sample);
+  EXPECT_EQ(run.view().windowTitle(), "Nimbrel ver 2.0 - " + sample);
   run.program().main().document.settings.CompiledPath = heldPath(run.path(""));
   const struct {
     const char* command;
@@ -262,6 +266,18 @@ TEST_F(Desktop, OpensItsHelpAtTheTopicOfARow) {
   run.program().help().hide();
 }
 
+TEST_F(Desktop, LinkOfARowShowsItsLiveExample) {
+  run.start();
+  run.select("I1");
+  auto& sheet = run.view().sheet(Kind::Item);
+  run.main().prctlItem.EnterCell(0, column::Normal);
+  run.view().refresh();
+  QTest::keyClick(sheet.findChild<QLabel*>("lblExamplesLink"), Qt::Key_Return);
+  EXPECT_TRUE(run.view().liveExamples().isVisible());
+  EXPECT_TRUE(waitFor(
+      [&] { return run.evaluate(run.view().liveExamples(), "document.title").toString() == "Item Name"; }));
+}
+
 TEST_F(Desktop, KeysOfTheTreeMoveDeleteAndCutWithTheirStates) {
   run.start();
   run.select("I2");
@@ -275,6 +291,36 @@ TEST_F(Desktop, KeysOfTheTreeMoveDeleteAndCutWithTheirStates) {
   run.run("mnuEditCut");
   EXPECT_TRUE(run.view().commands().button("Paste")->isEnabled());
   EXPECT_EQ(run.view().tree().model()->rowCount(run.view().tree().model()->index(0, 0)), 1);
+}
+
+TEST_F(Desktop, TheTreeFollowsWhatItsKeysAndClicksChange) {
+  run.start();
+  const auto* tree = run.view().tree().model();
+  const auto first = tree->index(0, 0, tree->index(0, 0));
+  const auto typeName = [&](const char* name) {
+    run.main().prctlItem.EnterCell(0, column::Normal);
+    run.main().prctlItem.type(name);
+  };
+  run.select("I1");
+  typeName("Renamed");
+  run.select("I2");
+  EXPECT_TRUE(first.data().toString().startsWith("Renamed"));
+  run.select("I1");
+  typeName("Again");
+  run.select("I1");
+  EXPECT_FALSE(run.main().prctlItem.Editing());
+  EXPECT_TRUE(first.data().toString().startsWith("Again"));
+  run.thenPress("Yes");
+  QTest::keyClick(&run.view().tree(), Qt::Key_Delete);
+  EXPECT_EQ(tree->rowCount(tree->index(0, 0)), 2);
+}
+
+TEST_F(Desktop, TheKeyboardStaysInTheSheetThatACommandBrings) {
+  run.start();
+  run.select("I1");
+  run.view().sheet(Kind::Item).setFocus();
+  run.run("mnuSubmenuAddSubmenu");
+  EXPECT_TRUE(run.view().sheet(Kind::Submenu).isAncestorOf(QApplication::focusWidget()));
 }
 
 /// The model follows every change of the tree with signals that views can rely on.

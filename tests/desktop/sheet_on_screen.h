@@ -14,7 +14,7 @@ namespace nimbrel {
 
 /// An author who picks this colour.
 struct PaintingAuthor : ScriptedAsker {
-  std::optional<std::uint32_t> chooseColour() override { return 0x0000FFU; }
+  std::optional<std::uint32_t> chooseColour(std::uint32_t) override { return 0x0000FFU; }
 };
 
 /// Once in a run.
@@ -62,7 +62,10 @@ class SheetOnScreen : public testing::Test {
   void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
     QTest::keyClick(QApplication::focusWidget(), key, modifiers);
   }
-  void type(const char* text) { QTest::keyClicks(QApplication::focusWidget(), text); }
+  /// The first key may open an entry, which takes the others.
+  void type(std::string_view text) {
+    for (const char key : text) QTest::keyClick(QApplication::focusWidget(), key);
+  }
   void turnWheel(int lines) {
     const QPointF centre = grid().viewport()->rect().center();
     constexpr int line = 40;

@@ -108,6 +108,12 @@ TEST_F(ItemOnScreen, ListByKeyboard) {
   press(Qt::Key_Tab);
   EXPECT_THAT(changes, ElementsAre(bold));
 
+  press(Qt::Key_Backtab);
+  press(Qt::Key_F4);
+  EXPECT_EQ(entries().accessibleName(), entry().accessibleName());
+  QTest::keyClick(&entries(), Qt::Key_Tab);  // takes and goes on
+  EXPECT_TRUE(isOpen(bold, MouseOver) && entry().hasFocus());
+
   type("y");  // without opening it
   EXPECT_EQ(sheet.txtEntry.text, "yes");
 }
@@ -186,6 +192,17 @@ TEST_F(ItemOnScreen, ReplicatesByMouseAndKeyboard) {
   EXPECT_EQ(textOf(0, MouseOver), "again");
   click(22, MouseClick);
   EXPECT_FALSE(find("btnReplicate").isVisible());
+  // From another state it goes to the first, and from there down; what was undone stays with its cell.
+  click(0, MouseOver);
+  press(Qt::Key_R, Qt::ControlModifier);
+  EXPECT_TRUE(isOpen(0, Normal) && grid().current() == (CellPlace{0, Normal}));
+  type("once");
+  press(Qt::Key_R, Qt::ControlModifier);
+  press(Qt::Key_Tab);
+  EXPECT_FALSE(entry().isUndoAvailable());
+  click(0, Normal);
+  press(Qt::Key_Return);
+  EXPECT_TRUE(isOpen(1, Normal));
 }
 
 TEST_F(ItemOnScreen, OpenCellComesBackAfterScrolling) {
@@ -222,6 +239,57 @@ TEST_F(ItemOnScreen, TypingGoesOnAfterACommand) {
   EXPECT_EQ(sheet.txtEntry.text, "new");
 }
 
+/// They once went round between entry and table without end.
+TEST_F(ItemOnScreen, KeysThatTheEntryHasNoUseForGoOn) {
+  click(0, Normal);
+  for (const auto key : {Qt::Key_F2, Qt::Key_Insert, Qt::Key_CapsLock}) press(key);
+  press(Qt::Key_Return, Qt::ShiftModifier);
+  press(Qt::Key_Q, Qt::ControlModifier);
+  EXPECT_TRUE(isOpen(0, Normal) && entry().hasFocus());
+}
+
+TEST_F(ItemOnScreen, ResizingTakesNothingAway) {
+  click(0, Normal);
+  type("half");
+  view.resize(600, 400);
+  EXPECT_EQ(textOf(0, Normal), "half");
+  type("way");
+  EXPECT_EQ(sheet.txtEntry.text, "halfway");
+  author.inForm = [this](Form& form) {
+    view.resize(640, 420);  // while the form waits
+    form.click(*form.find("optCSSSizing"));
+    form.enter(*form.find("txtCSSSize"), "77");
+    form.click(*form.find("cmdOk"));
+  };
+  click(9, Normal);
+  clickButton("btnFontSize");
+  press(Qt::Key_Tab);
+  EXPECT_THAT(textOf(9, Normal), testing::StartsWith("77"));
+}
+
+TEST_F(ItemOnScreen, LongTextsStayWhole) {
+  const std::string text(40'000, 'x');
+  element.ItemName1 = text;
+  PutValuesToPropertyControl(element, sheet);
+  view.refresh();
+  click(0, Normal);
+  press(Qt::Key_End);
+  press(Qt::Key_Backspace);
+  press(Qt::Key_Tab);
+  EXPECT_EQ(textOf(0, Normal), text.substr(1));
+}
+
+TEST_F(ItemOnScreen, InputMethodsBeginAnEditAndLoseNothing) {
+  click(0, Normal);
+  press(Qt::Key_Escape);
+  EXPECT_TRUE(grid().testAttribute(Qt::WA_InputMethodEnabled));
+  QInputMethodEvent composed;
+  composed.setCommitString("Zuhause");
+  QApplication::sendEvent(&grid(), &composed);
+  EXPECT_TRUE(isOpen(0, Normal));
+  EXPECT_EQ(sheet.txtEntry.text, "Zuhause");
+}
+
 TEST_F(ItemOnScreen, HelpOfTheRow) {
   QSignalSpy wanted(&view, &SheetView::helpWanted);
   click(2, MouseOver);
@@ -239,6 +307,10 @@ TEST_F(ItemOnScreen, HelpOfTheRow) {
   EXPECT_TRUE(entry().hasFocus());
   QTest::mouseClick(&find("lblExamplesLink"), Qt::LeftButton);
   EXPECT_TRUE(viewer.isOpen && entry().hasFocus());
+  press(Qt::Key_F6);
+  sheet.LeaveCell();
+  view.refresh();
+  EXPECT_TRUE(grid().hasFocus());  // the links are gone
 }
 
 TEST_F(ItemOnScreen, RefreshTouchesWhatDiffersAndGoesToTheTop) {

@@ -16,7 +16,7 @@ struct FakeSystem : Asker, HelpSystem, Opener, ClassesRoot {
     title = dialog.title;
     return file;
   }
-  std::optional<std::uint32_t> chooseColour() override { return colour; }
+  std::optional<std::uint32_t> chooseColour(std::uint32_t) override { return colour; }
   void ShowModal(Form& form) override {
     title = form.caption;
     if (inForm) inForm(form);

@@ -24,7 +24,7 @@ class ScriptedAsker : public Asker {
     dialogs.push_back(dialog);
     return file;
   }
-  std::optional<std::uint32_t> chooseColour() override { return std::nullopt; }
+  std::optional<std::uint32_t> chooseColour(std::uint32_t) override { return std::nullopt; }
   void ShowModal(Form& form) override {
     forms.emplace_back(form.name);
     form.isOpen = true;

@@ -46,16 +46,31 @@ void CellEditors::connectAll() {
   });
   QObject::connect(&entry_, &EntryEdit::searched, &entry_, [this](const QString& typed) { search(typed); });
   QObject::connect(&list_, &ListPopup::chosen, &list_, [this](int entry) { choose(entry); });
+  QObject::connect(&list_, &ListPopup::movedOn, &list_, [this](int entry, bool forward) {
+    choose(entry);
+    emit entry_.commanded(forward ? EntryCommand::Next : EntryCommand::Previous);
+  });
   QObject::connect(&list_, &ListPopup::closed, &list_, [this] {
     if (openList() != nullptr) act_([this] { sheet_.btnCombo_Click(); });
   });
 }
 
-void CellEditors::drawIcons(int side) {
+void CellEditors::setIconSize(int side) {
   constexpr int margin = 8;
-  for (const auto& button : buttons_) {
-    button.widget->setIcon(icons_(button.icon));
-    button.widget->setIconSize(QSize(side - margin, side - margin));
+  for (const auto& button : buttons_) button.widget->setIconSize(QSize(side - margin, side - margin));
+}
+
+void CellEditors::forgetIcons() {
+  for (auto& button : buttons_) button.isDrawn = false;
+  showButtons();
+}
+
+void CellEditors::showButtons() {
+  for (auto& button : buttons_) {
+    if (button.control.visible && !std::exchange(button.isDrawn, true)) {
+      button.widget->setIcon(icons_(button.icon));
+    }
+    button.widget->setVisible(button.control.visible);
   }
 }
 
@@ -78,13 +93,14 @@ void CellEditors::place(const QRect& entry, const QRect& button, const QRect& re
 void CellEditors::refresh(const QString& name, const QRect& listPlace) {
   if (sheet_.txtEntry.visible) {
     if (entry_.accessibleName() != name) entry_.setAccessibleName(name);
+    entry_.setAccessibleDescription(shown(sheet_.HelpLabel2.text));
     if (entry_.isReadOnly() != sheet_.entryIsReadOnly()) entry_.setReadOnly(sheet_.entryIsReadOnly());
     showText();
   }
   // The focus must not wander on to whatever comes next.
   if (!sheet_.txtEntry.visible && entry_.hasFocus()) cells_.parentWidget()->setFocus(Qt::OtherFocusReason);
   entry_.setVisible(sheet_.txtEntry.visible);
-  for (const auto& button : buttons_) button.widget->setVisible(button.control.visible);
+  showButtons();
   showList(listPlace);
 }
 
@@ -92,8 +108,14 @@ void CellEditors::refresh(const QString& name, const QRect& listPlace) {
 void CellEditors::showText() {
   const auto typed = entry_.text();
   if ((isPath() ? heldPath(typed) : held(typed)) == sheet_.txtEntry.text) return;
-  entry_.setText(isPath() ? shownPath(sheet_.txtEntry.text) : shown(sheet_.txtEntry.text));
+  entry_.setText(textOfCell());
 }
+
+QString CellEditors::textOfCell() const {
+  return isPath() ? shownPath(sheet_.txtEntry.text) : shown(sheet_.txtEntry.text);
+}
+
+void CellEditors::begin() { entry_.setText(textOfCell()); }
 
 void CellEditors::showList(const QRect& listPlace) {
   auto* open = openList();
@@ -102,6 +124,7 @@ void CellEditors::showList(const QRect& listPlace) {
   } else if (!list_.isVisible()) {
     list_.fill(open->list);
     list_.mark(shown(sheet_.txtEntry.text));
+    list_.setName(entry_.accessibleName());
     const QRect opener(entry_.mapToGlobal(QPoint()),
                        buttons_.front().widget->mapToGlobal(buttons_.front().widget->rect().bottomRight()));
     list_.open(listPlace, opener);

@@ -28,7 +28,11 @@ class CellEditors {
   void refresh(const QString& name, const QRect& listPlace);
   /// Places within `cells`.
   void place(const QRect& entry, const QRect& button, const QRect& replicate);
-  void drawIcons(int side);
+  /// Another cell is open than before: nothing of what was typed there is left to be taken back.
+  void begin();
+  void setIconSize(int side);
+  /// The palette has changed; each is drawn again when it is needed.
+  void forgetIcons();
 
   EntryEdit& entry() { return entry_; }
   ListPopup& list() { return list_; }
@@ -42,13 +46,16 @@ class CellEditors {
     Control& control;
     const char* icon;
     QToolButton* widget;
+    bool isDrawn = false;
   };
 
   void addButton(Control& control, const char* icon, const QString& toolTip, const QString& name);
   void connectAll();
   bool isPath() const;
   Control* openList() const;
+  QString textOfCell() const;
   void showText();
+  void showButtons();
   void showList(const QRect& listPlace);
   void choose(int entry);
   void search(const QString& typed);

@@ -90,14 +90,21 @@ void CellPainter::paint(QPainter* painter, const QStyleOptionViewItem& option,
     paintSwatch(*painter, square, model_.sheet().swatch(index.row(), index.column()),
                 isDark(option.palette) ? option.palette.color(QPalette::Text) : Qt::black);
   }
-  const bool isCaption = index.column() == column::Caption;
-  painter->setFont(isCaption ? captionFont(model_.sheet().row(index.row()), option.font) : option.font);
-  painter->setPen(colours.text);
-  const auto place = textPlace(cell, index);
-  const auto text = index.data().toString().left(longest).replace('\n', ' ');
-  painter->drawText(place, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
-                    painter->fontMetrics().elidedText(text, Qt::ElideRight, place.width()));
+  paintText(*painter, option, index, colours.text);
   painter->restore();
+}
+
+void CellPainter::paintText(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index,
+                            const QColor& ink) const {
+  const auto text = index.data().toString().left(longest).replace('\n', ' ');
+  if (text.isEmpty()) return;
+  const bool isCaption = index.column() == column::Caption;
+  const auto font = isCaption ? captionFont(model_.sheet().row(index.row()), option.font) : option.font;
+  if (font != painter.font()) painter.setFont(font);
+  painter.setPen(ink);
+  const auto place = textPlace(option.rect, index);
+  painter.drawText(place, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
+                   painter.fontMetrics().elidedText(text, Qt::ElideRight, place.width()));
 }
 
 bool CellPainter::helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,

@@ -27,6 +27,8 @@ class CellPainter : public QStyledItemDelegate {
                  const QModelIndex& index) override;
 
  private:
+  void paintText(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index,
+                 const QColor& ink) const;
   struct Colours;
   Colours coloursOf(const QStyleOptionViewItem& option, const QModelIndex& index) const;
   QRect textPlace(const QRect& cell, const QModelIndex& index) const;

@@ -1,8 +1,11 @@
 #include "desktop/sheet/entry_edit.h"
 
+#include <QGuiApplication>
+#include <QInputMethod>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <array>
+#include <limits>
 #include <optional>
 
 namespace nimbrel {
@@ -51,9 +54,12 @@ bool isTyped(const QKeyEvent& event) {
 
 }  // namespace
 
+void endComposing() { QGuiApplication::inputMethod()->commit(); }
+
 EntryEdit::EntryEdit(QWidget* parent) : QLineEdit(parent) {
   setObjectName("txtEntry");
   setFrame(false);
+  setMaxLength(std::numeric_limits<int>::max());
   setFocusPolicy(Qt::ClickFocus);  // the table's turn in the order of the tabulator is the entry's
   hide();
 }

@@ -18,6 +18,9 @@ enum class EntryCommand {
   GoToLinks,
 };
 
+/// What an input method is composing counts as typed, ahead of all that leaves the entry.
+void endComposing();
+
 /// The entry over the open cell. One that is for reading presses the cell's button with the space bar and hands
 /// on what is typed.
 class EntryEdit : public QLineEdit {

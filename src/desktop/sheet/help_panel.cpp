@@ -1,5 +1,6 @@
 #include "desktop/sheet/help_panel.h"
 
+#include <QAccessibleWidget>
 #include <QKeyEvent>
 #include <QStyleOptionFocusRect>
 #include <QStylePainter>
@@ -22,6 +23,33 @@ QColor linkColour(const QPalette& palette) {
   return isDark && link.lightness() <= middle ? QColor::fromRgb(lightBlue) : link;
 }
 
+/// A label would be read out as mere text.
+class AccessibleLink : public QAccessibleWidget {
+ public:
+  explicit AccessibleLink(LinkLabel& link) : QAccessibleWidget(&link, QAccessible::Link), link_(link) {}
+
+  QStringList actionNames() const override { return {pressAction(), setFocusAction()}; }
+  void doAction(const QString& name) override {
+    if (name == pressAction()) {
+      emit link_.followed();
+    } else {
+      QAccessibleWidget::doAction(name);
+    }
+  }
+
+ private:
+  LinkLabel& link_;
+};
+
+QAccessibleInterface* accessibleLink(const QString&, QObject* object) {
+  auto* link = qobject_cast<LinkLabel*>(object);
+  return link == nullptr ? nullptr : new AccessibleLink(*link);
+}
+
+void tellOfLinks() {
+  [[maybe_unused]] static const bool isTold = (QAccessible::installFactory(accessibleLink), true);
+}
+
 void setTextOf(QLabel& label, const QString& text) {
   if (label.text() != text) label.setText(text);
 }
@@ -29,6 +57,7 @@ void setTextOf(QLabel& label, const QString& text) {
 }  // namespace
 
 LinkLabel::LinkLabel(QWidget* parent) : QLabel(parent) {
+  tellOfLinks();
   setTextFormat(Qt::RichText);
   setFocusPolicy(Qt::TabFocus);  // a click leaves the focus to the entry
   connect(this, &QLabel::linkActivated, this, &LinkLabel::followed);

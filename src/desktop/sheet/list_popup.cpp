@@ -83,11 +83,23 @@ void ListPopup::hideEvent(QHideEvent* event) {
   emit closed();
 }
 
-bool ListPopup::focusNextPrevChild(bool) { return press(Qt::Key_Return); }
+bool ListPopup::focusNextPrevChild(bool next) { return take(next ? Qt::Key_Tab : Qt::Key_Backtab); }
 
 bool ListPopup::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() != QEvent::KeyPress) return QFrame::eventFilter(watched, event);
   return press(static_cast<QKeyEvent*>(event)->key()) || QFrame::eventFilter(watched, event);
+}
+
+bool ListPopup::take(int key) {
+  const int entry = list_.currentRow();
+  if (entry < 0) {
+    hide();
+  } else if (key == Qt::Key_Tab || key == Qt::Key_Backtab) {
+    emit movedOn(entry, key == Qt::Key_Tab);
+  } else {
+    emit chosen(entry);
+  }
+  return true;
 }
 
 bool ListPopup::press(int key) {
@@ -95,12 +107,7 @@ bool ListPopup::press(int key) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
     case Qt::Key_Tab:
-      if (list_.currentRow() >= 0) {
-        emit chosen(list_.currentRow());
-      } else {
-        hide();
-      }
-      return true;
+    case Qt::Key_Backtab: return take(key);
     case Qt::Key_Escape:
     case Qt::Key_F4: hide(); return true;
     case Qt::Key_F1: emit helpWanted(); return true;

@@ -15,6 +15,8 @@ class ListPopup : public QFrame {
   explicit ListPopup(QWidget* parent);
 
   void fill(const std::vector<std::string>& texts);
+  /// What those who do not see it are told.
+  void setName(const QString& name) { list_.setAccessibleName(name); }
   /// Marks the entry of this text, or none.
   void mark(const QString& text);
   /// The entry that begins with what was typed lately, from the marked one on; -1 if there is none.
@@ -27,6 +29,8 @@ class ListPopup : public QFrame {
 
  signals:
   void chosen(int entry);
+  /// Chosen by the tabulator, which goes on to the next cell or the one before.
+  void movedOn(int entry, bool forward);
   /// Gone, with an entry chosen or not.
   void closed();
   void helpWanted();
@@ -39,6 +43,7 @@ class ListPopup : public QFrame {
 
  private:
   bool press(int key);
+  bool take(int key);
 
   QListWidget list_;
   std::vector<std::string> texts_;

@@ -79,16 +79,27 @@ bool SheetGrid::isForCell(const QKeyEvent& event) const {
          (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == 0;
 }
 
+/// What the entry has no use for comes here too, and goes on.
 void SheetGrid::keyPressEvent(QKeyEvent* event) {
-  if (isForCell(*event)) {
+  if (!hasFocus()) {
+    event->ignore();
+  } else if (isForCell(*event)) {
     emit keyForCell(event);
   } else {
     QTableView::keyPressEvent(event);
   }
 }
 
+void SheetGrid::inputMethodEvent(QInputMethodEvent* event) { emit composed(event); }
+
+/// The table asks for no input method where its cells have no editors that it knows of.
+QVariant SheetGrid::inputMethodQuery(Qt::InputMethodQuery query) const {
+  return query == Qt::ImEnabled ? QVariant(true) : QTableView::inputMethodQuery(query);
+}
+
 void SheetGrid::focusInEvent(QFocusEvent* event) {
   QTableView::focusInEvent(event);
+  setAttribute(Qt::WA_InputMethodEnabled);
   const auto reason = event->reason();
   if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason) {
     emit reachedByKeyboard();

@@ -29,6 +29,8 @@ class SheetGrid : public QTableView {
   void pressed(int row, int col);
   /// A key that is for the current cell's entry, or begins its edit.
   void keyForCell(QKeyEvent* event);
+  /// Text of an input method, which begins an edit as a key does.
+  void composed(QInputMethodEvent* event);
   void reachedByKeyboard();
   void scrolled();
   void resized();
@@ -38,6 +40,8 @@ class SheetGrid : public QTableView {
   void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
   void mouseMoveEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void inputMethodEvent(QInputMethodEvent* event) override;
+  QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
   void focusInEvent(QFocusEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void scrollContentsBy(int dx, int dy) override;

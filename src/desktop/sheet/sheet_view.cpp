@@ -25,16 +25,18 @@ SheetView::SheetView(PropertySheet& sheet, IconSource icons, QWidget* parent)
   title_.setText(shown(sheet.lblTitle.text));
   title_.setMargin(3);
   title_.setBuddy(&grid_);
+  setFocusProxy(&grid_);
   setMinimumSize(toPixels(smallestSheet), toPixels(smallestSheet));
   measure();
   connectAll();
   refresh();
-  grid_.goTo(cellAfter(sheet, {-1, column::Normal}, Step::Below).value_or(openCell()));
+  grid_.goTo(cellAfter(sheet, {-1, column::Normal}, Step::Below).value_or(lastCell()));
 }
 
 void SheetView::connectAll() {
   connect(&grid_, &SheetGrid::pressed, this, &SheetView::press);
   connect(&grid_, &SheetGrid::keyForCell, this, &SheetView::keyForCell);
+  connect(&grid_, &SheetGrid::composed, this, &SheetView::compose);
   connect(&grid_, &SheetGrid::reachedByKeyboard, this, [this] { open(grid_.current()); });
   connect(&grid_, &SheetGrid::scrolled, this, &SheetView::scrolled);
   connect(&grid_, &SheetGrid::resized, this, &SheetView::setColumns);
@@ -48,10 +50,10 @@ void SheetView::connectAll() {
 }
 
 void SheetView::act(const std::function<void()>& deed) {
-  isActing_ = true;
-  const auto show = [this] {
+  const bool isWithinAnother = std::exchange(isActing_, true);  // which waits for a chooser
+  const auto show = [&] {
     refresh();
-    isActing_ = false;
+    isActing_ = isWithinAnother;
     emit acted();
   };
   try {
@@ -71,25 +73,38 @@ void SheetView::refresh() {
     grid_.scrollToTop();
     caret_.reset();
   }
+  // The links go with the cell.
+  if (!sheet_.Editing() && help_.isAncestorOf(window()->focusWidget())) grid_.setFocus(Qt::OtherFocusReason);
   help_.refresh();
+  followOpenCell();
   if (sheet_.Editing()) placeEditors();
   editors_.refresh(model_.nameOf(sheet_.cursorRow(), sheet_.cursorColumn()), listPlace());
 }
 
+/// A deed may open another cell than the author was in: copying to the other states goes back to the first.
+void SheetView::followOpenCell() {
+  const auto open = openCell();
+  const auto before = std::exchange(shownCell_, open);
+  if (!open || open == before) return;
+  editors_.begin();
+  if (grid_.current() != *open) grid_.goTo(*open);
+  if (before && before->row == open->row) column_ = open->column;
+}
+
 void SheetView::leave() {
+  endComposing();
   if (sheet_.Editing()) act([this] { sheet_.LeaveCell(); });
 }
 
 /// Commits what is open ahead of it.
 void SheetView::open(CellPlace place) {
+  endComposing();
   caret_.reset();
   act([&] {
     sheet_.LeaveCell();
     sheet_.EnterCell(place.row, place.column);
   });
-  if (!sheet_.Editing()) return;
-  grid_.goTo(openCell());
-  editors_.focusEntry();
+  if (sheet_.Editing()) editors_.focusEntry();
 }
 
 void SheetView::press(int row, int col) {
@@ -124,7 +139,7 @@ void SheetView::command(EntryCommand command) {
 
 void SheetView::go(Step step, int times) {
   const bool isAlong = step == Step::Next || step == Step::Previous;
-  auto from = openCell();
+  auto from = lastCell();
   if (!isAlong) from.column = column_;
   std::optional<CellPlace> to;
   for (auto next = cellAfter(sheet_, from, step); next && times > 0; --times) {
@@ -148,10 +163,9 @@ void SheetView::leaveTable(bool forward) {
 }
 
 /// An open cell that was scrolled away comes back; one that a command closed is typed on.
-void SheetView::keyForCell(QKeyEvent* event) {
-  const bool wasOpen = sheet_.Editing();
-  if (wasOpen) {
-    grid_.goTo(openCell());
+void SheetView::goOnTyping() {
+  if (sheet_.Editing()) {
+    grid_.goTo(lastCell());
     editors_.entry().setFocus(Qt::OtherFocusReason);
   } else {
     const auto caret = std::exchange(caret_, std::nullopt);
@@ -159,15 +173,27 @@ void SheetView::keyForCell(QKeyEvent* event) {
     column_ = sheet_.cursorColumn();
     if (caret) editors_.entry().setCursorPosition(*caret);
   }
+}
+
+void SheetView::keyForCell(QKeyEvent* event) {
+  const bool wasOpen = sheet_.Editing();
+  goOnTyping();
   const int key = event->key();
   const bool onlyOpens = key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_F2;
-  if (sheet_.Editing() && (wasOpen || !onlyOpens)) QCoreApplication::sendEvent(&editors_.entry(), event);
+  auto& entry = editors_.entry();
+  if (entry.hasFocus() && (wasOpen || !onlyOpens)) QCoreApplication::sendEvent(&entry, event);
+}
+
+void SheetView::compose(QInputMethodEvent* event) {
+  goOnTyping();
+  auto& entry = editors_.entry();
+  if (entry.hasFocus()) QCoreApplication::sendEvent(&entry, event);
 }
 
 void SheetView::scrolled() {
   if (!sheet_.Editing()) return;
   const bool isTyping = grid_.hasFocus();
-  sheet_.Grid_Scroll(grid_.isInSight(openCell()));
+  sheet_.Grid_Scroll(grid_.isInSight(lastCell()));
   refresh();
   if (isTyping && sheet_.txtEntry.visible) editors_.entry().setFocus(Qt::OtherFocusReason);
 }
@@ -189,8 +215,15 @@ void SheetView::keyPressEvent(QKeyEvent* event) {
 
 void SheetView::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
-  leave();
+  // What a chooser brings is still to come to the cell.
+  if (!isActing_) {
+    const auto& entry = editors_.entry();
+    const auto caret = entry.hasFocus() ? std::optional(entry.cursorPosition()) : std::nullopt;
+    leave();
+    caret_ = caret;
+  }
   layOut();
+  if (sheet_.Editing()) placeEditors();
 }
 
 void SheetView::changeEvent(QEvent* event) {
@@ -199,8 +232,10 @@ void SheetView::changeEvent(QEvent* event) {
     case QEvent::FontChange:
     case QEvent::StyleChange:
     case QEvent::PaletteChange:
+      editors_.forgetIcons();
       measure();
       layOut();
+      if (sheet_.Editing()) placeEditors();
       break;
     default: break;
   }
@@ -226,7 +261,7 @@ void SheetView::measure() {
       .swatchWidth = toTwips(rowHeight - 1),  // the last pixel is the grid line
       .widestCaption = toTwips(widest),
       .exampleLinkWidth = toTwips(fontMetrics().horizontalAdvance(shown(sheet_.lblExamplesLink.text)))};
-  editors_.drawIcons(toPixels(metrics_.buttonSide()));
+  editors_.setIconSize(toPixels(metrics_.buttonSide()));
 }
 
 void SheetView::layOut() {
@@ -252,7 +287,7 @@ void SheetView::setColumns() {
 }
 
 EditorPlaces SheetView::editorPlaces() const {
-  const auto cell = grid_.placeOf(openCell()).translated(grid_.viewport()->pos());
+  const auto cell = grid_.placeOf(lastCell()).translated(grid_.viewport()->pos());
   const auto& row = sheet_.row(sheet_.cursorRow());
   const auto& list = row.Kind() == KindSortedList ? sheet_.lstSortedList : sheet_.lstList;
   return nimbrel::placeEditors(row.Kind(), toTwips(cell), toTwips(grid_.geometry()), toTwips(height()),

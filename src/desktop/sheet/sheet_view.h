@@ -28,6 +28,7 @@ class SheetView : public QWidget {
   /// `sheet` outlives the view.
   SheetView(PropertySheet& sheet, IconSource icons, QWidget* parent = nullptr);
 
+  const PropertySheet& sheet() const { return sheet_; }
   /// Takes over what the sheet says now; touches only what differs.
   void refresh();
 
@@ -50,11 +51,17 @@ class SheetView : public QWidget {
   void command(EntryCommand command);
   void go(Step step, int times);
   void leaveTable(bool forward);
+  void goOnTyping();
   void keyForCell(QKeyEvent* event);
+  void compose(QInputMethodEvent* event);
   void scrolled();
   void help();
 
-  CellPlace openCell() const { return {sheet_.cursorRow(), sheet_.cursorColumn()}; }
+  CellPlace lastCell() const { return {sheet_.cursorRow(), sheet_.cursorColumn()}; }
+  std::optional<CellPlace> openCell() const {
+    return sheet_.Editing() ? std::optional(lastCell()) : std::nullopt;
+  }
+  void followOpenCell();
   void measure();
   void layOut();
   void setColumns();
@@ -73,6 +80,7 @@ class SheetView : public QWidget {
   std::optional<int> helpHeight_;  ///< twips, once the author has chosen it
   int column_ = column::Normal;    ///< in which Enter, Up and Down go on
   std::size_t fillings_ = 0;
+  std::optional<CellPlace> shownCell_;  ///< the open one, as it was seen last
   bool isActing_ = false;
   /// Where the author was typing as a command, such as saving, closed the cell.
   std::optional<int> caret_;
