@@ -54,7 +54,12 @@ bool isTyped(const QKeyEvent& event) {
 
 }  // namespace
 
-void endComposing() { QGuiApplication::inputMethod()->commit(); }
+/// Asked for without need, some systems' input methods crash where there is no keyboard.
+void endComposing() {
+  if (qobject_cast<EntryEdit*>(QGuiApplication::focusObject()) != nullptr) {
+    QGuiApplication::inputMethod()->commit();
+  }
+}
 
 EntryEdit::EntryEdit(QWidget* parent) : QLineEdit(parent) {
   setObjectName("txtEntry");
