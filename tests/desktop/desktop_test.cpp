@@ -1,4 +1,5 @@
 #include <QAbstractItemModelTester>
+#include <QAccessible>
 #include <QClipboard>
 #include <QComboBox>
 #include <QDir>
@@ -25,6 +26,21 @@ using testing::HasSubstr;
 constexpr const char* itemsInPage =
     "(function(){var n=0;document.querySelectorAll('*').forEach(function(e){"
     "if(e.shadowRoot)n+=e.shadowRoot.querySelectorAll('[role=menuitem]').length});return n})()";
+
+/// What the keyboard reaches and a screen reader would have no name for.
+std::string namelessControls(const QWidget& window) {
+  std::string names;
+  for (auto* widget : window.findChildren<QWidget*>()) {
+    const bool isReached = (widget->focusPolicy() & Qt::TabFocus) != 0 && widget->focusProxy() == nullptr;
+    const bool isPartOfBrowser = qobject_cast<QWebEngineView*>(widget->parentWidget()) != nullptr;
+    if (!isReached || isPartOfBrowser || widget->window() != &window) continue;
+    auto* accessible = QAccessible::queryAccessibleInterface(widget);
+    if (accessible->text(QAccessible::Name).isEmpty()) {
+      names += widget->objectName().toStdString() + '/' + widget->metaObject()->className() + ' ';
+    }
+  }
+  return names;
+}
 
 class Desktop : public testing::Test {
  protected:
@@ -110,6 +126,8 @@ TEST_F(Desktop, AsksAheadOfLosingWorkAndSavesUnderTheTypedName) {
 TEST_F(Desktop, EveryDialogOpensAndClosesEachWay) {
   const auto sample = run.programFolder() + "/Examples/thistlewick/thistlewick.nbr";
   run.start(sample);
+  EXPECT_EQ(namelessControls(run.view()), "");
+  EXPECT_EQ(namelessControls(run.view().preview()), "");
   EXPECT_EQ(run.view().windowTitle(), "Nimbrel ver 2.0 - " + sample);
   run.program().main().document.settings.CompiledPath = heldPath(run.path(""));
   const struct {
@@ -132,6 +150,7 @@ TEST_F(Desktop, EveryDialogOpensAndClosesEachWay) {
       run.then([&, close](QWidget& window) {
         EXPECT_EQ(window.objectName(), dialog.form);
         EXPECT_FALSE(window.windowTitle().isEmpty());
+        EXPECT_EQ(namelessControls(window), "");
         isSeen = true;
         close(window);
       });
