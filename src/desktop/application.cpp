@@ -3,6 +3,7 @@
 #include <QDebug>
 #include <exception>
 
+#include "desktop/icons.h"
 #include "desktop/shown_text.h"
 #include "platform/file_error.h"
 
@@ -13,20 +14,26 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
   // No display name: the system would put it behind each of our titles.
   setDesktopFileName("example.nimbrel.Nimbrel");
   setQuitOnLastWindowClosed(false);
+  setWindowIcon(applicationIcon());
 }
 
 bool Application::notify(QObject* receiver, QEvent* event) {
   try {
     return QApplication::notify(receiver, event);
-  } catch (const FileError& error) {
-    tell(shownPath(error.finding().path) + ": " + shown(error.finding().text()));
   } catch (const std::exception& error) {
-    tell(QString::fromUtf8(error.what()));
+    tell(error);
   }
   return true;
 }
 
-void Application::tell(const QString& text) const {
+QString Application::textOf(const std::exception& error) {
+  const auto* file = dynamic_cast<const FileError*>(&error);
+  return file == nullptr ? QString::fromUtf8(error.what())
+                         : shownPath(file->finding().path) + ": " + shown(file->finding().text());
+}
+
+void Application::tell(const std::exception& error) const {
+  const auto text = textOf(error);
   if (report) {
     report(text);
   } else {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QApplication>
+#include <exception>
 #include <functional>
 
 namespace nimbrel {
@@ -16,9 +17,10 @@ class Application : public QApplication {
   std::function<void(const QString& text)> report;
 
   bool notify(QObject* receiver, QEvent* event) override;
-
- private:
-  void tell(const QString& text) const;
+  /// Reports what was caught elsewhere.
+  void tell(const std::exception& error) const;
+  /// File and reason, for the author.
+  static QString textOf(const std::exception& error);
 };
 
 }  // namespace nimbrel

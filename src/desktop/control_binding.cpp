@@ -1,12 +1,14 @@
 #include "desktop/control_binding.h"
 
 #include <QAbstractButton>
+#include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QShortcut>
 #include <QSignalBlocker>
 #include <QTabBar>
 #include <QTimer>
@@ -96,23 +98,38 @@ class MarkBinding : public Binding<QAbstractButton> {
  public:
   MarkBinding(Form& form, Control& control, QAbstractButton& button, Act act)
       : Binding(form, control, button, std::move(act)) {
-    button.setAutoExclusive(false);  // the form knows the groups
-    QObject::connect(&button, &QAbstractButton::clicked, &button, [this](bool checked) {
-      act_([this, checked] {
-        if (control_.kind == ControlKind::Option) {
-          form_.click(control_);
-        } else {
-          form_.check(control_, checked);
-        }
-      });
+    button.setAutoExclusive(false);
+    if (control.kind == ControlKind::Option) joinGroup();
+    QObject::connect(&button, &QAbstractButton::toggled, &button, [this](bool checked) {
+      if (control_.kind == ControlKind::Check) {
+        act_([this, checked] { form_.check(control_, checked); });
+      } else if (checked) {
+        act_([this] { form_.click(control_); });
+      }
     });
   }
 
  private:
+  /// The arrow keys go round in it.
+  void joinGroup() {
+    const auto name = QString("group%1").arg(control_.group);
+    auto* window = widget_.window();
+    auto* group = window->findChild<QButtonGroup*>(name, Qt::FindDirectChildrenOnly);
+    if (group == nullptr) {
+      group = new QButtonGroup(window);
+      group->setObjectName(name);
+    }
+    group->addButton(&widget_);
+  }
+
   void showContent() override {
     const auto wanted = text(control_.text);
     if (widget_.text() != wanted) widget_.setText(wanted);
-    if (widget_.isChecked() != control_.value) widget_.setChecked(control_.value);
+    if (widget_.isChecked() == control_.value) return;
+    // A group lets go of its one chosen button only as it is taken for another.
+    if (widget_.group() != nullptr) widget_.group()->setExclusive(false);
+    widget_.setChecked(control_.value);
+    if (widget_.group() != nullptr) widget_.group()->setExclusive(true);
   }
 };
 
@@ -163,9 +180,15 @@ class ListBinding : public Binding<QListWidget> {
                                              : QAbstractItemView::SingleSelection);
     QObject::connect(&list, &QListWidget::itemSelectionChanged, &list,
                      [this] { act_([this] { form_.choose(control_, selectedRows()); }); });
-    QObject::connect(&list, &QListWidget::itemActivated, &list, [this] {
+    const auto doubled = [this] {
       if (control_.doubleClick) act_(control_.doubleClick);
-    });
+    };
+    QObject::connect(&list, &QListWidget::itemDoubleClicked, &list, doubled);
+    for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
+      auto* shortcut = new QShortcut(key, &list);
+      shortcut->setContext(Qt::WidgetShortcut);
+      QObject::connect(shortcut, &QShortcut::activated, &list, doubled);
+    }
   }
 
  private:

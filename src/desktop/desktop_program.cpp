@@ -49,10 +49,21 @@ DesktopProgram::DesktopProgram(Application& application, const std::string& prog
   };
   QObject::connect(&application, &QGuiApplication::commitDataRequest, &view_,
                    [this](QSessionManager& session) {
-                     if (!session.allowsInteraction()) return;
-                     if (!view_.mayClose()) session.cancel();
+                     if (!session.allowsInteraction() && !session.allowsErrorInteraction()) return;
+                     if (!mayEnd()) session.cancel();
                      session.release();
                    });
+  termination_.onAsked([this] { view_.close(); });
+}
+
+/// A save that fails keeps the session, and is told here: nothing may be thrown through the session's library.
+bool DesktopProgram::mayEnd() {
+  try {
+    return view_.mayClose();
+  } catch (const std::exception& error) {
+    static_cast<Application*>(qApp)->tell(error);
+    return false;
+  }
 }
 
 void DesktopProgram::start(const std::string& commandLine) {

@@ -8,6 +8,7 @@
 #include "desktop/help_window.h"
 #include "desktop/main_view.h"
 #include "desktop/qt_asker.h"
+#include "desktop/termination.h"
 #include "desktop/user_settings.h"
 #include "platform/posix/host_file_system.h"
 
@@ -29,6 +30,8 @@ class DesktopProgram {
   HelpWindow& help() { return help_; }
 
  private:
+  bool mayEnd();
+
   HostFileSystem files_;
   QtAsker asker_;
   UserSettings settings_;
@@ -38,6 +41,7 @@ class DesktopProgram {
   Ports ports_;
   frmMain main_;
   MainView view_;
+  Termination termination_;
 };
 
 }  // namespace nimbrel

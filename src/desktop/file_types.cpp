@@ -75,6 +75,12 @@ QString FileTypes::mimeTypes() const {
   return text + "</mime-info>\n";
 }
 
+/// For the command of a desktop entry, which is quoted as a command and then as a value.
+QString quoted(QString program) {
+  for (const auto* special : {"\\", "\"", "`", "$"}) program.replace(special, QString("\\") + special);
+  return '"' + program.replace('%', "%%").replace('\\', "\\\\") + '"';
+}
+
 /// The style type opens nothing: its command takes no file.
 QString FileTypes::desktopEntry() const {
   QStringList opened;
@@ -83,14 +89,14 @@ QString FileTypes::desktopEntry() const {
   }
   return QString(
              "[Desktop Entry]\nType=Application\nName=Nimbrel\nGenericName=Menu Builder\n"
-             "Comment=Build the navigation menu of a web site\nExec=\"%1\" %f\nIcon=nimbrel\nTerminal=false\n"
-             "Categories=Development;WebDevelopment;\nMimeType=%2;\n")
-      .arg(QString(program_).replace('\\', "\\\\").replace('"', "\\\""), opened.join(';'));
+             "Comment=Build the navigation menu of a web site\nExec=%1 %f\nIcon=nimbrel\nTerminal=false\n"
+             "StartupWMClass=Nimbrel\nCategories=Development;WebDevelopment;\nMimeType=%2;\n")
+      .arg(quoted(program_), opened.join(';'));
 }
 
 void FileTypes::publish() const {
   bool isNew = writeIfNew(dataFolder_ + "/mime/packages/nimbrel-user.xml", mimeTypes().toUtf8());
-  isNew |= writeIfNew(dataFolder_ + "/applications/nimbrel-user.desktop", desktopEntry().toUtf8());
+  isNew |= writeIfNew(dataFolder_ + "/applications/example.nimbrel.Nimbrel.desktop", desktopEntry().toUtf8());
   const auto icons = dataFolder_ + "/icons/hicolor/scalable/";
   isNew |= writeIfNew(icons + "apps/nimbrel.svg", resource(":/icons/nimbrel.svg"));
   for (const auto& type : types) {

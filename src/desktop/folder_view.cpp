@@ -12,14 +12,18 @@ FolderView::FolderView(QWidget* parent) : QTreeView(parent), folders_(new QFileS
   for (int column = 1; column < folders_->columnCount(); ++column) hideColumn(column);
   setAccessibleName(tr("Folder"));
   // Rows come in behind the scenes, and move what was scrolled to.
-  connect(folders_, &QFileSystemModel::directoryLoaded, this, [this] { scrollTo(currentIndex()); });
+  connect(folders_, &QFileSystemModel::directoryLoaded, this, [this](const QString& path) {
+    if (isComing_) scrollTo(currentIndex());
+    if (QDir::cleanPath(path) == QDir::cleanPath(folder_)) isComing_ = false;
+  });
+  connect(this, &QTreeView::expanded, this, [this] { isComing_ = isComing_ && isOwnMove_; });
 }
 
 void FolderView::setFolder(const QString& path) {
   folder_ = path;
   const auto index = folders_->index(path);
   if (!index.isValid()) return;
-  isOwnMove_ = true;
+  isOwnMove_ = isComing_ = true;
   setCurrentIndex(index);
   expand(index);
   scrollTo(index);

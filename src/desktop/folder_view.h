@@ -26,6 +26,7 @@ class FolderView : public QTreeView {
   QFileSystemModel* folders_;
   QString folder_;
   bool isOwnMove_ = false;
+  bool isComing_ = false;  ///< the folder that was set is not in its place yet
 };
 
 }  // namespace nimbrel

@@ -1,12 +1,14 @@
 #include "desktop/form_window.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QCloseEvent>
 #include <QFile>
 #include <QLineEdit>
 #include <QTabBar>
 #include <QUiLoader>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <stdexcept>
 
 #include "desktop/browser_view.h"
@@ -44,7 +46,9 @@ FormWindow::FormWindow(Form& form, QWidget* parent) : QDialog(parent), form_(for
   auto* whole = new QVBoxLayout(this);
   whole->addWidget(content);
   setObjectName(named(form.name));
-  resize(content->size());
+  const QFontMetrics letters(font());
+  constexpr int drawnFor = 15;  // pixels, the height of the letters that the layouts were drawn with
+  resize(content->size() * std::max(1.0, static_cast<double>(letters.height()) / drawnFor));
   setWindowFlag(Qt::WindowContextHelpButtonHint, false);
   bind();
 }
@@ -57,6 +61,8 @@ void FormWindow::bind() {
       bindings_.push_back(bindTimer(*control, *this, carryOut));
     } else if (widget != nullptr) {
       bindings_.push_back(bindControl(form_, *control, *widget, carryOut));
+    } else if (control->visible && control->kind != ControlKind::Label) {  // a label may hold state alone
+      throw std::logic_error(std::string(form_.name) + ": nothing shows " + std::string(control->name));
     }
   }
 }
@@ -76,8 +82,18 @@ void FormWindow::act(const std::function<void()>& deed) {
 void FormWindow::refresh() {
   if (windowTitle() != shown(form_.caption)) setWindowTitle(shown(form_.caption));
   for (const auto& binding : bindings_) binding->show();
+  growToText();
   focus();
   if (!form_.isOpen && isVisible()) hide();
+}
+
+/// Texts may be longer, and the system's letters larger, than the layout was drawn for.
+void FormWindow::growToText() {
+  const auto room = screen()->availableSize();
+  const int needed = layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(width())
+                                                   : layout()->totalMinimumSize().height();
+  const int high = std::min(needed, room.height());
+  if (height() < high) resize(width(), high);
 }
 
 void FormWindow::focus() {
@@ -105,7 +121,17 @@ void FormWindow::reject() {
   });
 }
 
+/// In a list or a page the Enter key is theirs: it must not press the window's button behind the author's back.
+bool FormWindow::isEnterForContent(int key) const {
+  if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;
+  for (auto* widget = focusWidget(); widget != nullptr && widget != this; widget = widget->parentWidget()) {
+    if (qobject_cast<QAbstractItemView*>(widget) || qobject_cast<BrowserView*>(widget)) return true;
+  }
+  return false;
+}
+
 void FormWindow::keyPressEvent(QKeyEvent* event) {
+  if (isEnterForContent(event->key())) return;
   if (event->key() == Qt::Key_F1) {
     emit helpWanted();
     return;

@@ -35,6 +35,8 @@ class FormWindow : public QDialog {
   void reject() override;
 
  private:
+  bool isEnterForContent(int key) const;
+  void growToText();
   void bind();
   void act(const std::function<void()>& deed);
   void focus();

@@ -15,9 +15,8 @@
 #include <QTabWidget>
 #include <QTextBrowser>
 #include <QToolBar>
+#include <QToolButton>
 #include <QVBoxLayout>
-
-#include "desktop/icons.h"
 
 namespace nimbrel {
 namespace {
@@ -47,7 +46,6 @@ class HelpPage : public QTextBrowser {
 HelpWindow::HelpWindow(QString file, QString cacheFolder)
     : file_(std::move(file)), cacheFolder_(std::move(cacheFolder)) {
   setWindowTitle(tr("Nimbrel Help"));
-  setWindowIcon(applicationIcon());
 }
 
 HelpWindow::~HelpWindow() = default;
@@ -73,6 +71,7 @@ bool HelpWindow::load() {
   }
   engine_ = engine.release();
   build();
+  nameForReaders();
   return true;
 }
 
@@ -137,10 +136,27 @@ void HelpWindow::buildSearch() {
   search->scheduleIndexDocumentation();
 }
 
+/// Most of these come without a name that a screen reader could say.
+void HelpWindow::nameForReaders() {
+  tabs_->setAccessibleName(tr("Ways into the help"));
+  engine_->contentWidget()->setAccessibleName(tr("Contents"));
+  engine_->indexWidget()->setAccessibleName(tr("Index"));
+  auto* search = engine_->searchEngine();
+  search->resultWidget()->setAccessibleName(tr("Pages found"));
+  for (auto* edit : findChildren<QLineEdit*>()) edit->setAccessibleName(tr("Look for"));
+  for (auto* results : search->resultWidget()->findChildren<QTextBrowser*>()) {
+    results->setAccessibleName(tr("Pages found"));
+  }
+  for (auto* button : search->resultWidget()->findChildren<QToolButton*>()) {
+    if (button->text().isEmpty()) button->setAccessibleName(button->toolTip());
+  }
+}
+
 void HelpWindow::showPage(const QUrl& page) { page_->setSource(page); }
 
 void HelpWindow::come(int tab) {
   tabs_->setCurrentIndex(tab);
+  setWindowState(windowState() & ~Qt::WindowMinimized);
   show();
   raise();
   activateWindow();

@@ -31,6 +31,7 @@ class HelpWindow : public QMainWindow, public HelpSystem {
  private:
   bool load();
   bool isReady();
+  void nameForReaders();
   void build();
   void buildSearch();
   void showPage(const QUrl& page);

@@ -9,8 +9,8 @@
 namespace nimbrel {
 namespace {
 
-/// Pixels; between them the icon is scaled down.
-constexpr std::array sizes{16, 20, 24, 32, 48, 64, 96};
+/// Pixels: 16, 20 and 24 at the usual scales; between them the icon is scaled down.
+constexpr std::array sizes{16, 20, 24, 25, 28, 30, 32, 35, 36, 40, 42, 48, 60, 64, 72, 96};
 
 QPixmap rendered(QSvgRenderer& drawing, int size, double opacity) {
   QPixmap pixmap(size, size);

@@ -1,7 +1,9 @@
 #include <QLabel>
 #include <QLayout>
+#include <QMessageBox>
 #include <QPixmap>
 #include <QTimer>
+#include <optional>
 #include <unistd.h>
 
 #include "desktop/application.h"
@@ -48,10 +50,17 @@ int main(int argc, char** argv) {
   nimbrel::FormWindow splashWindow(splash);
   showAtOnce(splash, splashWindow);
 
-  const auto folder = nimbrel::absoluteHostPath(nimbrel::programFolder(std::nullopt));
-  nimbrel::DesktopProgram program(application, folder);
+  std::optional<nimbrel::DesktopProgram> program;
+  try {
+    program.emplace(application, nimbrel::absoluteHostPath(nimbrel::programFolder(std::nullopt)));
+  } catch (const std::exception& error) {
+    // Without its folder it cannot go on.
+    splashWindow.hide();
+    QMessageBox::critical(nullptr, "Nimbrel", nimbrel::Application::textOf(error));
+    return EXIT_FAILURE;
+  }
   splashWindow.hide();
   // Within the event loop, where a fault is told and the program goes on.
-  QTimer::singleShot(0, &application, [&] { program.start(commandLine(QCoreApplication::arguments())); });
+  QTimer::singleShot(0, &application, [&] { program->start(commandLine(QCoreApplication::arguments())); });
   return QCoreApplication::exec();
 }

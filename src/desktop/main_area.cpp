@@ -83,6 +83,7 @@ bool MainArea::drag(QEvent& event) {
   const auto grip = toTwips(grip_.geometry());
   switch (event.type()) {
     case QEvent::MouseButtonPress:
+      if (static_cast<QMouseEvent&>(event).button() != Qt::LeftButton) return false;
       bar_.setGeometry(toPixels(splitterBar(grip)));
       bar_.show();
       bar_.raise();
@@ -107,6 +108,11 @@ bool MainArea::drag(QEvent& event) {
       setSplitter(tree_.width() + (key == Qt::Key_Left ? -step : step));
       return true;
     }
+    case QEvent::FocusIn:
+    case QEvent::FocusOut:
+      grip_.setBackgroundRole(event.type() == QEvent::FocusIn ? QPalette::Highlight : QPalette::NoRole);
+      grip_.setAutoFillBackground(event.type() == QEvent::FocusIn);
+      return false;
     default: return false;
   }
 }

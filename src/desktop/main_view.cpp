@@ -57,12 +57,12 @@ MainView::MainView(frmMain& main)
       preview_(main.browser),
       liveExamples_(main.liveExamples) {
   setObjectName("frmMain");
-  setWindowIcon(applicationIcon());
   tree_.setObjectName("tvTreeView");
   statusBar()->setObjectName("sbStatusBar");
   setCentralWidget(area_);
   setMinimumWidth(toPixels(smallestFormWidth));
   for (auto* window : {&preview_, &liveExamples_}) window->setWindowFlags(Qt::Window);
+  for (auto* view : {&menuSheet_, &submenuSheet_, &itemSheet_}) view->hide();
   drawIcons();
   connectAll();
 }
@@ -89,27 +89,36 @@ void MainView::connectAll() {
     });
     connect(sheet, &SheetView::helpWanted, this, [this](int topic) { main_.ports.help.openTopic(topic); });
   }
-  for (auto* window : {&preview_, &liveExamples_})
+  for (auto* window : {&preview_, &liveExamples_}) {
     connect(window, &FormWindow::acted, this, &MainView::refresh);
+    connect(window, &FormWindow::helpWanted, this, [this] { run("mnuHelpContents"); });
+  }
+}
+
+/// Where the window stood last. A screen that is gone, or smaller by now, must hide nothing of it.
+QRect MainView::placeOnScreen() const {
+  constexpr int title = 30;  // pixels, above what is measured
+  const auto& place = main_.geometry;
+  const QRect wanted(toPixels(place.left), toPixels(place.top), toPixels(place.width),
+                     toPixels(place.height));
+  const auto* screen = QGuiApplication::screenAt(wanted.center());
+  if (screen == nullptr) screen = QGuiApplication::primaryScreen();
+  const auto room = screen->availableGeometry().adjusted(0, title, 0, 0);
+  QRect fitting(QPoint(), wanted.size().boundedTo(room.size()));
+  fitting.moveLeft(std::clamp(wanted.left(), room.left(), room.right() + 1 - fitting.width()));
+  fitting.moveTop(std::clamp(wanted.top(), room.top(), room.bottom() + 1 - fitting.height()));
+  return fitting;
 }
 
 void MainView::start(const std::string& commandLine) {
-  const auto& place = main_.geometry;
-  auto rectangle =
-      QRect(toPixels(place.left), toPixels(place.top), toPixels(place.width), toPixels(place.height));
-  // A screen that is gone, or smaller by now, must not hide the window.
-  const auto* screen = QGuiApplication::screenAt(rectangle.center());
-  if (screen == nullptr) screen = QGuiApplication::primaryScreen();
-  const auto available = screen->availableGeometry();
-  rectangle.setSize(rectangle.size().boundedTo(available.size()));
-  if (!available.contains(rectangle.topLeft())) rectangle.moveTopLeft(available.topLeft());
-  setGeometry(rectangle);
+  setGeometry(placeOnScreen());
   show();
-  isStarted_ = true;
+  isStarted_ = isStarting_ = true;
   {
     const AfterDeed after(*this);
     main_.Activate(commandLine);
   }
+  isStarting_ = false;
   model_.reset();
   tree_.openUp();
   refresh();
@@ -132,7 +141,7 @@ void MainView::run(const QString& command) {
       model_.reset();
       tree_.openUp();
     } else {
-      model_.sync();
+      syncTree();
     }
     refresh();
   };
@@ -154,7 +163,7 @@ void MainView::deleteNode() {
   constexpr int deleteKey = 46;
   const AfterDeed after(*this);
   main_.tvTreeView_KeyUp(deleteKey);
-  model_.sync();
+  syncTree();
 }
 
 void MainView::showContextMenu(const QPoint& place) {
@@ -162,6 +171,7 @@ void MainView::showContextMenu(const QPoint& place) {
 }
 
 void MainView::refresh() {
+  isClosed_ = false;  // whatever was answered, the author goes on
   const std::array paths{main_.state.FilePath + '\\' + main_.state.FileTitle};
   // What Qt takes for the place of its own mark is doubled.
   const auto title = shownWithPaths(main_.title, paths).replace("[*]", "[*][*]");
@@ -197,7 +207,10 @@ void MainView::showBeside(FormWindow& window) {
   window.refresh();
   auto& shows = shows_[&window];
   if (!window.form().isOpen || shows == window.form().shows) return;
-  if (shows == 0) window.move(placeBeside(window.size()));
+  if (shows == 0) {
+    const auto centre = screen()->availableGeometry().center() - QRect(QPoint(), window.size()).center();
+    window.move(&window == &preview_ ? centre : placeBeside(window.size()));
+  }
   shows = window.form().shows;
   window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
   window.show();
@@ -216,7 +229,16 @@ QPoint MainView::placeBeside(const QSize& size) const {
   return {std::clamp(left, available.left(), std::max(rightmost, available.left())), whole.top()};
 }
 
+/// The library has chosen what comes after a node that went; the view's own choice does not count.
+void MainView::syncTree() {
+  tree_.quietly([this] { model_.sync(); });
+}
+
 void MainView::setWaiting(bool isWaiting) {
+  if (isWaiting && isStarting_) {  // behind the tip of the day
+    syncTree();
+    refresh();
+  }
   preview_.setEnabled(!isWaiting);
   liveExamples_.setEnabled(!isWaiting);
 }
@@ -225,9 +247,13 @@ bool MainView::mayClose() {
   if (isClosed_) return true;
   if (auto* popup = QApplication::activePopupWidget()) popup->close();  // it would take the first answer
   noteGeometry();
-  const AfterDeed after(*this);
-  isClosed_ = main_.QueryClose();
-  return isClosed_;
+  bool mayClose = false;
+  {
+    const AfterDeed after(*this);
+    mayClose = main_.QueryClose();
+  }
+  isClosed_ = mayClose;
+  return mayClose;
 }
 
 void MainView::closeEvent(QCloseEvent* event) {

@@ -54,6 +54,8 @@ class MainView : public QMainWindow {
   IconSource icons() const;
   void showNode(Node* node);
   void deleteNode();
+  void syncTree();
+  QRect placeOnScreen() const;
   void showContextMenu(const QPoint& place);
   void showSheets();
   void showBeside(FormWindow& window);
@@ -72,6 +74,7 @@ class MainView : public QMainWindow {
   std::map<const FormWindow*, std::size_t>
       shows_;  ///< of the windows beside this one, as they were last seen
   bool isStarted_ = false;
+  bool isStarting_ = false;
   bool isClosed_ = false;
 };
 

@@ -23,6 +23,12 @@ void TreeView::showSelected(const Node* node) {
   isOwnMove_ = false;
 }
 
+void TreeView::quietly(const std::function<void()>& change) {
+  isOwnMove_ = true;
+  change();
+  isOwnMove_ = false;
+}
+
 void TreeView::openUp() {
   constexpr int small = 400;  // rows
   constexpr int levels = 1;

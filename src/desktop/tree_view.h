@@ -15,6 +15,8 @@ class TreeView : public QTreeView {
 
   /// Marks the node that the main window has selected and brings it into view; no signal.
   void showSelected(const Node* node);
+  /// While the model changes, which node is current is told to nobody.
+  void quietly(const std::function<void()>& change);
   /// Opens a small tree whole, of a large one the first levels.
   void openUp();
 

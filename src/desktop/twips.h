@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QRect>
+#include <algorithm>
 #include <cmath>
 
 #include "platform/box.h"
@@ -13,7 +14,11 @@ inline constexpr int twipsPerPixel = 15;
 
 constexpr int toTwips(int pixels) { return pixels * twipsPerPixel; }
 constexpr int toPixels(int twips) { return twips / twipsPerPixel; }
-inline int toPixels(float twips) { return static_cast<int>(std::lround(twips / twipsPerPixel)); }
+/// For what is stored, which may be any number.
+inline int toPixels(float twips) {
+  constexpr float farthest = 100'000;
+  return static_cast<int>(std::lround(std::clamp(twips / twipsPerPixel, -farthest, farthest)));
+}
 
 inline Box toTwips(const QRect& place) {
   return {toTwips(place.x()), toTwips(place.y()), toTwips(place.width()), toTwips(place.height())};

@@ -62,11 +62,13 @@ void frmFontSize::Form_Activate() {
   const auto digits = size.substr(0, std::max<std::size_t>(size.size(), 2) - 2);
   select(cmbCSSUnits, findUnit(&CSSUnit::unit, size.substr(digits.size())).text);
   if (isKeyword(size)) {
+    toFocus = &cmbBrowserSize;
     select(cmbBrowserSize, size);
     setOption(optBrowserSizing);
     optBrowserSizing_Click();
   } else {
     using Limits = std::numeric_limits<std::int32_t>;
+    toFocus = &txtCSSSize;
     txtCSSSize.text = wholeNumber(digits, Limits::min(), Limits::max());
     setOption(optCSSSizing);
     optCSSSizing_Click();

@@ -166,6 +166,70 @@ TEST_F(Desktop, EveryDialogOpensAndClosesEachWay) {
   EXPECT_FALSE(run.main().state.IsDirty);
 }
 
+/// Enter in a list once pressed the window's button too, and rewrote the page.
+TEST_F(Desktop, EnterInTheListOfPagesAddsAndLinksNothing) {
+  run.start();
+  const QByteArray page = "<html><body></body></html>";
+  run.write("site/index.html", page);
+  run.thenPress("cmdOk");
+  run.thenChooseFile(run.path("site/menu.js"));
+  run.thenPress("cmdYes");
+  run.then([](QWidget& window) {
+    auto* files = window.findChild<QListWidget*>("File1");
+    files->setFocus();
+    files->setCurrentRow(0);
+    QTest::keyClick(files, Qt::Key_Return);
+    EXPECT_EQ(window.findChild<QListWidget*>("List1")->count(), 1);
+    EXPECT_TRUE(window.isVisible());
+    QTest::keyClick(&window, Qt::Key_Escape);
+  });
+  run.run("mnuToolsCompileMenu");
+  EXPECT_EQ(run.read("site/index.html"), page);
+}
+
+/// Another program may call the session's end off behind our answer.
+TEST_F(Desktop, AsksAgainWhereTheProgramWentOnBehindItsAnswer) {
+  run.start();
+  run.run("mnuItemAddItem");
+  run.thenPress("No");
+  EXPECT_TRUE(run.view().mayClose());
+  run.run("mnuItemAddItem");
+  run.thenPress("Cancel");
+  EXPECT_FALSE(run.view().mayClose());
+}
+
+TEST_F(Desktop, ComesBackOnTheScreenThatIsThere) {
+  UserSettings settings;
+  settings.SaveSetting("Settings2", "MainLeft", "1e30");
+  settings.SaveSetting("Settings2", "MainTop", "11000");
+  run.start();
+  EXPECT_TRUE(run.view().screen()->availableGeometry().contains(run.view().geometry()));
+}
+
+TEST_F(Desktop, StandsInOrderBehindTheTip) {
+  UserSettings().SaveSetting("Settings", "Show Tips at Startup", "-1");
+  run.then([this](QWidget& tip) {
+    EXPECT_EQ(run.view().tree().model()->rowCount(), 1);
+    EXPECT_FALSE(run.view().commands().action("mnuEditPaste")->isEnabled());
+    EXPECT_TRUE(run.view().sheet(Kind::Item).isHidden());
+    QTest::keyClick(&tip, Qt::Key_Escape);
+  });
+  run.start();
+}
+
+TEST_F(Desktop, OptionsFollowTheArrowKeys) {
+  run.start();
+  run.then([](QWidget& window) {
+    auto* first = window.findChild<QAbstractButton*>("Option1");
+    first->setFocus();
+    QTest::keyClick(first, Qt::Key_Down);
+    EXPECT_TRUE(window.findChild<QAbstractButton*>("Option2")->isChecked());
+    EXPECT_TRUE(window.findChild<QLineEdit*>("txtLibraryPath")->isEnabled());
+    QTest::keyClick(&window, Qt::Key_Escape);
+  });
+  run.run("mnuToolsCompileProperties");
+}
+
 TEST_F(Desktop, CompilePropertiesStayOnATabWithABadFolder) {
   run.start();
   run.then([this](QWidget& window) {
@@ -268,7 +332,7 @@ TEST_F(Desktop, RegistersItsFileTypesForTheUserAndKeepsSettingsAsText) {
   run.start();
   EXPECT_THAT(run.read("data/mime/packages/nimbrel-user.xml").toStdString(),
               testing::AllOf(HasSubstr("*.nbr"), HasSubstr("Nimbrel Menu Style")));
-  EXPECT_THAT(run.read("data/applications/nimbrel-user.desktop").toStdString(),
+  EXPECT_THAT(run.read("data/applications/example.nimbrel.Nimbrel.desktop").toStdString(),
               HasSubstr("MimeType=application/x-nimbrel-menu;\n"));
   run.view().resize(700, 500);
   EXPECT_TRUE(run.view().close());
@@ -310,6 +374,11 @@ TEST_F(Desktop, KeysOfTheTreeMoveDeleteAndCutWithTheirStates) {
   run.run("mnuEditCut");
   EXPECT_TRUE(run.view().commands().button("Paste")->isEnabled());
   EXPECT_EQ(run.view().tree().model()->rowCount(run.view().tree().model()->index(0, 0)), 1);
+  // kept: the commands are the deleted submenu's until another node is chosen.
+  run.run("mnuSubmenuAddSubmenu");
+  run.thenPress("Yes");
+  run.run("mnuSubmenuDeleteSubmenu");
+  EXPECT_TRUE(run.view().commands().action("mnuSubmenuDeleteSubmenu")->isEnabled());
 }
 
 TEST_F(Desktop, TheTreeFollowsWhatItsKeysAndClicksChange) {
