@@ -1,276 +1,239 @@
 // Where, when and how submenus and popups open and close.
 import assert from 'node:assert/strict';
-import { cpSync, mkdtempSync, rmSync } from 'node:fs';
-import { tmpdir } from 'node:os';
+import { cpSync } from 'node:fs';
 import { join } from 'node:path';
-import { test } from 'node:test';
-import { eventually, inEachBrowser } from './support/browsers.mjs';
-import { bin, nbrc, writeMenuFile } from './support/menu_file.mjs';
-import { loggingPage, logs, opener, plainMenu, servedSite, shows, visits } from './support/plain.mjs';
-import { addressOf } from './support/site.mjs';
+import { eventually } from './support/browsers.mjs';
+import { bin, nbrc } from './support/menu_file.mjs';
+import { inEachVisited, logs, opener, plainMenu, servedSite, shows } from './support/plain.mjs';
+import { pageOf } from './support/site.mjs';
 
 const onClick = { SubmenuWhen: 1 };
 const numbers = (count) => Array.from({ length: count }, (_, n) => n);
 const within = ([low, high], value, what) => assert.ok(low <= value && value <= high, `${what}: ${value}`);
 
-// Each side with each alignment, at four distances.
-const distances = [0, 30, -20, 7];
-const places = numbers(3).flatMap((side) => distances
-  .map((distance, align) => ({ name: `at ${side}${align}`, side, distance, align })));
-const placeItems = [...places.map(({ name, side, distance, align }) => opener(name, ['in', 'longer name'],
-  { ...onClick, OpenDirection: side, SubmenuWhere: distance, SubmenuAlignment: align }, { ItemPadding: 6 })),
-...numbers(2).map((type) => opener(`type ${type}`, ['one', 'two'], { ...onClick, SubmenuType: type }))];
-
-const unfolding = (names) => numbers(3).flatMap((how) => names.map(([name, direction]) => opener(`${how} ${name}`,
-  ['in', 'longer name'], { ...onClick, SubmenuHow: how, UnfoldDirection: direction, ...above(name) })));
-const directions = [['right', 1], ['left', 2], ['down', 3], ['up', 4]];
-const above = (name) => ({ OpenDirection: ['auto left', 'auto up'].includes(name) ? 2 : 1 });
+const unfolding = (names) => numbers(3).flatMap((how) => names.map(([name, UnfoldDirection, OpenDirection = 1]) => (
+  opener(`${how} ${name}`, ['in', 'longer name'], { ...onClick, SubmenuHow: how, UnfoldDirection, OpenDirection }))));
 
 const inHover = ['in hover', 'more', 'and more', 'last of all'];
-const log = (text) => `log.push('${text}')`;
-const commands = (name) => ({ JavascriptOnOpen: log(`${name} opens`), JavascriptOnClose: log(`${name} closes`) });
+const commands = (name) => (
+  { JavascriptOnOpen: `log.push('${name} opens')`, JavascriptOnClose: `log.push('${name} closes')` });
 const popup = { Collapsable: 1, HorizontalDistanceFromCorner: 600, VerticalDistanceFromCorner: 400 };
 
+// Time that passes when it is told to, and a count of the events that have come.
+const clock = `<script>
+  let now = 1000000;
+  const timers = [];
+  Date.now = () => now;
+  setTimeout = (call, delay) => timers.push({ call, at: now + delay });
+  clearTimeout = (number) => { delete timers[number - 1]; };
+  const pass = (time) => {
+    now += time;
+    timers.forEach(({ call, at }, n) => { if (at <= now) { delete timers[n]; call(); } });
+  };
+  const come = { click: 0, mousedown: 0, mousemove: 0 };
+  for (const type in come) addEventListener(type, () => { come[type]++; });
+</script>`;
+
 const address = servedSite((site) => {
-  site.menu('column', plainMenu({ CornerForPositioning: 4, HorizontalDistanceFromCorner: 450 }, placeItems));
-  site.menu('row', plainMenu({ MenuType: 1, CornerForPositioning: 5, VerticalDistanceFromCorner: 350 }, placeItems));
+  const own = (OpenDirection, SubmenuWhere, SubmenuAlignment, SubmenuType) => [opener('opens', ['one', 'two'],
+    { ...onClick, OpenDirection, SubmenuWhere, SubmenuAlignment, SubmenuType }, { ItemPadding: 30 })];
+  site.menu('column', plainMenu({ HorizontalDistanceFromCorner: 450 }, own(2, 7, 2, 1)));
+  site.menu('row', plainMenu({ MenuType: 1 }, own(1, -20, 3, 0)));
 
-  const chain = (names, changes) => names.reduceRight((inner, name) => opener(name, [inner], changes), 'end');
-  site.page('edges.html');
-  site.menu('right', plainMenu({ CornerForPositioning: 1, HorizontalDistanceFromCorner: 0 },
-    [chain(['wide at the right edge', 'r1', 'r2'], onClick)]), ['edges.html']);
-  site.menu('bottom', plainMenu({ CornerForPositioning: 3, VerticalDistanceFromCorner: 0, MenuType: 1 },
-    [{ ...chain(['bottom', 'b1', 'b2'], { ...onClick, SubmenuType: 1 }), ItemPadding: 8 }]), ['edges.html']);
-  site.menu('middle', plainMenu({ HorizontalDistanceFromCorner: 400, VerticalDistanceFromCorner: 550 }, [
-    opener('wide', ['W'.repeat(55)], onClick), opener('fixed', ['W'.repeat(55)], { ...onClick, OpenDirection: 1 }),
-    opener('low', numbers(12).map(String), onClick), opener('tall', numbers(60).map(String), onClick),
-  ]), ['edges.html']);
+  const chain = ['wide at the right edge', 'r1', 'r2'].reduceRight((inner, name) => opener(name, [inner], onClick), 'end');
+  site.menu('right', plainMenu({ CornerForPositioning: 1, HorizontalDistanceFromCorner: 0 }, [chain]), ['edges.html']);
+  site.menu('middle', plainMenu({ HorizontalDistanceFromCorner: 400 }, [
+    opener('wide', ['W'.repeat(55)], onClick), opener('tall', numbers(60).map(String), onClick)]), ['edges.html']);
 
-  site.page('unfolding.html');
+  site.page('rtl.html', pageOf('', ' dir="rtl"'));
+  site.menu('rtl', plainMenu({}, unfolding([['left', 1]])));
   const add = (name, ...menu) => site.menu(name, plainMenu(...menu), ['unfolding.html']);
   add('column_unfolds', { HorizontalDistanceFromCorner: 400 },
-    unfolding([...directions, ['auto right', 0], ['auto left', 0]]));
-  add('row_unfolds', { VerticalDistanceFromCorner: 500, MenuType: 1 }, unfolding([['auto down', 0], ['auto up', 0]]));
-  for (const MenuHow of numbers(3)) {
-    for (const [name, UnfoldDirection] of directions) {
-      add(`main_${MenuHow}_${name}`, { ...popup, MenuHow, UnfoldDirection }, ['one', 'two']);
-    }
-  }
+    unfolding([['right', 1], ['left', 2], ['down', 3], ['up', 4], ['auto right', 0], ['auto left', 0, 2]]));
+  add('row_unfolds', { VerticalDistanceFromCorner: 500, MenuType: 1 }, unfolding([['auto down', 0], ['auto up', 0, 2]]));
+  add('main_unfolds', { ...popup, MenuHow: 2, UnfoldDirection: 4 }, ['one', 'two']);
 
-  site.page('times.html', loggingPage());
-  const padding = { ItemPadding: 10 };
+  site.page('times.html', pageOf(clock));
+  const high = (ItemName) => ({ ItemName, ItemPadding: 10 });
   site.menu('times', plainMenu(commands('main'), [
-    opener('hover', inHover.map((ItemName) => ({ ItemName, ...padding })), commands('hover'), padding),
-    opener('other', ['in other'], {}, padding), opener('click', ['in click'], onClick, padding), 'plain',
+    opener('hover', inHover.map(high), commands('hover')), opener('other', ['in other'], {}, high('other')),
+    opener('click', ['in click'], onClick), 'plain',
   ]), ['times.html']);
   site.menu('sticky', plainMenu({ StickySubmenus: 1, HorizontalDistanceFromCorner: 500 },
     [opener('sticks', ['in sticks'])]), ['times.html']);
 
   const at = (top) => `style="position:absolute;left:200px;top:${top}px"`;
-  site.page('popups.html', loggingPage(`<a href="#" ${at(300)} onmouseover="nbrShowMenu('pop')">over</a>` +
+  site.page('popups.html', pageOf('<script>Date.now = () => 1000000;</script>' +
+    `<a href="#" ${at(300)} onmouseover="nbrShowMenu('pop')">over</a>` +
     `<button ${at(500)} onclick="nbrShowMenu('stay')">press</button>`));
-  const pop = [opener('first', ['in first']), 'second'];
-  site.menu('pop', plainMenu({ ...popup, ...commands('pop') }, pop), ['popups.html']);
+  site.menu('pop', plainMenu({ ...popup, ...commands('pop') }, ['plain', opener('opens', ['inner'])]), ['popups.html']);
   site.menu('stay', plainMenu({ ...popup, StickySubmenus: 1 }, ['stays']), ['popups.html']);
+
+  for (const part of ['libraries', 'dot.gif', 'preview-back.jpg']) cpSync(join(bin, part), site.path(part), { recursive: true });
+  nbrc('--home', site.folder, 'preview', site.path('pop.nbr'));
 });
 
-// The last panel as its unfolding begins: the edge at which it is covered (0 top, 1 right, 2 bottom, 3 left) and how
-// many of its own sizes it is off; null if it is there at once. `open` runs in the page, so that no time passes.
-const beginning = (visitor, open) => visitor.run(new Function(`${open};
-  const panel = [...document.querySelectorAll('[data-nbr-menu]')].flatMap((host) => (
-    [...host.shadowRoot.querySelectorAll('.panel')])).find((panel) => panel.getAnimations().length);
+// The panel that has just opened, as its unfolding begins: the edge at which it is covered (0 top, 1 right, 2 bottom,
+// 3 left) and how many of its own sizes it is off; null if it is there at once. Name: a popup, or an item to press.
+const beginning = (visitor, name) => visitor.run((name) => {
+  nbrShowMenu(name);
+  partOf(name)?.click();
+  const panel = all('.panel').find((panel) => panel.getAnimations().length);
   if (!panel) return null;
   const [animation] = panel.getAnimations();
   animation.pause();
   animation.currentTime = 0;
-  const begin = panel.getBoundingClientRect();
-  const inset = getComputedStyle(panel).clipPath.slice('inset('.length).split(' ');
-  const covered = inset.findIndex((part) => part.startsWith('100%'));
+  const begin = boxOf(panel);
+  const covered = getComputedStyle(panel).clipPath.slice('inset('.length).split(' ').findIndex((part) => part.startsWith('100%'));
   animation.finish();
-  const end = panel.getBoundingClientRect();
-  const off = [(begin.left - end.left) / end.width, (begin.top - end.top) / end.height];
-  return [covered, ...off.map(Math.round)];`));
-const pressing = (name) => `[...document.querySelectorAll('[data-nbr-menu]')].flatMap((host) => [...host.shadowRoot
-  .querySelectorAll('.item')]).find((item) => item.textContent === '${name}').click()`;
+  const end = boxOf(panel);
+  return [covered, Math.round((begin.left - end.left) / end.width), Math.round((begin.top - end.top) / end.height)];
+}, name);
 const uncovered = { right: [1, 0, 0], left: [3, 0, 0], down: [2, 0, 0], up: [0, 0, 0] };
 const pushed = { right: [3, -1, 0], left: [1, 1, 0], down: [0, 0, -1], up: [2, 0, 1] };
-const begins = [{}, uncovered, pushed];
 
-// What is open some time after the pointer has come upon an item of the first menu, told by the page's own clock.
-async function openAfter(visitor, name, delay, move) {
-  await visitor.run((name, delay) => {
-    const root = menu();
-    const opened = () => [...root.querySelectorAll('.item[aria-expanded=true]')].map((item) => item.textContent);
-    window.seen = new Promise((done) => root.addEventListener('pointerover', function over({ target }) {
-      if (target.textContent !== name) return;
-      root.removeEventListener('pointerover', over, true);
-      setTimeout(() => done(opened()), delay);
-    }, true));
-  }, name, delay);
-  await move();
-  return visitor.run(() => window.seen);
-}
-
-inEachBrowser((browser, open) => {
-  const visit = visits(address, open);
-  test('side, distance and alignment of submenus, beside a column and below a row; their own layout', async () => {
-    const side = ['left', 'right', 'width'];
-    const down = ['top', 'bottom', 'height'];
-    for (const [page, [from, to, size], [start, end, extent]] of [['column', side, down], ['row', down, side]]) {
-      const visitor = await open(address(`${page}.html`));
-      for (const { name, side, distance, align } of places) {
-        await visitor.click(name);
-        const [{ box: parent, items }, { box }] = await visitor.panels();
-        const item = items.find((item) => item.name === name).box;
-        const wanted = side === 2 ? parent[from] - distance - box[size] : parent[to] + distance;
-        const far = parent[end] - box[extent];
-        const aligned = [item[start], parent[start], far, (parent[start] + far) / 2][align];
-        within([wanted - 1, wanted + 1], box[from], `${page} ${name}`);
-        within([aligned - 1, aligned + 1], box[start], `${page} ${name}, aligned`);
-        await visitor.press('Escape');
-      }
-      const layouts = [['left', 'top', 'vertical'], ['top', 'left', 'horizontal']];
-      for (const [type, [same, different, orientation]] of layouts.entries()) {
-        await visitor.click(`type ${type}`);
-        const [one, two] = (await visitor.panels())[1].items.map(({ box }) => box);
-        assert.ok(one[same] === two[same] && one[different] < two[different], `${page} ${orientation}`);
-        assert.equal((await visitor.part('one', '.list', [], ['aria-orientation']))['aria-orientation'], orientation);
-        await visitor.press('Escape');
-      }
-      await visitor.close();
-    }
+inEachVisited(address, (visit, browser) => {
+  visit('a submenu has its own side, distance, alignment and layout', 'column.html', async (visitor) => {
+    await visitor.click('opens');
+    const [{ box: column }, { box: beside, items: [left, right] }] = await visitor.panels();
+    assert.deepEqual([beside.right, beside.bottom].map(Math.round), [column.left - 7, column.bottom].map(Math.round));
+    assert.ok(left.box.right <= right.box.left);
+    assert.deepEqual(await visitor.told('one', '.list', 'aria-orientation'), ['horizontal']);
+    await visitor.page.goto(address('row.html'));
+    await visitor.click('opens');
+    const [{ box: row }, { box: below, items: [upper, lower] }] = await visitor.panels();
+    assert.equal(Math.round(below.top), Math.round(row.bottom) - 20);
+    within([-1, 1], below.left - row.left - (row.right - below.right), 'centred');
+    assert.ok(upper.box.bottom <= lower.box.top);
   });
 
-  visit('at the edges Auto turns round, moves in and scrolls; a fixed side stays', 'edges.html', async (visitor) => {
-    const opened = async (...names) => {
+  visit('at the edges Auto turns round for the whole chain, moves in and scrolls', 'edges.html', async (visitor) => {
+    const opened = async (menu, ...names) => {
       for (const name of names) await visitor.click(name);
-      const boxes = (await visitor.panels()).map(({ menu, box }) => ({ menu, box }));
-      const { menu } = boxes.find((_, index) => boxes[index + 1]?.menu === boxes[index].menu);
-      return boxes.filter((panel) => panel.menu === menu).map(({ box }) => box);
+      return (await visitor.panels()).filter((panel) => panel.menu === menu).map(({ box }) => box);
     };
-    const right = await opened('wide at the right edge', 'r1', 'r2');
-    for (const n of [1, 2, 3]) within([0, 1], right[n - 1].left - right[n].right + 0.5, `right, level ${n}`);
-    const bottom = await opened('bottom', 'b1', 'b2');
-    for (const n of [1, 2, 3]) within([0, 1], bottom[n - 1].top - bottom[n].bottom + 0.5, `bottom, level ${n}`);
-    const [, wide] = await opened('wide');
-    assert.ok(wide.left > 0 && wide.left < 400);
+    const right = await opened('right', 'wide at the right edge', 'r1', 'r2');
+    for (const n of [1, 2, 3]) within([0, 1], right[n - 1].left - right[n].right + 0.5, `level ${n}`);
+    const [, wide] = await opened('middle', 'wide');
     within([999, 1001], wide.right, 'moved in');
-    assert.equal(await visitor.run(() => document.scrollingElement.scrollWidth), 1000);
-    const [main, fixed] = await opened('fixed');
-    within([main.right - 1, main.right + 1], fixed.left, 'fixed side');
-    assert.ok(fixed.right > 1000);
-    within([699, 700], (await opened('low'))[1].bottom, 'moved up');
-    const [, tall] = await opened('tall');
+    const [, tall] = await opened('middle', 'tall');
     assert.deepEqual([tall.top, tall.bottom], [0, 700]);
     await visitor.hover('3');
     await visitor.mouse.wheel({ deltaY: 5000 });
-    await eventually(async () => within([650, 700], (await visitor.part('59')).bottom, 'scrolled'));
+    await eventually(async () => within([650, 700], (await visitor.box('59')).bottom, 'scrolled'));
   });
 
   visit('how submenus and main menus appear, towards each side', 'unfolding.html', async (visitor) => {
-    for (const how of numbers(3)) {
+    for (const [how, begins] of [{}, uncovered, pushed].entries()) {
       for (const name of ['right', 'left', 'down', 'up', 'auto right', 'auto left', 'auto down', 'auto up']) {
-        const wanted = begins[how][name.replace('auto ', '')] ?? null;
-        assert.deepEqual(await beginning(visitor, pressing(`${how} ${name}`)), wanted, `submenu ${how} ${name}`);
-        if (name.includes('auto')) continue;
-        const main = `main_${how}_${name}`;
-        assert.deepEqual(await beginning(visitor, `nbrShowMenu('${main}')`), wanted, main);
+        assert.deepEqual(await beginning(visitor, `${how} ${name}`), begins[name.replace('auto ', '')] ?? null, `${how} ${name}`);
       }
     }
+    assert.deepEqual(await beginning(visitor, 'main_unfolds'), pushed.up);
+    await visitor.page.goto(address('rtl.html'));
+    assert.deepEqual(await beginning(visitor, '1 left'), uncovered.left, 'mirrored');
   });
 
   // The protocol for Firefox has no way to ask for this.
   if (browser === 'Chromium') {
     visit('who prefers less motion sees none', 'unfolding.html', async (visitor) => {
-      assert.equal(await beginning(visitor, pressing('2 down')), null);
-      assert.equal(await beginning(visitor, "nbrShowMenu('main_1_up')"), null);
+      for (const name of ['2 down', 'main_unfolds']) assert.equal(await beginning(visitor, name), null);
     }, { prepare: (page) => page.emulateMediaFeatures([{ name: 'prefers-reduced-motion', value: 'reduce' }]) });
   }
 
-  visit('resting opens after a while, a press at once; what closes leaves no nodes', 'times.html', async (visitor) => {
-    const main = ['hover', 'other', 'click', 'plain'];
-    const sticky = ['sticks'];
-    const nodes = () => visitor.run(() => menu().querySelectorAll('*').length);
-    const before = await nodes();
-    await visitor.run(() => { const start = Date.now(); Date.now = () => start + (window.later ?? 0); });
-    assert.deepEqual(await openAfter(visitor, 'hover', 60, () => visitor.hover('hover')), []);
-    await shows(visitor, main, inHover, sticky);
-    await visitor.click('hover');
-    await shows(visitor, main, inHover, sticky);
-    await visitor.run(() => { window.later = 600; });
-    await visitor.click('hover');
-    await shows(visitor, main, sticky);
-    assert.equal(await nodes(), before);
-    assert.deepEqual(await openAfter(visitor, 'click', 300, () => visitor.hover('click')), []);
-    await visitor.mouse.down();
-    assert.deepEqual(await visitor.shown(), [main, ['in click'], sticky]);
-    await visitor.mouse.up();
+  // What the mouse does at an item or a point of the page with the clock, and what is open some times behind the event:
+  // [milliseconds, the items of all panels but the first].
+  const acting = (visitor) => async (event, at, ...looks) => {
+    const before = await visitor.run((event) => come[event], event);
+    await visitor.mouse[event.replace('mouse', '')](...(typeof at === 'string' ? await visitor.centre(at) : at));
+    await eventually(async () => assert.ok(await visitor.run((event) => come[event], event) > before, event));
+    for (const [time, ...opened] of looks) {
+      await visitor.run((time) => pass(time), time);
+      assert.deepEqual((await visitor.shown()).slice(1).flat(), opened, `${event} ${at}, ${time}`);
+    }
+  };
+
+  visit('resting opens and leaving closes after a while, a press at once', 'times.html', async (visitor) => {
+    const does = acting(visitor);
+    const open = [...inHover, 'sticks'];
+    const away = [800, 600];
+    await does('mousemove', 'hover', [119, 'sticks'], [1, ...open]);
+    await does('mousemove', away, [499, ...open], [1, 'sticks']);
     await logs(visitor, 'main opens', 'hover opens', 'hover closes');
-    await visitor.hover('sticks');
-    await shows(visitor, main, sticky, ['in sticks']);
-    await visitor.hover('other');
-    await shows(visitor, main, ['in other'], sticky, ['in sticks']);
-    await visitor.mouse.move(800, 600);
-    await shows(visitor, main, sticky, ['in sticks']);
-    await visitor.mouse.click(800, 600);
-    await shows(visitor, main, sticky);
+    await does('mousemove', 'hover', [120, ...open]);
+    await does('mousemove', away, [499, ...open]);
+    await does('mousemove', 'hover', [1, ...open]);
+    await does('click', 'hover', [0, ...open]); // too soon to close
+    await does('mousemove', 'plain', [120, 'sticks']);
+    await does('mousemove', 'hover', [120, ...open], [501, ...open]);
+    await does('click', 'hover', [0, 'sticks']);
+    await does('mousemove', 'click', [1000, 'sticks']);
+    await does('mousedown', [], [0, 'in click', 'sticks']);
+    await visitor.mouse.up();
+    await does('mousemove', 'sticks', [120, 'in click', 'sticks', 'in sticks'], [500, 'sticks', 'in sticks']);
+    await does('mousemove', away, [1000, 'sticks', 'in sticks']);
+    await visitor.mouse.click(...away);
+    await shows(visitor, ['hover', 'other', 'click', 'plain'], ['sticks']);
+    assert.equal(await visitor.run(() => all('.panel').length), 2, 'what closes leaves no nodes');
   });
 
-  visit('across other items a submenu stays open, straight down another opens', 'times.html', async (visitor) => {
-    await visitor.hover('hover');
-    await eventually(async () => assert.ok(await visitor.part('last of all')));
-    const from = await visitor.centre('hover');
-    const to = await visitor.centre('last of all');
-    const other = await visitor.part('other');
-    const share = (other.top + 5 - from[1]) / (to[1] - from[1]);
-    const at = (part) => from.map((start, axis) => start + (to[axis] - start) * part);
-    assert.ok(at(share)[0] < other.right, 'the way crosses the other item');
-    assert.deepEqual(await openAfter(visitor, 'other', 250, async () => {
-      await visitor.mouse.move(...at(share * 0.5));
-      await visitor.mouse.move(...at(share));
-    }), ['hover']);
-    await visitor.mouse.move(...to);
-    assert.deepEqual(await openAfter(visitor, 'more', 250, () => visitor.hover('more')), ['hover']);
-    await visitor.hover('hover');
-    assert.deepEqual(await openAfter(visitor, 'other', 250, () => visitor.hover('other', { steps: 5 })), ['other']);
+  visit('on the way to a submenu it stays open for a while, elsewhere another opens', 'times.html', async (visitor) => {
+    const does = acting(visitor);
+    const open = [...inHover, 'sticks'];
+    await visitor.click('hover');
+    const [from, to] = [await visitor.centre('hover'), await visitor.centre('last of all')];
+    const onOther = ((await visitor.box('other')).top + 5 - from[1]) / (to[1] - from[1]);
+    const way = (part) => from.map((start, axis) => start + (to[axis] - start) * part);
+    const cross = async (...looks) => {
+      await visitor.mouse.move(from[0] - 9, from[1]);
+      await does('mousemove', 'hover', [120, ...open]);
+      await does('mousemove', way(onOther / 2));
+      await does('mousemove', way(onOther), ...looks);
+    };
+    await cross([399, ...open]);
+    await does('mousemove', to, [1000, ...open]);
+    await cross([399, ...open], [1, 'in other', 'sticks']);
+    await cross([200, ...open]);
+    await does('mousemove', 'other', [119, ...open], [1, 'in other', 'sticks']);
   });
 
   visit('a popup shows when called: at the pointer, or at its own place', 'popups.html', async (visitor) => {
-    const pop = ['first', 'second'];
+    const pop = ['plain', 'opens'];
     await shows(visitor);
     let left = 200;
-    const call = async () => {
+    const call = async (...more) => {
       await visitor.mouse.move(++left, 305);
-      await shows(visitor, pop);
+      await shows(visitor, pop, ...more);
     };
     await call();
-    const [{ box, role }] = await visitor.panels();
-    assert.deepEqual([box.left, box.top, role], [left, 305, 'menu']);
+    const [{ box }] = await visitor.panels();
+    assert.deepEqual([box.left, box.top], [left, 305]);
+    assert.deepEqual(await visitor.told('plain', '.list', 'role'), ['menu']);
+    await visitor.mouse.move(210, 310);
+    await eventually(async () => assert.match((await visitor.told('plain', '', 'class'))[0], / on/));
     await visitor.press('Escape');
     await shows(visitor);
+    await visitor.run((place) => document.querySelector('a').dispatchEvent(new MouseEvent('mouseover', place)),
+      { clientX: 210, clientY: 310 });
+    assert.deepEqual(await visitor.shown(), [], 'the pointer above the link only rests');
     await visitor.mouse.move(10, 10);
+    for (const leave of [() => visitor.mouse.click(800, 100), () => visitor.mouse.move(800, 100)]) {
+      await call();
+      await visitor.hover('opens');
+      await shows(visitor, pop, ['inner']);
+      await leave();
+      await shows(visitor);
+    }
     await call();
-    await visitor.hover('first');
-    await shows(visitor, pop, ['in first']);
-    await visitor.mouse.click(800, 100);
-    await shows(visitor);
-    await call();
-    await visitor.hover('second');
-    await visitor.mouse.move(800, 100);
-    await shows(visitor);
-    await call();
-    await visitor.mouse.move(100, 600);
+    await visitor.mouse.move(100, 600); // it was never reached
     await shows(visitor);
     await logs(visitor, ...Array(4).fill(['pop opens', 'pop closes']).flat());
     await visitor.run(() => { nbrShowMenu('pop'); nbrShowMenu('no such'); });
     const [{ box: own }] = await visitor.panels();
     assert.deepEqual([own.left, own.top], [600, 400]);
-    await visitor.hover('second');
-    await visitor.press('Escape');
     await visitor.mouse.click(210, 510);
     await shows(visitor, ['stays']);
-    await visitor.mouse.move(++left, 305);
-    await shows(visitor, pop, ['in first'], ['stays']);
+    await call(['stays']);
     await visitor.mouse.move(800, 100);
     await shows(visitor, ['stays']);
     await visitor.mouse.click(800, 100);
@@ -282,23 +245,16 @@ inEachBrowser((browser, open) => {
     await visitor.press('Enter');
     assert.equal(await visitor.focused(), 'stays');
     const [{ box }] = await visitor.panels();
-    const button = await visitor.run(() => document.querySelector('button').getBoundingClientRect().bottom);
-    within([button - 1, button + 1], box.top, 'below the button');
+    const button = await visitor.run(() => boxOf(document.querySelector('button')));
+    within([button.bottom - 1, button.bottom + 1], box.top, 'below the button');
     await visitor.press('Escape');
     await shows(visitor);
     assert.equal(await visitor.focused(), 'press');
   });
 
-  test('the preview page of a popup opens it by its link', async (t) => {
-    const home = mkdtempSync(join(tmpdir(), 'nimbrel-home-'));
-    t.after(() => rmSync(home, { recursive: true }));
-    cpSync(bin, home, { recursive: true });
-    writeMenuFile(join(home, 'popup.nbr'), plainMenu(popup, ['one', 'two']));
-    const visitor = await open(addressOf(nbrc('--home', home, 'preview', join(home, 'popup.nbr')).trim()));
+  visit('the preview page of a popup opens it by its link', 'preview/preview.html', async (visitor) => {
     await shows(visitor);
     await visitor.page.hover('a[href="#"]');
-    await shows(visitor, ['one', 'two']);
-    assert.deepEqual(visitor.faults, []);
-    await visitor.close();
+    await shows(visitor, ['plain', 'opens']);
   });
 });

@@ -17,7 +17,7 @@ const browsers = {
 
 export const launch = (name) => puppeteer.launch(browsers[name]);
 
-// Runs a set of tests in each browser; `start` gives the one of the set. NIMBREL_BROWSER names one alone.
+// Runs a set of tests in each browser, with how to open an address there. NIMBREL_BROWSER names one alone.
 export function inEachBrowser(tests) {
   for (const name of Object.keys(browsers)) {
     if (process.env.NIMBREL_BROWSER && process.env.NIMBREL_BROWSER !== name) continue;
@@ -30,6 +30,19 @@ export function inEachBrowser(tests) {
   }
 }
 
+// What each page has for its tests: a list for commands to write to, and ways into the shadow trees of its menus.
+function helpers() {
+  window.log = [];
+  window.roots = () => [...document.querySelectorAll('[data-nbr-menu]')].map((host) => host.shadowRoot);
+  window.all = (selector) => roots().flatMap((root) => [...root.querySelectorAll(selector)]);
+  window.nameOf = (node) => node.textContent || node.getAttribute('aria-label');
+  window.boxOf = (node) => node.getBoundingClientRect().toJSON();
+  window.partOf = (name, selector) => {
+    const node = all('.item, .title').find((node) => nameOf(node) === name);
+    return node && selector ? node.closest(selector) ?? node.querySelector(selector) : node;
+  };
+}
+
 // Opens an address; gives a visitor, who holds the faults that the page met.
 export async function open(browser, address, { width = 1000, height = 700, prepare } = {}) {
   const page = await browser.newPage();
@@ -39,6 +52,7 @@ export async function open(browser, address, { width = 1000, height = 700, prepa
   page.on('requestfailed', (request) => faults.push(`failed: ${request.url()}`));
   page.on('response', (response) => response.status() < 400 || faults.push(`${response.status()}: ${response.url()}`));
   await page.setViewport({ width, height });
+  await page.evaluateOnNewDocument(helpers);
   if (prepare) await prepare(page);
   await page.goto(address, { waitUntil: 'load' });
   return new Visitor(page, page.mainFrame(), faults);
@@ -47,7 +61,7 @@ export async function open(browser, address, { width = 1000, height = 700, prepa
 export const wait = (milliseconds) => new Promise((done) => setTimeout(done, milliseconds));
 
 // Tries until it holds, or gives the last failure. For what a page does in its own time.
-export async function eventually(check, limit = 3000) {
+export async function eventually(check, limit = 10000) {
   const end = Date.now() + limit;
   for (;;) {
     try {
@@ -62,10 +76,7 @@ export async function eventually(check, limit = 3000) {
 // A visitor of a page, or of one frame of it. Items are named by their text or accessible name, menus by their names.
 export class Visitor {
   constructor(page, frame, faults) {
-    this.page = page;
-    this.frame = frame;
-    this.faults = faults;
-    this.mouse = page.mouse;
+    Object.assign(this, { page, frame, faults, mouse: page.mouse });
   }
 
   async inFrame(name) {
@@ -81,58 +92,40 @@ export class Visitor {
 
   press(key) { return this.page.keyboard.press(key); }
 
-  // What is shown: each panel with its title, box and items.
+  // What is shown: each panel with its box and items.
   panels() {
-    return this.run(() => [...document.querySelectorAll('[data-nbr-menu]')].flatMap((host) => (
-      [...host.shadowRoot.querySelectorAll('.panel')].map((panel) => {
-        const box = (node) => {
-          const { left, top, right, bottom, width, height } = node.getBoundingClientRect();
-          return { left, top, right, bottom, width, height };
-        };
-        return {
-          menu: host.dataset.nbrMenu,
-          role: panel.querySelector('.list').getAttribute('role'),
-          title: panel.querySelector('.title')?.textContent ?? null,
-          box: box(panel),
-          items: [...panel.querySelectorAll('.item')].map((item) => ({
-            name: item.textContent || item.getAttribute('aria-label'), box: box(item), class: item.className,
-            href: item.getAttribute('href'), expanded: item.getAttribute('aria-expanded'), tabIndex: item.tabIndex,
-          })),
-        };
-      }))));
+    return this.run(() => all('.panel').map((panel) => ({
+      menu: panel.getRootNode().host.dataset.nbrMenu, box: boxOf(panel),
+      items: [...panel.querySelectorAll('.item')].map((item) => ({ name: nameOf(item), box: boxOf(item) })),
+    })));
   }
 
   // The names of the open panels' items, a list a panel.
   async shown() { return (await this.panels()).map((panel) => panel.items.map((item) => item.name)); }
 
-  // A part of an item, of a title or of the panel that holds them: its box, the wanted styles and attributes.
-  part(name, selector = null, styles = [], attributes = []) {
-    return this.run((name, selector, styles, attributes) => {
-      for (const host of document.querySelectorAll('[data-nbr-menu]')) {
-        for (const node of host.shadowRoot.querySelectorAll('.item, .title')) {
-          if ((node.textContent || node.getAttribute('aria-label')) !== name) continue;
-          const part = !selector ? node : node.closest(selector) ?? node.querySelector(selector);
-          if (!part) return null;
-          const style = getComputedStyle(part);
-          const { left, top, right, bottom, width, height } = part.getBoundingClientRect();
-          const result = { left, top, right, bottom, width, height };
-          for (const wanted of styles) result[wanted] = style[wanted];
-          for (const wanted of attributes) result[wanted] = part.getAttribute(wanted);
-          return result;
-        }
-      }
-      return null;
-    }, name, selector, styles, attributes);
+  // The box of an item or title, of a part in it or of the panel that holds it; null if it is not there.
+  box(name, selector = '') {
+    return this.run((...part) => {
+      const node = partOf(...part);
+      return node ? boxOf(node) : null;
+    }, name, selector);
+  }
+
+  // The wanted styles and attributes of such a part.
+  told(name, selector, ...wanted) {
+    return this.run((name, selector, wanted) => {
+      const node = partOf(name, selector);
+      const style = getComputedStyle(node);
+      return wanted.map((one) => style[one] ?? node.getAttribute(one));
+    }, name, selector, wanted);
   }
 
   // The middle of an item, as soon as nothing moves.
   async centre(name) {
     await this.run(async () => {
-      for (const { shadowRoot } of document.querySelectorAll('[data-nbr-menu]')) {
-        for (const animation of shadowRoot.getAnimations()) await animation.finished.catch(() => {});
-      }
+      for (const animation of roots().flatMap((root) => root.getAnimations())) await animation.finished.catch(() => {});
     });
-    const box = await this.part(name);
+    const box = await this.box(name);
     if (!box) throw new Error(`${name} is not shown`);
     const element = this.frame.parentFrame() && await this.frame.frameElement();
     const { x, y } = element ? await element.boundingBox() : { x: 0, y: 0 };
@@ -150,7 +143,7 @@ export class Visitor {
     return this.run(() => {
       let node = document.activeElement;
       while (node?.shadowRoot) node = node.shadowRoot.activeElement;
-      return node && node !== document.body ? node.textContent || node.getAttribute('aria-label') : null;
+      return node && node !== document.body ? nameOf(node) : null;
     });
   }
 }

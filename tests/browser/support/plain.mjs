@@ -1,7 +1,7 @@
 // Menus whose boxes are easily told: they stand still, without titles and borders. An item may be its name alone.
 import assert from 'node:assert/strict';
 import { after, before, test } from 'node:test';
-import { eventually } from './browsers.mjs';
+import { eventually, inEachBrowser } from './browsers.mjs';
 import { serve, Site } from './site.mjs';
 
 const plain = { DisplayNameAsTitle: 2, BorderStyle: 'none' };
@@ -13,24 +13,18 @@ export const plainMenu = (menu, items, settings) => (
 export const opener = (ItemName, items, submenu, item) => (
   { ItemName, ...item, submenu: { SubmenuHow: 0, SubmenuWhere: 0, ...plain, ...submenu, items: items.map(asItem) } });
 
-// A page that keeps in `log` what the menu's commands say; `menu()` is the shadow tree of the first menu.
-const inPage = "log = []; menu = () => document.querySelector('[data-nbr-menu]').shadowRoot;";
-export const loggingPage = (body = '', more = '') => '<!DOCTYPE html><html lang="en"' + more +
-  `><head><title>Page</title><script>${inPage}</script></head><body>${body}</body></html>`;
-
-// The site of a test file and its server, while its tests run.
-export function servedSite(make) {
-  const served = {};
+// The site of a test file and its server, while its tests run; gives the address of a page.
+export function servedSite(make, site = new Site()) {
+  let server;
   before(async () => {
-    served.site = new Site();
-    make(served.site);
-    served.server = await serve(served.site.folder);
+    make(site);
+    server = await serve(site.folder);
   });
   after(() => {
-    served.server?.stop();
-    served.site?.remove();
+    server?.stop();
+    site.remove();
   });
-  return (page) => `${served.server.address}/${page}`;
+  return (page) => `${server.address}/${page}`;
 }
 
 export const shows = (visitor, ...panels) => eventually(async () => assert.deepEqual(await visitor.shown(), panels));
@@ -38,10 +32,13 @@ export const shows = (visitor, ...panels) => eventually(async () => assert.deepE
 export const logs = (visitor, ...lines) => (
   eventually(async () => assert.deepEqual(await visitor.run(() => log), lines)));
 
-// A form for tests that each visit a page of the site, in which nothing may go wrong.
-export const visits = (address, open) => (title, page, body, options) => test(title, async () => {
-  const visitor = await open(address(page), options);
-  await body(visitor);
-  assert.deepEqual(visitor.faults, []);
-  await visitor.close();
+// Tests in each browser, of the form `visit(title, page, body)`: each visits a page, in which nothing may go wrong.
+export const inEachVisited = (address, tests) => inEachBrowser((browser, open) => {
+  const visit = (title, page, body, options) => test(title, async () => {
+    const visitor = await open(address(page), options);
+    await body(visitor);
+    assert.deepEqual(visitor.faults, []);
+    await visitor.close();
+  });
+  tests(visit, browser, open);
 });
