@@ -123,7 +123,16 @@ StateHeader::StateHeader(const PropertySheet& sheet, QWidget* parent)
   setSectionsClickable(false);
   setHighlightSections(false);
   setMinimumSectionSize(1);
-  setTextElideMode(Qt::ElideRight);
+}
+
+/// The header itself measures letters that are not bold, and cuts these off at both ends.
+void StateHeader::initStyleOptionForIndex(QStyleOptionHeader* option, int logicalIndex) const {
+  QHeaderView::initStyleOptionForIndex(option, logicalIndex);
+  QFont bold = font();
+  bold.setBold(true);
+  const int room =
+      sectionSize(logicalIndex) - 2 * style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, this);
+  option->text = QFontMetrics(bold).elidedText(option->text, Qt::ElideRight, room);
 }
 
 void StateHeader::paintSection(QPainter* painter, const QRect& place, int logicalIndex) const {

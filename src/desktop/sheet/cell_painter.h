@@ -45,6 +45,7 @@ class StateHeader : public QHeaderView {
   explicit StateHeader(const PropertySheet& sheet, QWidget* parent = nullptr);
 
  protected:
+  void initStyleOptionForIndex(QStyleOptionHeader* option, int logicalIndex) const override;
   void paintSection(QPainter* painter, const QRect& place, int logicalIndex) const override;
 
  private:
