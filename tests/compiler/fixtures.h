@@ -5,6 +5,7 @@
 #include <string_view>
 #include <utility>
 
+#include "model/fixtures.h"
 #include "model/structure.h"
 
 namespace nimbrel {
@@ -27,22 +28,6 @@ inline Document menuWithTwoSubmenus() {
   BuildDefaultDocument(document);
   for (const char* owner : {"I1", "I2"}) AddItem(document, AddSubmenu(document, owner)->Key);
   return document;
-}
-
-/// Each number is its property's position in the table, from 1, each text the property's name.
-template <class E>
-E withDistinctValues() {
-  E element;
-  std::uint8_t position = 0;
-  eachProperty<E>([&](const Property<E>& property, auto field) {
-    ++position;
-    if constexpr (std::is_same_v<decltype(field), SharedText E::*>) {
-      element.*field = property.name;
-    } else {
-      element.*field = position;
-    }
-  });
-  return element;
 }
 
 template <class E>

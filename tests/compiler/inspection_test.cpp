@@ -1,6 +1,7 @@
 #include "compiler/inspection.h"
 
 #include <gmock/gmock.h>
+#include <random>
 
 #include "compiler/fixtures.h"
 #include "platform/memory/memory_file_system.h"
@@ -16,10 +17,6 @@ std::vector<std::string> findingsIn(const Document& document, const FileSystem& 
     texts.push_back(finding.path + ": " + finding.text());
   }
   return texts;
-}
-
-TEST(Inspection, FindsNothingInASoundDocument) {
-  EXPECT_THAT(findingsIn(menuWithTwoSubmenus()), ElementsAre());
 }
 
 TEST(Inspection, FindsBrokenNesting) {
@@ -44,42 +41,48 @@ TEST(Inspection, FindsBrokenNesting) {
                                                 "m.nbr: M7 is a main menu below the root"));
 }
 
-TEST(Inspection, FindsValuesThatBreakTheirLineOrTheScript) {
+TEST(Inspection, FindsNothingInWhatWasBuiltHere) {
+  auto document = menuWithTwoSubmenus();
+  auto& elements = document.ElementColl;
+  std::mt19937 engine(1);
+  for (int step = 0; step < 2000; ++step) {
+    const auto position = static_cast<std::ptrdiff_t>(engine() % elements.size());
+    const auto key = std::next(elements.begin(), position)->first;
+    switch (engine() % 4) {
+      case 0: AddSubmenu(document, key); break;
+      case 1:
+        if (key != "M0") RemoveSubtree(document, key);
+        break;
+      default: AddItem(document, key);
+    }
+    EXPECT_EQ(elements.size(), document.tvTreeView.size());
+  }
+  EXPECT_THAT(findingsIn(document), ElementsAre());
+}
+
+TEST(Inspection, FindsValuesThatBreakTheirLineOrTheScriptAndPicturesThatWillNotShow) {
+  MemoryFileSystem files;
+  files.files = {{"a\\x.gif", gif(1, 1)}, {"b\\x.gif", gif(2, 2)}, {"it's.gif", gif(1, 1)}};
   auto document = menuWithTwoSubmenus();
   auto& item = get<ItemObj>(document, "I1");
   item.ItemName2 = "two\nlines";
-  item.FontFamily1 = "Arial, serif";
-  item.BorderColor3 = "it's";
-  item.JavascriptCommand1 = "say(\"a,b\")\r";
-  item.URL = "a\"b.html";
-  EXPECT_THAT(
-      findingsIn(document),
-      ElementsAre("m.nbr: ItemName2 of I1 holds a line break, which ends the value in the file",
-                  "m.nbr: FontFamily1 of I1 holds a comma, which shifts the values behind it in the file",
-                  "m.nbr: BorderColor3 of I1 holds a single quote, which breaks the script",
-                  "m.nbr: JavascriptCommand1 of I1 holds a line break, which ends the value in the file",
-                  "m.nbr: URL of I1 holds a double quote, which breaks the script"));
-}
-
-TEST(Inspection, FindsPicturesThatWillNotShow) {
-  MemoryFileSystem files;
-  files.files = {
-      {"a\\x.gif", gif(1, 1)}, {"b\\x.gif", gif(2, 2)}, {"it's.gif", gif(1, 1)}, {"t.txt", "text"}};
-  auto document = menuWithTwoSubmenus();
-  auto& menu = get<MenuObj>(document, "M0");
-  auto& item = get<ItemObj>(document, "I5");
-  menu.TitleImage = item.BGImage1 = "gone.gif";
-  menu.BGImage = item.BGImage2 = "a\\x.gif";
-  item.BGImage3 = "b\\x.gif";
-  item.ItemImage1 = "t.txt";
+  item.ItemImage1 = item.BGImage2 = "a\\x.gif";
   item.ItemImage2 = "it's.gif";
   item.ItemImage3 = "";
+  item.FontFamily1 = "Arial, serif";
+  item.BorderColor3 = "it's";
+  item.BGImage1 = "b\\x.gif";
+  item.JavascriptCommand1 = "say(\"a,b\")\r";
+  item.TargetFrame = "a\"b.html";
   EXPECT_THAT(
       findingsIn(document, files),
-      ElementsAre("gone.gif: there is no such picture (used by M0)",
-                  "t.txt: is of no known picture format (used by I5)",
+      ElementsAre("m.nbr: ItemName2 of I1 holds a line break, which ends the value in the file",
                   "it's.gif: has a single quote in its name, which breaks the script",
-                  "b\\x.gif: has the name of another picture, which is shown in its place (used by I5)"));
+                  "m.nbr: FontFamily1 of I1 holds a comma, which shifts the values behind it in the file",
+                  "m.nbr: BorderColor3 of I1 holds a single quote, which breaks the script",
+                  "b\\x.gif: has the name of another picture, which is shown in its place (used by I1)",
+                  "m.nbr: JavascriptCommand1 of I1 holds a line break, which ends the value in the file",
+                  "m.nbr: TargetFrame of I1 holds a double quote, which breaks the script"));
 }
 
 }  // namespace

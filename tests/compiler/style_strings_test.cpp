@@ -1,13 +1,11 @@
 #include "compiler/style_strings.h"
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include "compiler/fixtures.h"
 
 namespace nimbrel {
 namespace {
-
-using testing::ElementsAre;
 
 template <class E>
 std::string styleOf(const E& element, void (*styleString)(const E&, std::string&)) {
@@ -16,37 +14,24 @@ std::string styleOf(const E& element, void (*styleString)(const E&, std::string&
   return call;
 }
 
-template <class Container>
-void expectContainerStyles(const std::string& title, const std::string& container) {
-  auto c = withDistinctValues<Container>();
+TEST(StyleStrings, OfContainers) {
+  auto c = withDistinctValues<MenuObj>();
   c.TitleFontItalic = c.TitleFontBold = c.TitleFontUnderlined = 1;
   c.TitleBGColor = c.TitleBorderStyle = c.BorderColor = notSet;
   c.TitlePadding = 1.5F;
   c.BGImageNo = 6;
-  EXPECT_EQ(styleOf<Container>(c, TitleStyleString), title);
-  EXPECT_EQ(styleOf<Container>(c, ContainerStyleString), container);
-
-  const auto hasTitle = [&](std::uint8_t display, std::string_view image) {
-    c.DisplayNameAsTitle = display;
-    c.TitleImage = image;
-    return !styleOf<Container>(c, TitleStyleString).empty();
-  };
-  EXPECT_FALSE(hasTitle(0, "n"));
-  EXPECT_TRUE(hasTitle(0, "t.gif"));
-  EXPECT_TRUE(hasTitle(2, "n"));
-}
-
-TEST(StyleStrings, Containers) {
-  expectContainerStyles<MenuObj>(
-      "nbrCreateCSS(1,2,16,'TitleFontColor',n,n,'italic bold TitleFontSize "
-      "TitleFontFamily','underline','n',28,"
-      "'TitleBorderColor',1.5,18)",
-      "nbrCreateCSS(0,1,0,n,'BGColor',5,n,n,'BorderStyle',33,n,0,0);");
-  expectContainerStyles<SubmenuObj>(
-      "nbrCreateCSS(1,2,12,'TitleFontColor',n,n,'italic bold TitleFontSize "
-      "TitleFontFamily','underline','n',24,"
-      "'TitleBorderColor',1.5,14)",
-      "nbrCreateCSS(0,1,0,n,'BGColor',5,n,n,'BorderStyle',29,n,0,0);");
+  EXPECT_EQ(
+      styleOf<MenuObj>(c, TitleStyleString),
+      "nbrCreateCSS(1,2,16,'TitleFontColor',n,n,'italic bold TitleFontSize TitleFontFamily','underline',"
+      "'n',28,'TitleBorderColor',1.5,18)");
+  EXPECT_EQ(styleOf<MenuObj>(c, ContainerStyleString),
+            "nbrCreateCSS(0,1,0,n,'BGColor',5,n,n,'BorderStyle',33,n,0,0);");
+  c.DisplayNameAsTitle = 0;  // the image alone makes a title, too
+  EXPECT_NE(styleOf<MenuObj>(c, TitleStyleString), "");
+  c.TitleImage = notSet;
+  EXPECT_EQ(styleOf<MenuObj>(c, TitleStyleString), "");
+  c.DisplayNameAsTitle = 2;
+  EXPECT_NE(styleOf<MenuObj>(c, TitleStyleString), "");
 }
 
 TEST(StyleStrings, EachStateOfAnItemFromItsOwnFields) {
@@ -66,41 +51,25 @@ TEST(StyleStrings, EachStateOfAnItemFromItsOwnFields) {
       "'BorderColor3',20,17)");
 }
 
-TEST(StyleCollection, NumbersDistinctCalls) {
-  StyleCollection styles;
-  EXPECT_EQ(styles.GetStyleID("a"), "0");
-  EXPECT_EQ(styles.GetStyleID(""), "");
-  EXPECT_EQ(styles.GetStyleID("A"), "1");
-  EXPECT_EQ(styles.GetStyleID("a"), "0");
-  EXPECT_THAT(styles.StyleStrings(), ElementsAre("a", "A"));
-}
-
-TEST(StyleCollection, NumbersAMenusItemsAheadOfItsSubmenusAndSharesWhatLooksAlike) {
-  auto document = menuWithTwoSubmenus();
-  get<MenuObj>(document, "M0").DisplayNameAsTitle = 0;  // no title: takes no number
-  get<ItemObj>(document, "I3").BorderWidth3 = 9;
-  get<SubmenuObj>(document, "S6").BGColor = "#000006";
-  auto& deep = get<ItemObj>(document, "I5");  // comes to look as the titles of the submenus
-  deep.FontColor1 = "#FFFFFF", deep.BGColor1 = "#5B5B5B", deep.BorderWidth1 = 2, deep.ItemCursor = 0;
-
-  const auto numbers = [&](bool includeSubmenus) {
-    StyleCollection styles;
-    styles.CollectStyles(document, *document.tvTreeView.root(), includeSubmenus);
-    std::vector<std::string> found{std::to_string(styles.StyleStrings().size())};
-    const auto add = [&found](const std::string& key, const auto&... ids) {
-      found.push_back(key + ":" + ((" " + ids.str()) + ...));
-    };
-    for (const auto& [key, element] : document.ElementColl) {
-      if (const auto* i = std::get_if<ItemObj>(&element))
-        add(key, i->ItemStyleID1, i->ItemStyleID2, i->ItemStyleID3);
-      if (const auto* s = std::get_if<SubmenuObj>(&element)) add(key, s->TitleStyleID, s->ContainerStyleID);
-      if (const auto* m = std::get_if<MenuObj>(&element)) add(key, m->TitleStyleID, m->ContainerStyleID);
+TEST(StyleStrings, OfAnItemThatDiffersInOneValueAreItsOwn) {
+  eachProperty<ItemObj>([](const Property<ItemObj>& property, auto field) {
+    auto document = menuWithTwoSubmenus();
+    auto& item = get<ItemObj>(document, "I3");  // else as I1 and I2 ahead of it
+    if constexpr (std::is_same_v<decltype(field), SharedText ItemObj::*>) {
+      item.*field = "other";
+    } else {
+      item.*field = 9;
     }
-    return found;
-  };
-  EXPECT_EQ(numbers(false).front(), "5");
-  EXPECT_THAT(numbers(true), ElementsAre("9", "M0:  0", "I1: 1 2 3", "I2: 1 2 3", "I3: 1 2 4", "S4: 5 0",
-                                         "I5: 5 6 7", "S6: 5 8", "I7: 1 2 3"));
+    StyleCollection styles;
+    styles.CollectStyles(document, *document.tvTreeView.root(), true);
+    const auto numbered = [&](const SharedText& id) {
+      return styles.StyleStrings().at(std::stoul(id.str()));
+    };
+    EXPECT_EQ(numbered(item.ItemStyleID1), styleOf(item, ItemStyleString1)) << property.name;
+    EXPECT_EQ(numbered(item.ItemStyleID2), styleOf(item, ItemStyleString2)) << property.name;
+    EXPECT_EQ(numbered(item.ItemStyleID3), styleOf(item, ItemStyleString3)) << property.name;
+    EXPECT_EQ(get<ItemObj>(document, "I7").ItemStyleID1, get<ItemObj>(document, "I1").ItemStyleID1);
+  });
 }
 
 }  // namespace

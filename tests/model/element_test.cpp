@@ -1,214 +1,102 @@
 #include "model/element.h"
 
 #include <gmock/gmock.h>
-#include <set>
+#include <sstream>
 #include <string>
 #include <vector>
+
+#include "model/fixtures.h"
 
 namespace nimbrel {
 namespace {
 
-using testing::IsEmpty;
 using testing::UnorderedElementsAre;
 using testing::UnorderedElementsAreArray;
-using Names = std::vector<std::string_view>;
+using Names = std::vector<std::string>;
 
-void put(SharedText& field, int number) { field = "text " + std::to_string(number); }
-void put(std::uint8_t& field, int number) { field = static_cast<std::uint8_t>(number); }
-void put(float& field, int number) { field = static_cast<float>(number) + 0.5F; }
-
-/// An element whose properties all differ, also from those of one with another `from`, and from zero.
+/// The properties in which two elements agree, or those in which they do not.
 template <class E>
-E distinct(int from) {
-  E element;
-  eachProperty<E>([&](const Property<E>&, auto field) { put(element.*field, from++); });
-  return element;
-}
-
-/// The properties in which two elements differ.
-template <class E>
-Names differences(const E& a, const E& b) {
+Names properties(bool agree, const E& a, const E& b) {
   Names names;
   eachProperty<E>([&](const Property<E>& property, auto field) {
-    if (!(a.*field == b.*field)) names.push_back(property.name);
+    if ((a.*field == b.*field) == agree) names.emplace_back(property.name);
   });
   return names;
 }
 
-template <class E>
-Names allNames() {
-  return differences(E{}, distinct<E>(1));
-}
-
-template <class E>
-Names allNamesBut(const Names& others) {
-  Names names = allNames<E>();
-  std::erase_if(names, [&](auto name) { return std::ranges::find(others, name) != others.end(); });
-  return names;
-}
-
-template <class E>
-class EveryRow : public testing::Test {};
-using Classes = testing::Types<MenuObj, SubmenuObj, ItemObj>;
-TYPED_TEST_SUITE(EveryRow, Classes);
-
-TYPED_TEST(EveryRow, IsOneFieldOfItsOwn) {
-  const auto& rows = TypeParam::properties();
-  for (const auto& row : rows) {
-    TypeParam element;
-    std::visit([&](auto field) { put(element.*field, 1); }, row.field);
-    EXPECT_THAT(differences(element, TypeParam{}), testing::ElementsAre(row.name));
-    EXPECT_FALSE(element == TypeParam{}) << row.name;
-    EXPECT_EQ(findProperty<TypeParam>(row.name), &row);
-  }
-}
-
-TYPED_TEST(EveryRow, IsSetToItsDefault) {
-  auto once = distinct<TypeParam>(1);
-  auto again = distinct<TypeParam>(101);
-  SetDefaultValues(once);
-  SetDefaultValues(again);
-  const Names untouched =
-      std::is_same_v<TypeParam, SubmenuObj> ? Names{"SubmenuType"} : Names{};  // kept: see its row
-  EXPECT_THAT(differences(once, again), UnorderedElementsAreArray(untouched));
-}
-
-// The default values themselves stand in the golden menu file.
-TEST(Defaults, OfASubmenuEndWithTheNameZero) {
-  SubmenuObj submenu;
+TEST(Element, DefaultsOfASubmenuEndWithTheNameZeroAndLeaveItsType) {
+  auto submenu = withDistinctValues<SubmenuObj>();
+  const auto before = submenu;
   SetDefaultValues(submenu);
-  EXPECT_EQ(submenu.SubmenuName, "0");
+  EXPECT_EQ(submenu.SubmenuName, "0");  // kept: meant for the type
+  EXPECT_THAT(properties(true, submenu, before), UnorderedElementsAre("SubmenuType"));
 }
 
-TEST(Clone, OfAMenuHasFourPropertiesOfItsOwn) {
-  auto menu = distinct<MenuObj>(1);
+TEST(Element, IsClonedWithAFewValuesOfItsOwn) {
+  auto menu = withDistinctValues<MenuObj>();
   menu.DisplayNameAsTitle = 2;
   menu.TitleStyleID = "7";
   menu.BGImageNo = 3;
   const MenuObj copy = clone(menu);
-  EXPECT_THAT(differences(copy, menu),
+  EXPECT_THAT(properties(false, copy, menu),
               UnorderedElementsAre("Collapsable", "MenuHow", "UnfoldDirection", "UniformItemWidths"));
-  EXPECT_EQ(copy.Collapsable, 2);
-  EXPECT_EQ(copy.MenuHow, 2);
-  EXPECT_EQ(copy.UnfoldDirection, 2);
-  EXPECT_EQ(copy.UniformItemWidths, 0);
-  EXPECT_TRUE(copy.TitleStyleID.empty());
-  EXPECT_EQ(copy.BGImageNo, 0);
+  EXPECT_THAT((std::vector{copy.Collapsable, copy.MenuHow, copy.UnfoldDirection, copy.UniformItemWidths}),
+              testing::ElementsAre(2, 2, 2, 0));
+  EXPECT_TRUE(copy.TitleStyleID.empty() && copy.BGImageNo == 0) << "what a compile calculates";
+
+  const Element submenu = withDistinctValues<SubmenuObj>();
+  EXPECT_EQ(clone(submenu), submenu);
+
+  const auto item = withDistinctValues<ItemObj>();
+  EXPECT_THAT(properties(false, clone(item), item), UnorderedElementsAre("FontFamily2"));
+  EXPECT_EQ(clone(item).FontFamily2, item.FontFamily3);
 }
 
-TEST(Clone, OfASubmenuIsTheSame) {
-  auto submenu = distinct<SubmenuObj>(1);
-  submenu.ContainerStyleID = "7";
-  const Element copy = clone(Element(submenu));
-  EXPECT_EQ(copy, Element(submenu));
-  EXPECT_TRUE(std::get<SubmenuObj>(copy).ContainerStyleID.empty());
-}
-
-TEST(Clone, OfAnItemTakesTheMouseClickFontForMouseOver) {
-  auto item = distinct<ItemObj>(1);
-  item.ItemImage1No = 3;
-  const ItemObj copy = clone(item);
-  EXPECT_THAT(differences(copy, item), UnorderedElementsAre("FontFamily2"));
-  EXPECT_EQ(copy.FontFamily2, item.FontFamily3);
-  EXPECT_EQ(copy.ItemImage1No, 0);
-}
-
-const Names contentOfMenu{"menuname",
-                          "MenuType",
-                          "Movable",
-                          "Drifty",
-                          "CornerForPositioning",
-                          "StickySubmenus",
-                          "ZIndex",
-                          "Collapsable",
-                          "MenuHow",
-                          "UnfoldDirection",
-                          "TitleImage",
-                          "TitleTooltip",
-                          "UniformItemWidths",
-                          "JavascriptOnOpen",
-                          "JavascriptOnClose",
-                          "HorizontalDistanceFromCorner",
-                          "VerticalDistanceFromCorner"};
-const Names contentOfSubmenu{"SubmenuName",  "SubmenuType",      "TitleImage",
-                             "TitleTooltip", "JavascriptOnOpen", "JavascriptOnClose"};
-const Names openingOfSubmenu{"SubmenuWhen",   "SubmenuWhere",    "SubmenuHow",
-                             "OpenDirection", "UnfoldDirection", "SubmenuAlignment"};
-const Names contentOfItem{"ItemName1",          "ItemName2",          "ItemName3",          "ItemImage1",
-                          "ItemImage2",         "ItemImage3",         "ItemTooltip",        "StatusBarText",
-                          "JavascriptCommand1", "JavascriptCommand2", "JavascriptCommand3", "URL",
-                          "TargetFrame",        "HasSubmenu"};
-
-template <class E>
-void expectStyleIsAllBut(const Names& content) {
-  const auto before = distinct<E>(1);
+/// What stays with the target when the look of a source is copied.
+template <class Target, class Source>
+Names left(void (*copyLook)(Target&, const Source&)) {
+  const auto before = withDistinctValues<Target>();
   auto target = before;
-  const auto source = distinct<E>(101);
+  copyLook(target, withDistinctValues<Source>(100));
+  return properties(true, target, before);
+}
+
+Names words(const char* text) {
+  std::istringstream stream(text);
+  return {std::istream_iterator<std::string>(stream), {}};
+}
+
+TEST(Style, TravelsWithoutContent) {
+  const Names menu = words(
+      "menuname MenuType Movable Drifty CornerForPositioning StickySubmenus ZIndex Collapsable MenuHow "
+      "UnfoldDirection TitleImage TitleTooltip UniformItemWidths JavascriptOnOpen JavascriptOnClose "
+      "HorizontalDistanceFromCorner VerticalDistanceFromCorner");
+  const Names submenu =
+      words("SubmenuName SubmenuType TitleImage TitleTooltip JavascriptOnOpen JavascriptOnClose");
+  Names opening = words("SubmenuWhen SubmenuWhere SubmenuHow OpenDirection UnfoldDirection SubmenuAlignment");
+  const Names item = words(
+      "ItemName1 ItemName2 ItemName3 ItemImage1 ItemImage2 ItemImage3 ItemTooltip StatusBarText "
+      "JavascriptCommand1 JavascriptCommand2 JavascriptCommand3 URL TargetFrame HasSubmenu");
+  EXPECT_THAT((left<MenuObj, MenuObj>(CopyStyleValuesFromObject)), UnorderedElementsAreArray(menu));
+  EXPECT_THAT((left<MenuObj, SubmenuObj>(CopyStyleValuesFromObject)), UnorderedElementsAreArray(menu));
+  EXPECT_THAT((left<SubmenuObj, SubmenuObj>(CopyStyleValuesFromObject)), UnorderedElementsAreArray(submenu));
+  EXPECT_THAT((left<ItemObj, ItemObj>(CopyStyleValuesFromObject)), UnorderedElementsAreArray(item));
+  opening.insert(opening.end(), submenu.begin(), submenu.end());
+  EXPECT_THAT((left<SubmenuObj, MenuObj>(CopyStyleValuesFromMenuObject)), UnorderedElementsAreArray(opening));
+
+  MenuObj target;
+  const auto source = withDistinctValues<SubmenuObj>();
   CopyStyleValuesFromObject(target, source);
-  EXPECT_THAT(differences(target, before), UnorderedElementsAreArray(allNamesBut<E>(content)));
-  EXPECT_THAT(differences(target, source), UnorderedElementsAreArray(content));
+  EXPECT_EQ(target.UniformItemHeights, source.UniformItemHeights) << "by name, not by place";
 }
 
-TEST(Style, TravelsWithinAClassWithoutContent) {
-  expectStyleIsAllBut<MenuObj>(contentOfMenu);
-  expectStyleIsAllBut<SubmenuObj>(contentOfSubmenu);
-  expectStyleIsAllBut<ItemObj>(contentOfItem);
-}
-
-TEST(Style, OfAMenuLeavesHowTheSubmenuOpens) {
-  const auto before = distinct<SubmenuObj>(1);
-  auto target = before;
-  auto source = distinct<MenuObj>(101);
-  CopyStyleValuesFromMenuObject(target, source);
-  Names left = contentOfSubmenu;
-  left.insert(left.end(), openingOfSubmenu.begin(), openingOfSubmenu.end());
-  EXPECT_THAT(differences(target, before), UnorderedElementsAreArray(allNamesBut<SubmenuObj>(left)));
-  EXPECT_EQ(target.UniformItemWidths, source.UniformItemWidths);
-  EXPECT_EQ(target.TitleCursor, source.TitleCursor);
-}
-
-TEST(Style, OfASubmenuDressesAMenuByName) {
-  const auto before = distinct<MenuObj>(1);
-  auto target = before;
-  const auto source = distinct<SubmenuObj>(101);
-  CopyStyleValuesFromObject(target, source);
-  EXPECT_THAT(differences(target, before), UnorderedElementsAreArray(allNamesBut<MenuObj>(contentOfMenu)));
-  EXPECT_EQ(target.TitleBGColor, source.TitleBGColor);
-  EXPECT_EQ(target.UniformItemHeights, source.UniformItemHeights);
-}
-
-TEST(Images, HaveSlotsInTheOrderOfTheCompiledCalls) {
-  const auto item = distinct<ItemObj>(1);
-  const std::vector<SharedText> expected{item.ItemImage1,       item.ItemImage2,       item.ItemImage3,
-                                         item.HasSubmenuImage1, item.HasSubmenuImage2, item.HasSubmenuImage3,
-                                         item.BGImage1,         item.BGImage2,         item.BGImage3};
-  for (std::size_t slot = 0; slot < expected.size(); ++slot) {
-    EXPECT_EQ(getImage(item, static_cast<int>(slot)), expected[slot].view());
-  }
-  EXPECT_EQ(getImage(item, 9), "nomoreimages");
-  EXPECT_EQ(getImage(item, -1), "nomoreimages");
-  for (const Element& container : {Element(distinct<MenuObj>(1)), Element(distinct<SubmenuObj>(1))}) {
-    std::visit(
-        [&]<class E>(const E& object) {
-          if constexpr (!std::is_same_v<E, ItemObj>) {
-            EXPECT_EQ(getImage(container, 0), object.TitleImage.view());
-            EXPECT_EQ(getImage(container, 1), object.BGImage.view());
-          }
-        },
-        container);
-    EXPECT_EQ(getImage(container, 2), "nomoreimages");
-  }
-}
-
-TEST(Images, TakeTheirNumbersBySlot) {
-  Element element = ItemObj{};
-  for (int slot = -1; slot < 12; ++slot) setImageNo(element, slot, static_cast<float>(slot + 1));
-  const auto& item = std::get<ItemObj>(element);
-  EXPECT_EQ(item.ItemImage1No, 1);
-  EXPECT_EQ(item.ItemImage3No, 3);
-  EXPECT_EQ(item.HasSubmenuImage2No, 5);
-  EXPECT_EQ(item.BGImage3No, 9);
-  EXPECT_THAT(differences(item, ItemObj{}), IsEmpty()) << "what a compile calculates is not compared";
+TEST(Element, HasImageSlotsInTheOrderOfTheCompiledCalls) {
+  Element element = withDistinctValues<ItemObj>();
+  for (int slot = -1; slot < 10; ++slot) setImageNo(element, slot, static_cast<float>(slot));
+  EXPECT_EQ(std::get<ItemObj>(element).HasSubmenuImage2No, 4);
+  EXPECT_EQ(getImage(element, 4), "HasSubmenuImage2");
+  EXPECT_EQ(getImage(element, 8), "BGImage3");
+  for (const int slot : {-1, 9}) EXPECT_EQ(getImage(element, slot), "nomoreimages");
 }
 
 TEST(NodeText, OfAnItemShowsItsNamesOnceTheyDiffer) {

@@ -1,4 +1,4 @@
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include "menu_files.h"
 #include "model/structure.h"
@@ -8,27 +8,32 @@
 namespace nimbrel {
 namespace {
 
-Document workedExample() {
+class MenuFile : public testing::Test {
+ protected:
+  MenuFile() { BuildDefaultDocument(document); }
+
+  ItemObj& item() { return *document.get<ItemObj>(*document.tvTreeView.find("I1")); }
+  Document writtenAndRead() const { return readBytes(menuFileText(document)); }
+
   Document document;
+};
+
+TEST_F(MenuFile, OfTheWorkedExampleIsAsItStands) {
+  document = {};
   AddMainMenu(document);
-  const std::string item = AddItem(document, "M0")->Key;
-  const std::string submenu = AddSubmenu(document, item)->Key;
-  AddItem(document, submenu);
-  SetDefaultValues(*document.get<SubmenuObj>(*document.tvTreeView.find(submenu)));  // not dressed as the menu
-  document.get<SubmenuObj>(*document.tvTreeView.find(submenu))->SubmenuName = "Submenu2";
-  return document;
-}
-
-TEST(MenuFile, OfTheWorkedExampleIsAsItStands) {
+  AddItem(document, "M0");
+  auto& submenu = *document.get<SubmenuObj>(*AddSubmenu(document, "I1"));
+  AddItem(document, "S2");
+  SetDefaultValues(submenu);  // not dressed as the menu
+  submenu.SubmenuName = "Submenu2";
   const auto golden = bytesOf(goldenMenuFiles / "worked-example.nbr");
-  ASSERT_FALSE(golden.empty());
-  EXPECT_EQ(menuFileText(workedExample()), golden);
-  EXPECT_EQ(readBytes(golden), workedExample());
+  EXPECT_EQ(menuFileText(document), golden);
+  EXPECT_EQ(readBytes(golden), document);
 }
 
-TEST(MenuFile, IsReadBackEqual) {
+TEST_F(MenuFile, IsReadBackEqual) {
   for (unsigned seed = 0; seed < 40; ++seed) {
-    const Document document = generatedDocument(seed, 1 + static_cast<int>(seed));
+    document = generatedDocument(seed, 1 + static_cast<int>(seed));
     Document back;
     Findings notes;
     readBytes(menuFileText(document), back, notes);
@@ -37,33 +42,36 @@ TEST(MenuFile, IsReadBackEqual) {
   }
 }
 
-TEST(MenuFile, WithACommaInItsHeaderIsReadBackWhole) {
-  Document document;
-  BuildDefaultDocument(document);
+TEST_F(MenuFile, WithACommaInItsHeaderIsReadBackWhole) {
   document.settings.CompiledPath = "C:\\site, one";
   document.settings.nbrSubmenusFrame = "a \"b\",\nc";
-  auto read = readBytes(menuFileText(document));
-  EXPECT_EQ(read.settings.nbrSubmenusFrame, "a 'b', c")
+  auto read = writtenAndRead();
+  EXPECT_EQ(std::exchange(read.settings.nbrSubmenusFrame, document.settings.nbrSubmenusFrame), "a 'b', c")
       << "a likeness, rather than a file that cannot be read";
-  read.settings.nbrSubmenusFrame = document.settings.nbrSubmenusFrame;
   EXPECT_EQ(read, document);
 }
 
-TEST(MenuFile, OfTheGreatestSizeIsReadBackEqual) {
-  const Document document = largeDocument(32767);
-  EXPECT_EQ(document.tvTreeView.size(), 32767U);
-  EXPECT_TRUE(readBytes(menuFileText(document)) == document);
+TEST_F(MenuFile, ChangesAFewValues) {
+  item().HasSubmenu = 5;
+  item().ItemTooltip = " 10 m\xB3 ";
+  item().StatusBarText = " \"quoted\" ";
+  document = writtenAndRead();
+  EXPECT_EQ(item().HasSubmenu, -1);                 // kept: any number but 0 is a flag
+  EXPECT_EQ(item().ItemTooltip, "10 m,");           // kept: outer blanks go, the escape character is a comma
+  EXPECT_EQ(item().StatusBarText, " \"quoted\" ");  // marks keep both
+  item().FontFamily1 = "Verdana,Arial";             // kept: a raw comma stands as it is
+  EXPECT_THAT(menuFileText(document), testing::HasSubstr(",Verdana,Arial,"));
 }
 
-TEST(MenuFile, IsSavedWholeOrNotAtAll) {
+TEST_F(MenuFile, IsSavedWholeOrNotAtAll) {
   MemoryFileSystem files;
   files.files = {{"C:\\menus\\a.nbr", "old"}};
   files.failsNow = failingFrom(0);
-  EXPECT_THROW(SaveMenuFile(files, "C:\\menus\\a.nbr", workedExample()), FileError);
+  EXPECT_THROW(SaveMenuFile(files, "C:\\menus\\a.nbr", document), FileError);
   EXPECT_EQ(files.read("C:\\menus\\a.nbr"), "old");
   files.failsNow = nullptr;
-  SaveMenuFile(files, "C:\\menus\\a.nbr", workedExample());
-  EXPECT_EQ(files.read("C:\\menus\\a.nbr"), menuFileText(workedExample()));
+  SaveMenuFile(files, "C:\\menus\\a.nbr", document);
+  EXPECT_EQ(files.read("C:\\menus\\a.nbr"), menuFileText(document));
 }
 
 }  // namespace

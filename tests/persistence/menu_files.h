@@ -20,24 +20,13 @@ inline std::string bytesOf(const std::filesystem::path& path) {
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
-/// The lines of a text of ours, which end in line feeds.
-inline std::vector<std::string> linesOf(const std::string& text) {
-  std::vector<std::string> lines;
-  for (std::size_t begin = 0; begin < text.size();) {
-    const auto end = std::min(text.find('\n', begin), text.size());
-    lines.push_back(text.substr(begin, end - begin));
-    begin = end + 1;
+/// The files or folders of a folder, less the texts that say what is expected of them.
+inline std::vector<std::filesystem::path> casesIn(const std::string& folder) {
+  std::vector<std::filesystem::path> cases;
+  for (const auto& entry : std::filesystem::directory_iterator(goldenMenuFiles / folder)) {
+    if (entry.path().extension() != ".txt") cases.push_back(entry);
   }
-  return lines;
-}
-
-/// In the order of their names.
-inline std::vector<std::filesystem::path> entriesOf(const std::string& folder) {
-  std::vector<std::filesystem::path> entries;
-  for (const auto& entry : std::filesystem::directory_iterator(goldenMenuFiles / folder))
-    entries.push_back(entry);
-  std::ranges::sort(entries);
-  return entries;
+  return cases;
 }
 
 /// Reads as if the file lay in C:\menus.
@@ -51,12 +40,6 @@ inline Document readBytes(std::string_view bytes) {
   Findings notes;
   readBytes(bytes, document, notes);
   return document;
-}
-
-inline std::vector<std::string> keysOf(const Tree& tree) {
-  std::vector<std::string> keys;
-  for (const Node* node = tree.root(); node != nullptr; node = following(node)) keys.push_back(node->Key);
-  return keys;
 }
 
 }  // namespace nimbrel
