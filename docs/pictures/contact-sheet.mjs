@@ -13,9 +13,9 @@ const work = mkdtempSync(join(tmpdir(), 'styles-'));
 const names = readdirSync(join(stage, 'gallery')).filter((file) => file.endsWith('.nbs')).map((file) => file.slice(0, -4));
 
 /// The gallery's own sample: three items, and a submenu below the second.
-const macro = ['select M0', 'edit 3 1 "Top Left Corner"', 'edit 4 1 16', 'edit 5 1 14', 'edit 14 1 "Do not show Title"',
+const macro = ['select M0', 'edit 3 1 "Top Left Corner"', 'edit 4 1 16', 'edit 5 1 14', 'edit 9 1 "Menu"',
   ...['Home', 'Products', 'About us'].flatMap((name, i) => [`select I${i + 1}`, ...[1, 3, 4].map((at) => `edit 0 ${at} "${name}"`)]),
-  'select I2', 'run mnuSubmenuAddSubmenu', 'select S4', 'run mnuItemAddItem', 'run mnuItemAddItem', 'run mnuItemAddItem',
+  'select I2', 'run mnuSubmenuAddSubmenu', 'select S4', 'edit 0 1 "Products"', 'run mnuItemAddItem', 'run mnuItemAddItem', 'run mnuItemAddItem',
   'select I5', ...[1, 3, 4].map((at) => `edit 0 ${at} "Tables"`), 'select I6', ...[1, 3, 4].map((at) => `edit 0 ${at} "Chairs"`),
   'select I7', ...[1, 3, 4].map((at) => `edit 0 ${at} "Lamps"`),
   'choose ' + JSON.stringify(join(work, 'sample.nbr')), 'run mnuFileSaveAs'];
@@ -35,7 +35,7 @@ for (const [i, name] of names.entries()) {
 
 const browser = await launch('Chromium');
 const page = await browser.newPage();
-await page.setViewport({ width: 250, height: 190 });
+await page.setViewport({ width: 300, height: 260 });
 for (const cell of cells) {
   await page.goto(cell.address);
   await wait(150);
@@ -48,11 +48,11 @@ for (const cell of cells) {
   await wait(250);
   await page.screenshot({ path: cell.shot });
 }
-const sheet = '<body style="margin:12px;background:#fff;font:13px sans-serif;display:grid;grid-template-columns:repeat(5,250px);gap:10px">' +
-  cells.map(({ name, shot }) => `<figure style="margin:0"><img src="${pathToFileURL(shot).href}" width=250 height=190 style="display:block">` +
+const sheet = '<body style="margin:12px;background:#fff;font:13px sans-serif;display:grid;grid-template-columns:repeat(5,300px);gap:10px">' +
+  cells.map(({ name, shot }) => `<figure style="margin:0"><img src="${pathToFileURL(shot).href}" width=300 height=260 style="display:block">` +
     `<figcaption style="padding:4px 2px">${name}</figcaption></figure>`).join('') + '</body>';
 writeFileSync(join(work, 'sheet.html'), sheet);
-await page.setViewport({ width: 1314, height: 200 });
+await page.setViewport({ width: 1564, height: 200 });
 await page.goto(pathToFileURL(join(work, 'sheet.html')).href);
 await page.screenshot({ path: join(folder, 'gallery-contact-sheet.png'), fullPage: true });
 await browser.close();

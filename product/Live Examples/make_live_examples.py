@@ -31,6 +31,7 @@ MARKED = {"menuname", "SubmenuName", "ItemName1", "ItemName2", "ItemName3", "Sta
 
 PAGES = {
     "": "",
+    "light": '<style>body {{ background: #f1f3f5 }}</style>\n',  # where letters stand on the page itself
     "long": '<div class="long"><p>Scroll me, down and to the right.</p></div>\n',
     "box": '<div class="box">A box of the page</div>\n',
     "caller": '<p><button type="button" onclick="nbrShowMenu(\'{name}\')">Show menu</button></p>\n<p id="told"></p>\n',

@@ -13,7 +13,7 @@ HERE = Path(__file__).parent
 STATES = (1, 3, 4)  # columns of an item's sheet
 
 # Rows of the sheets, by what they hold.
-MENU = {"titlePadding": 20, "titleFont": 21, "titleSize": 22, "titleBold": 23, "titleText": 26, "titleBg": 27, "bg": 31, "borderStyle": 33,
+MENU = {"titlePadding": 20, "titleFont": 21, "titleSize": 22, "titleBold": 23, "titleText": 26, "titleBg": 27, "bg": 31, "bgImage": 32, "borderStyle": 33,
         "borderWidth": 34, "borderColour": 35, "gap": 36}
 ITEM = {"alignment": 4, "padding": 7, "font": 8, "size": 9, "bold": 10, "underline": 12, "text": 13, "arrow": 14, "borderStyle": 15,
         "borderWidth": 16, "borderColour": 17, "bg": 18}
@@ -22,25 +22,47 @@ ARROWS = {
     "triangle": '<path d="M3 1.5 7.5 5 3 8.5z" fill="{0}"/>',
     "chevron": '<path d="m3 1.5 4 3.5-4 3.5" fill="none" stroke="{0}" stroke-width="1.6"/>',
 }
+# Tiles behind the items: their side in pixels, and what is drawn on the colour of the menu.
+PATTERNS = {
+    "grid": (16, '<path d="M0 .5h16M.5 0v16" stroke="{0}"/>'),
+    "lines": (4, '<path d="M0 .5h4" stroke="{0}"/>'),
+    "weave": (8, '<path d="M0 0h4v4H0zM4 4h4v4H4z" fill="{0}"/>'),
+}
+BORDERS = {"none", "solid", "outset", "inset"}
 
 
 def styles():
     table = json.loads((HERE / "styles.json").read_text(encoding="utf-8"))
-    return [table["defaults"] | style for style in table["styles"]]
+    whole = [table["defaults"] | style for style in table["styles"]]
+    for style in whole:
+        for kind in (style["border"][0], style["itemBorder"][0]):
+            if kind not in BORDERS:  # the sheet would show another one in its place
+                raise SystemExit(f"{style['name']}: no border is {kind}")
+    return whole
 
 
 def quoted(text):
     return '"' + str(text).replace("\\", "\\\\").replace('"', '\\"') + '"'
 
 
+def picture(name, size, body, converter, folder):
+    drawing = folder / f"{name}.svg"
+    made = drawing.with_suffix(".png")
+    text = f'<svg xmlns="http://www.w3.org/2000/svg" width="{size}" height="{size}" viewBox="0 0 {size} {size}">{body}</svg>\n'
+    if not made.exists() or drawing.read_text(encoding="utf-8") != text:
+        drawing.write_text(text, encoding="utf-8")
+        subprocess.run([converter, "-o", made, drawing], check=True)
+    return str(made).replace("/", "\\")  # as sheets hold paths
+
+
 def arrow(style, colour, converter, folder):
-    drawing = folder / f"arrow-{style['arrow']}-{colour[1:]}.svg"
-    picture = drawing.with_suffix(".png")
-    if not picture.exists():
-        drawing.write_text('<svg xmlns="http://www.w3.org/2000/svg" width="10" height="10" viewBox="0 0 10 10">'
-                           + ARROWS[style["arrow"]].format(colour) + "</svg>\n", encoding="utf-8")
-        subprocess.run([converter, "-o", picture, drawing], check=True)
-    return str(picture).replace("/", "\\")  # as sheets hold paths
+    return picture(f"arrow-{style['arrow']}-{colour[1:]}", 10, ARROWS[style["arrow"]].format(colour), converter, folder)
+
+
+def pattern(style, converter, folder):
+    kind, colour = style["pattern"]
+    size, drawn = PATTERNS[kind]
+    return picture(f"{kind}-{colour[1:]}", size, drawn.format(colour), converter, folder)
 
 
 def macro_of(style, converter, folder):
@@ -52,6 +74,8 @@ def macro_of(style, converter, folder):
     title = {"titlePadding": style["padding"] - 2, "titleFont": style["font"], "titleSize": style["size"], "titleBold": "yes",
              "titleText": style["text"][over], "titleBg": style["item"][over] or style["bg"], "bg": style["bg"],
              "borderStyle": border[0], "borderWidth": border[1], "borderColour": border[2], "gap": style["gap"]}
+    if "pattern" in style:
+        title["bgImage"] = pattern(style, converter, folder)
     lines = ["select M0"]
     lines += [edit(MENU[name], 1, value) for name, value in title.items()]
     lines.append("select I1")

@@ -79,7 +79,9 @@ std::optional<std::string> PlayAsker::chooseFile(const FileDialog& dialog) {
   return result ? std::optional(fromHostPath(*result)) : std::nullopt;
 }
 
-std::optional<std::uint32_t> PlayAsker::chooseColour(std::uint32_t) { return takeFirst(colours_).value_or(std::nullopt); }
+std::optional<std::uint32_t> PlayAsker::chooseColour(std::uint32_t) {
+  return takeFirst(colours_).value_or(std::nullopt);
+}
 
 void PlayAsker::noteFailure(const Finding& finding) {
   transcript_.error(finding.path.empty() ? finding.text() : finding.path + ": " + finding.text());

@@ -1,6 +1,7 @@
 #include "platform/posix/program_folder.h"
 
 #include <cstdio>
+#include <future>
 #include <gtest/gtest.h>
 
 #include "support/temporary_folder.h"
@@ -92,6 +93,25 @@ TEST_F(ProgramFolder, TakesUpAFillingThatWasCutOff) {
   start("");
   EXPECT_TRUE(fs::exists(root_ / "home/.local/share/nimbrel/libraries/nbrlib0.js"));
   EXPECT_FALSE(fs::exists(root_ / "home/.local/share/nimbrel/libraries/half.js"));
+}
+
+TEST_F(ProgramFolder, WithoutLibrariesGetsWhatItLacks) {
+  const std::string perUser = "home/.local/share/nimbrel/";
+  fs::create_directories(root_ / perUser);
+  root_.write("share/nimbrel/tips.txt", "tips");
+  root_.write(perUser + "tips.txt", "the author's");
+  start("");
+  EXPECT_EQ(root_.read(perUser + "libraries/nbrlib0.js"), "library");
+  EXPECT_EQ(root_.read(perUser + "tips.txt"), "the author's");
+}
+
+TEST_F(ProgramFolder, IsFilledOnceBySeveralStartsAtOnce) {
+  fs::create_directories(root_ / "share/nimbrel/gallery");
+  for (int i = 0; i < 300; ++i) root_.write("share/nimbrel/gallery/" + std::to_string(i), "style");
+  std::vector<std::future<std::string>> starts;
+  for (int i = 0; i < 4; ++i) starts.push_back(std::async(std::launch::async, [this] { return start(""); }));
+  for (auto& one : starts) EXPECT_EQ(one.get(), path("home/.local/share/nimbrel"));
+  EXPECT_EQ(root_.read("home/.local/share/nimbrel/gallery/299"), "style");
 }
 
 }  // namespace

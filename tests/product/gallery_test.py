@@ -9,6 +9,7 @@ import unittest
 from pathlib import Path
 
 NBRC, STAGE = (Path(argument).resolve() for argument in sys.argv[1:3]) if len(sys.argv) > 2 else sys.exit(__doc__)
+GALLERY = Path(__file__).parents[2] / "product" / "gallery"
 LEAST_CONTRAST = 4.5
 FEWEST = 24
 
@@ -42,10 +43,15 @@ class Gallery(unittest.TestCase):
         self.assertGreaterEqual(len(self.names), FEWEST)
 
     def test_each_can_be_read_in_every_state(self):
+        # Where a tile lies behind the items, both of its colours do.
+        table = json.loads((GALLERY / "styles.json").read_text(encoding="utf-8"))["styles"]
+        patterned = {style["name"]: [(text, style["pattern"][1]) for text, own in zip(style["text"], style["item"]) if not own]
+                     for style in table if "pattern" in style}
         with tempfile.TemporaryDirectory() as folder:
             for name in self.names:
                 menu, item = dressed(name, Path(folder))
                 texts = [(menu["TitleFontColor"], menu["TitleBGColor"])]
+                texts += [(text, line) for text, line in patterned.get(name, [])]
                 texts += [(item[f"FontColor{state}"], item[f"BGColor{state}"]) for state in (1, 2, 3)]
                 for text, behind in texts:
                     with self.subTest(style=name, text=text, behind=behind):

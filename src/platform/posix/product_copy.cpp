@@ -1,12 +1,15 @@
 #include "platform/posix/product_copy.h"
 
 #include <cstdint>
+#include <fcntl.h>
 #include <fstream>
 #include <iterator>
 #include <map>
 #include <optional>
 #include <string>
+#include <sys/file.h>
 #include <system_error>
+#include <unistd.h>
 
 #include "platform/file_error.h"
 #include "platform/posix/host_paths.h"
@@ -38,16 +41,35 @@ std::string mark(const std::string& bytes) {
 
 using Marks = std::map<std::string, std::string>;  // by path below the folder
 
-Marks marksOf(const fs::path& folder) {
+/// None where anything cannot be read: what is not seen must not be taken for gone.
+std::optional<Marks> marksOf(const fs::path& folder) {
   Marks marks;
   std::error_code error;
   for (fs::recursive_directory_iterator it(folder, error), end; !error && it != end; it.increment(error)) {
     if (!it->is_regular_file(error) || it->path().filename() == listName) continue;
-    if (const auto bytes = contents(it->path()))
-      marks[it->path().lexically_relative(folder).string()] = mark(*bytes);
+    const auto bytes = contents(it->path());
+    if (!bytes) return std::nullopt;
+    marks[it->path().lexically_relative(folder).string()] = mark(*bytes);
   }
+  if (error) return std::nullopt;
   return marks;
 }
+
+/// One program at a time works on a copy. The lock is on the folder around it, and leaves nothing behind.
+class Lock {
+ public:
+  explicit Lock(const fs::path& copy) : folder_(::open(copy.parent_path().c_str(), O_RDONLY | O_CLOEXEC)) {
+    if (folder_ >= 0) ::flock(folder_, LOCK_EX);
+  }
+  Lock(const Lock&) = delete;
+  Lock& operator=(const Lock&) = delete;
+  ~Lock() {
+    if (folder_ >= 0) ::close(folder_);
+  }
+
+ private:
+  int folder_;
+};
 
 /// What was installed; the version is empty where no list tells.
 struct Installed {
@@ -86,25 +108,57 @@ bool replaceFile(const fs::path& from, const fs::path& to) {
   return !error;
 }
 
+std::error_code makeWhole(const fs::path& product, const Marks& installed, const fs::path& copy) {
+  std::error_code error;
+  const fs::path unfinished = copy.string() + ".new";
+  fs::remove_all(unfinished, error);
+  fs::copy(product, unfinished, fs::copy_options::recursive, error);
+  if (!error && !writeList(unfinished, installed)) error = std::make_error_code(std::errc::io_error);
+  if (!error) fs::rename(unfinished, copy, error);
+  std::error_code ignored;
+  if (error) fs::remove_all(unfinished, ignored);
+  return error;
+}
+
+/// Brings what is missing.
+std::error_code complete(const fs::path& product, const Marks& installed, const fs::path& copy) {
+  bool isWhole = true;
+  for (const auto& [path, one] : installed) {
+    std::error_code error;
+    if (!fs::exists(copy / path, error)) isWhole &= replaceFile(product / path, copy / path);
+  }
+  return isWhole && writeList(copy, installed) ? std::error_code()
+                                               : std::make_error_code(std::errc::io_error);
+}
+
 }  // namespace
 
 void makeProductCopy(const fs::path& product, const fs::path& copy) {
   std::error_code error;
-  const fs::path unfinished = copy.string() + ".new";
-  fs::remove_all(unfinished, error);
   fs::create_directories(copy.parent_path(), error);
-  fs::copy(product, unfinished, fs::copy_options::recursive, error);
-  if (!error && !writeList(unfinished, marksOf(product))) error = std::make_error_code(std::errc::io_error);
-  if (!error) fs::rename(unfinished, copy, error);
+  const Lock lock(copy);
+  if (fs::is_directory(copy / "libraries", error)) return;  // another program was first
+  const auto installed = marksOf(product);
+  if (!installed) {
+    error = std::make_error_code(std::errc::io_error);
+  } else {
+    error =
+        fs::exists(copy, error) ? complete(product, *installed, copy) : makeWhole(product, *installed, copy);
+  }
   if (error) throw FileError(fromHostPath(copy.string()), error.message());
 }
 
 void updateProductCopy(const fs::path& product, const fs::path& copy) {
+  if (readList(copy).version == productBuild) return;
+  const Lock lock(copy);
   const auto old = readList(copy);
   if (old.version == productBuild) return;
   const auto& before = old.marks;
-  const auto installed = marksOf(product);
-  const auto own = marksOf(copy);
+  const auto seenProduct = marksOf(product);
+  const auto seenCopy = marksOf(copy);
+  if (!seenProduct || !seenCopy) return;
+  const auto& installed = *seenProduct;
+  const auto& own = *seenCopy;
   const auto isUntouched = [&](const std::string& path) {
     const auto was = before.find(path);
     const auto is = own.find(path);
