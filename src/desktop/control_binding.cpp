@@ -291,6 +291,13 @@ class TimerBinding : public ControlBinding {
                      [this, act = std::move(act)] { act([this] { control_.event(); }); });
   }
 
+  TimerBinding(const TimerBinding&) = delete;
+  TimerBinding& operator=(const TimerBinding&) = delete;
+  /// A window that goes ahead of its timer leaves nothing behind that the timer was to remove.
+  ~TimerBinding() override {
+    if (control_.value) control_.event();
+  }
+
   void show() override {
     if (control_.value == timer_->isActive()) return;
     if (control_.value) {

@@ -118,8 +118,6 @@ void frmGallery::CreatePreviewFile() {
   navigate(WebBrowser, folder + "\\stylepreview.html");
 }
 
-frmGallery::~frmGallery() { Timer1_Timer(); }
-
 void frmGallery::WebBrowser_DocumentComplete() { Timer1.value = true; }
 
 /// Runs on until the next style is chosen; where nothing is left to remove that does no harm.

@@ -16,10 +16,6 @@ class frmGallery : public Form {
   /// `selectedKind` is what the main tree has selected. `apply` dresses the document with the style on view.
   frmGallery(Ports& ports, ProgramState& state, SubmenuCarryOver& carryOver, Kind selectedKind,
              std::function<void(StyleScope, const MenuStyle&)> apply);
-  frmGallery(const frmGallery&) = delete;
-  frmGallery& operator=(const frmGallery&) = delete;
-  /// Takes along what its timer did not come to remove.
-  ~frmGallery() override;
 
   /// Each time it comes to the front.
   void Form_Activate();

@@ -269,9 +269,12 @@ TEST_F(Desktop, TheGalleryShowsEachStyleAndAppliesOne) {
     emit styles->activated(styles->currentIndex());
     auto& form = dynamic_cast<FormWindow&>(window);
     EXPECT_TRUE(waitFor([&] { return run.evaluate(form, itemsInPage).toInt() >= 3; }));
+    EXPECT_TRUE(waitFor([&] { return form.form().find("Timer1")->value; }));
     QTest::mouseClick(window.findChild<QPushButton*>("btnApply"), Qt::LeftButton);
   });
   run.run("mnuStyleOpenStyleLibrary");
+  EXPECT_FALSE(
+      QFile::exists(run.programFolder() + "/gallery/stylepreview.html"));  // though closed ahead of its timer
   EXPECT_TRUE(run.main().state.IsDirty);
 }
 
