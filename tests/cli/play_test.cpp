@@ -48,7 +48,7 @@ class Play : public NbrcTest {
 };
 
 TEST_F(Play, EachMacroSaysWhatIsExpected) {
-  const fs::path folder = fs::path(NIMBREL_TEST_DATA) / "../golden/macros";
+  const fs::path folder = fs::path(NIMBREL_TEST_DATA) / "golden/macros";
   int macros = 0;
   for (const auto& entry : fs::directory_iterator(folder)) {
     if (entry.path().extension() != ".macro") continue;

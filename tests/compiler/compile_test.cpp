@@ -136,7 +136,7 @@ TEST_F(CompileTest, ADiskThatFailsOnceCostsOneFileAtMostAndNoOldOne) {
 /// that its own settings make.
 TEST(CompileGolden, Scripts) {
   const HostFileSystem host;
-  const auto cases = fromHostPath(NIMBREL_TEST_DATA "/../golden/scripts");
+  const auto cases = fromHostPath(NIMBREL_TEST_DATA "/golden/scripts");
   for (const auto* name : {"cross-frame", "one-file", "one-item"}) {
     MemoryFileSystem files;
     std::map<std::string, std::string> expected;

@@ -77,7 +77,7 @@ TEST_F(StyleFile, ReadsOlderOnesAndRefusesOthers) {
   EXPECT_THROW(ReadStyleFile(files, "C:\\p", "Cut", carryOver, style), FileError);
   EXPECT_EQ(style.submenu.BGColor, "#C0C0C0") << "what was read stays";
 
-  std::ifstream old(NIMBREL_TEST_DATA "/../golden/styles/nbs120.nbs", std::ios::binary);
+  std::ifstream old(NIMBREL_TEST_DATA "/golden/styles/nbs120.nbs", std::ios::binary);
   files.files["C:\\p\\gallery\\Old.nbs"] = {std::istreambuf_iterator<char>(old), {}};
   carryOver.bcSubmenusHow = 2;
   ASSERT_TRUE(ReadStyleFile(files, "C:\\p", "Old", carryOver, style));

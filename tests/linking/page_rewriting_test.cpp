@@ -30,7 +30,7 @@ std::map<std::string, std::string> settingsOf(const fs::path& folder) {
 // Each folder is a case: a page, and what linking makes of it.
 TEST(PageRewriting, MakesOfEachPageWhatStandsBesideIt) {
   int cases = 0;
-  for (const auto& folder : fs::directory_iterator(fs::path(NIMBREL_TEST_DATA) / "../pages")) {
+  for (const auto& folder : fs::directory_iterator(fs::path(NIMBREL_TEST_DATA) / "pages")) {
     SCOPED_TRACE(folder.path().filename());
     auto settings = settingsOf(folder);
     EXPECT_EQ(linkedPage(bytesOf(folder.path() / "before.html"), settings["page"], settings["compiled"],

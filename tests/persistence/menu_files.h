@@ -13,7 +13,7 @@
 namespace nimbrel {
 
 inline const std::filesystem::path goldenMenuFiles =
-    std::filesystem::path(NIMBREL_TEST_DATA) / ".." / "golden" / "menu-files";
+    std::filesystem::path(NIMBREL_TEST_DATA) / "golden" / "menu-files";
 
 inline std::string bytesOf(const std::filesystem::path& path) {
   std::ifstream file(path, std::ios::binary);

@@ -30,7 +30,7 @@ class PreviewPage : public testing::Test {
 };
 
 std::string golden(const std::string& name) {
-  return HostFileSystem().read(fromHostPath(NIMBREL_TEST_DATA "/../golden/preview/" + name));
+  return HostFileSystem().read(fromHostPath(NIMBREL_TEST_DATA "/golden/preview/" + name));
 }
 
 TEST_F(PreviewPage, IsPlainOrTellsHowAPopupAppears) {
