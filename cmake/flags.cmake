@@ -1,7 +1,6 @@
 # One interface target that all our code links: language, warnings and sanitizers.
 add_library(nimbrel_flags INTERFACE)
 target_compile_features(nimbrel_flags INTERFACE cxx_std_20)
-target_include_directories(nimbrel_flags INTERFACE ${CMAKE_SOURCE_DIR}/src ${CMAKE_BINARY_DIR}/generated)
 target_compile_options(nimbrel_flags INTERFACE
   -Wall -Wextra -Wpedantic -Werror # a warning is a fault found early
   -Wconversion -Wsign-conversion   # bytes, singles and sizes meet everywhere; each narrowing is to be meant
@@ -20,9 +19,16 @@ if(NIMBREL_SANITIZE)
   target_link_options(nimbrel_flags INTERFACE -fsanitize=${NIMBREL_SANITIZE})
 endif()
 
-# nimbrel_library(NAME SOURCES ... LINKS ...): one folder of src as a target that sees only what it links.
+# nimbrel_library(NAME SOURCES ... LINKS ...): one folder of src as a target. Its headers stand in include/FOLDER, and it
+# sees only those of the targets that it links, which src/CMakeLists.txt must have added before it.
 function(nimbrel_library name)
   cmake_parse_arguments(arg "" "" "SOURCES;LINKS" ${ARGN})
+  foreach(link ${arg_LINKS})
+    if(link MATCHES "^nimbrel_" AND NOT TARGET ${link})
+      message(FATAL_ERROR "${name} links ${link}, which stands above it in src/CMakeLists.txt")
+    endif()
+  endforeach()
   add_library(${name} STATIC ${arg_SOURCES})
+  target_include_directories(${name} PUBLIC include)
   target_link_libraries(${name} PUBLIC nimbrel_flags ${arg_LINKS})
 endfunction()

@@ -1,4 +1,4 @@
-"""What holds of the project as a whole: the layers of src, the manual page, the staged program."""
+"""What holds of the project as a whole: its documents, the manual page, the staged program."""
 import os
 import re
 import subprocess
@@ -8,59 +8,8 @@ from pathlib import Path
 SOURCE = Path(os.environ["NIMBREL_SOURCE"])
 STAGE = Path(os.environ["NIMBREL_STAGE"])
 
-# What each folder of src may include beside itself. The arrows only ever point down.
-LAYERS = {
-    "text": [],
-    "platform": ["text"],
-    "model": ["text"],
-    "persistence": ["model", "platform", "text"],
-    "compiler": ["model", "platform", "text"],
-    "linking": ["platform", "text"],
-    "preview": ["compiler", "model", "platform", "text"],
-    "properties": ["model", "platform", "text"],
-    "gallery": ["compiler", "persistence", "model", "platform", "text"],
-    "shell": ["gallery", "properties", "preview", "linking", "persistence", "compiler", "model", "platform", "text"],
-    "desktop": ["shell", "gallery", "properties", "linking", "preview", "compiler", "model", "platform", "text"],
-    "cli": ["shell", "gallery", "properties", "persistence", "compiler", "linking", "preview", "model", "platform", "text"],
-}
-PROGRAMS = ["cli", "desktop"]
-
-
 def output(*command):
     return subprocess.run(command, check=True, capture_output=True, text=True).stdout
-
-
-class Includes(unittest.TestCase):
-    def test_every_folder_has_its_layer(self):
-        folders = {path.parent.name for path in (SOURCE / "src").glob("*/CMakeLists.txt")}
-        self.assertEqual(folders, set(LAYERS))
-
-    def test_arrows_point_down(self):
-        for path in sorted((SOURCE / "src").rglob("*.[ch]*")):
-            folder, *below = path.relative_to(SOURCE / "src").parts
-            for kind, name in re.findall(r'^\s*#\s*include\s*([<"])(.+)[>"]', path.read_text(), re.MULTILINE):
-                with self.subTest(file=str(path), include=name):
-                    allowed = self.own if kind == '"' else self.foreign
-                    self.assertTrue(allowed(name, folder, below))
-
-    def own(self, name, folder, below):
-        if name.startswith("platform/posix/") and folder not in PROGRAMS:
-            return below[0] == "posix"
-        # product.h alone is made by the build.
-        return name.split("/")[0] in [folder, *LAYERS[folder]] and (
-            name == "text/product.h" or (SOURCE / "src" / name).is_file())
-
-    def foreign(self, name, folder, below):
-        if re.fullmatch(r"Q\w+|Qt\w*/.*", name):
-            return folder == "desktop"
-        # The library names the standard library alone, and the system in one folder.
-        return folder in PROGRAMS or below[0] == "posix" or re.fullmatch("[a-z_]+", name)
-
-    def test_links_follow_the_layers(self):
-        for folder, layers in LAYERS.items():
-            for name in re.findall(r"\bnimbrel_(\w+)", (SOURCE / "src" / folder / "CMakeLists.txt").read_text()):
-                with self.subTest(folder=folder, link=name):
-                    self.assertIn({"library": folder, "posix": "platform"}.get(name, name), [folder, *layers])
 
 
 class Documents(unittest.TestCase):
