@@ -4,11 +4,11 @@ namespace nimbrel {
 namespace {
 
 std::optional<CellPlace> beside(const PropertySheet& sheet, CellPlace from, int direction) {
-  const int slots = sheet.table().hasStates ? static_cast<int>(valueColumns.size()) : 1;
-  const int end = sheet.RowCount() * slots;
-  const int start = from.row * slots + static_cast<int>(slotOf(from.column));
+  const int columns = sheet.table().hasStates ? static_cast<int>(valueColumns.size()) : 1;
+  const int end = sheet.RowCount() * columns;
+  const int start = from.row * columns + static_cast<int>(slotOf(from.column));
   for (int at = start + direction; at >= 0 && at < end; at += direction) {
-    const CellPlace place{at / slots, valueColumns[static_cast<std::size_t>(at % slots)]};
+    const CellPlace place{at / columns, valueColumns[static_cast<std::size_t>(at % columns)]};
     if (sheet.row(place.row).takes(place.column)) return place;
   }
   return std::nullopt;
