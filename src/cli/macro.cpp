@@ -1,9 +1,14 @@
 #include "cli/macro.h"
 
+#include <algorithm>
+#include <array>
+
 #include "text/windows1252.h"
 
 namespace nimbrel {
 namespace {
+
+constexpr std::array buttonNames{"OK", "Yes", "No", "Cancel", "Help"};
 
 bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\r'; }
 
@@ -75,6 +80,14 @@ std::vector<MacroLine> parseMacro(std::string_view text) {
     text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
   }
   return lines;
+}
+
+const char* nameOf(BoxButton button) { return buttonNames.at(static_cast<std::size_t>(button)); }
+
+BoxButton buttonNamed(std::string_view name) {
+  const auto* found = std::ranges::find(buttonNames, name);
+  if (found == buttonNames.end()) throw MacroFault("no button: " + std::string(name));
+  return static_cast<BoxButton>(found - buttonNames.begin());
 }
 
 }  // namespace nimbrel

@@ -1,7 +1,6 @@
 #include "cli/play_asker.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 
 #include "cli/macro.h"
@@ -11,22 +10,12 @@
 namespace nimbrel {
 namespace {
 
-constexpr std::array buttonNames{"OK", "Yes", "No", "Cancel", "Help"};
-constexpr std::array iconNames{"exclamation", "critical", "question", "information"};
-
-const char* nameOf(BoxButton button) { return buttonNames.at(static_cast<std::size_t>(button)); }
-
 template <class T>
 std::optional<T> takeFirst(std::deque<T>& queue) {
   if (queue.empty()) return std::nullopt;
   T first = std::move(queue.front());
   queue.pop_front();
   return first;
-}
-
-std::string shownValue(const Control& control) {
-  const bool isFlag = control.kind == ControlKind::Check || control.kind == ControlKind::Option;
-  return isFlag ? (control.value ? "1" : "0") : control.text;
 }
 
 Control& controlOf(Form& form, std::string_view name) {
@@ -36,46 +25,19 @@ Control& controlOf(Form& form, std::string_view name) {
 
 }  // namespace
 
-void Transcript::tell(const std::string& name, Json value) {
-  Json line = Json::object();
-  line.emplace(name, std::move(value));
-  tellWhole(line);
-}
-
-void Transcript::tellWhole(const Json& line) {
-  out_ << line.dump(-1, ' ', false, Json::error_handler_t::replace) << '\n';
-}
-
-void Transcript::error(std::string_view text) {
-  hadErrors_ = true;
-  tell("error", toUtf8(text));
-}
-
 BoxButton PlayAsker::MsgBox(const MessageBox& box) {
   const auto answer = takeFirst(answers_).value_or(box.standard());
   if (std::ranges::find(box.buttons, answer) == box.buttons.end()) {
     throw MacroFault("the message \"" + box.title + "\" has no button " + nameOf(answer));
   }
-  Json buttons = Json::array();
-  for (const auto button : box.buttons) buttons.push_back(nameOf(button));
-  transcript_.tell("message", {{"title", toUtf8(box.title)},
-                               {"text", toUtf8(box.text)},
-                               {"icon", iconNames.at(static_cast<std::size_t>(box.icon))},
-                               {"buttons", std::move(buttons)},
-                               {"default", nameOf(box.standard())},
-                               {"answer", nameOf(answer)}});
+  transcript_.message(box, answer);
   if (answer == BoxButton::Help) help_.openTopic(box.helpTopic);
   return answer;
 }
 
 std::optional<std::string> PlayAsker::chooseFile(const FileDialog& dialog) {
   const auto result = takeFirst(files_).value_or(std::nullopt);
-  transcript_.tell("fileDialog", {{"kind", dialog.kind == FileDialog::Open ? "open" : "save"},
-                                  {"title", toUtf8(dialog.title)},
-                                  {"filter", toUtf8(dialog.filter)},
-                                  {"folder", toUtf8(dialog.folder)},
-                                  {"name", toUtf8(dialog.name)},
-                                  {"result", result ? Json(*result) : Json(nullptr)}});
+  transcript_.fileDialog(dialog, result);
   return result ? std::optional(fromHostPath(*result)) : std::nullopt;
 }
 
@@ -89,7 +51,7 @@ void PlayAsker::noteFailure(const Finding& finding) {
 
 /// A step that is left over when its form has closed is a fault of the macro.
 void PlayAsker::ShowModal(Form& form) {
-  transcript_.tell("form", {{"name", std::string(form.name)}, {"caption", toUtf8(form.caption)}});
+  transcript_.form(form);
   form.isOpen = true;
   auto& queued = forms_[std::string(form.name)];
   const auto steps = takeFirst(queued).value_or(std::vector<std::string>{});
@@ -120,7 +82,7 @@ void PlayAsker::step(Form& form, std::string_view step) {
   if (step.back() == '!') {
     form.click(control);
   } else if (step.back() == '?') {
-    tellControl(form, control);
+    transcript_.control(form, control);
   } else {
     throw MacroFault("no step: " + std::string(step));
   }
@@ -144,19 +106,7 @@ void PlayAsker::assign(Form& form, Control& control, std::string_view text) {
   }
 }
 
-void PlayAsker::tellControl(const Form& form, const Control& control) {
-  transcript_.tell("control", {{"form", std::string(form.name)},
-                               {"name", std::string(control.name)},
-                               {"text", toUtf8(shownValue(control))},
-                               {"enabled", control.enabled},
-                               {"visible", control.visible}});
-}
-
-void PlayAsker::queueAnswer(std::string_view button) {
-  const auto* found = std::ranges::find(buttonNames, button);
-  if (found == buttonNames.end()) throw MacroFault("no button: " + std::string(button));
-  answers_.push_back(static_cast<BoxButton>(found - buttonNames.begin()));
-}
+void PlayAsker::queueAnswer(std::string_view button) { answers_.push_back(buttonNamed(button)); }
 
 void PlayAsker::queueFile(std::string_view path) {
   files_.push_back(path == "cancel" ? std::nullopt : std::optional(absoluteHostPath(toUtf8(path))));
@@ -182,21 +132,21 @@ void PlayAsker::queueForm(std::string_view name, std::vector<std::string> steps)
 
 void PlayOpener::ShellExecuteA(std::string_view, std::string_view file, std::string_view, std::string_view,
                                int) {
-  transcript_.tell("shell", toUtf8(file));
+  transcript_.shell(file);
 }
 
 bool PlayHelp::openTopic(int topic) {
-  transcript_.tell("help", topic);
+  transcript_.help(topic);
   return true;
 }
 
 bool PlayHelp::openContents() {
-  transcript_.tell("help", "contents");
+  transcript_.help("contents");
   return true;
 }
 
 bool PlayHelp::openSearch() {
-  transcript_.tell("help", "search");
+  transcript_.help("search");
   return true;
 }
 

@@ -1,12 +1,13 @@
 #include <array>
 #include <charconv>
+#include <istream>
 #include <iterator>
+#include <ostream>
 #include <random>
 
 #include "cli/commands.h"
 #include "cli/macro.h"
 #include "cli/play_asker.h"
-#include "cli/play_state.h"
 #include "platform/posix/host_paths.h"
 #include "platform/posix/program_folder.h"
 #include "text/windows1252.h"
@@ -119,7 +120,7 @@ void Player::play(const Words& words) {
 void Player::run(const Words& words) {
   if (window_.commands.find(words[1]) == nullptr) throw MacroFault("no command " + words[1]);
   if (!window_.canRun(words[1])) {
-    transcript_.tell("refused", toUtf8(words[1]));
+    transcript_.refused(words[1]);
   } else if (words[1] == "mnuFileExit") {
     close();
   } else {
@@ -184,23 +185,25 @@ void Player::close() {
   } catch (const FileError& error) {
     asker_.noteFailure(error.finding());
   }
-  transcript_.tell("closed", isClosed_);
+  transcript_.closed(isClosed_);
 }
 
 void Player::print(const Words& words) {
   const auto& what = words[1];
   if (what == "tree") {
-    transcript_.tellWhole(treeState(window_));
+    transcript_.tree(window_);
   } else if (what == "state") {
-    transcript_.tell("state", publicState(window_));
+    transcript_.state(window_);
   } else if (what == "commands") {
-    transcript_.tellWhole(commandState(window_));
+    transcript_.commands(window_);
   } else if (what == "sheet") {
-    transcript_.tell("sheet", sheetState(window_));
+    transcript_.sheet(sheet());
   } else if (what == "settings") {
-    transcript_.tell("settings", settingsState(settings_));
+    transcript_.settings(settings_);
   } else if (what == "element" && words.size() > 2) {
-    transcript_.tell("element", elementState(window_, words[2]));
+    const auto* element = window_.document.ElementColl.find(words[2]);
+    if (element == nullptr) throw MacroFault("no element " + words[2]);
+    transcript_.element(words[2], *element);
   } else {
     throw MacroFault("nothing to print: " + what);
   }
@@ -236,7 +239,7 @@ ExitStatus playCommand(const Console& console, FileSystem& files, const std::opt
     status = wrongCall;
   }
   if (!settingsPath.empty()) {
-    files.replace(settingsPath, Json{{"settings", settingsState(settings)}}.dump() + "\n");
+    files.replace(settingsPath, settingsText(settings));
   }
   return status;
 }

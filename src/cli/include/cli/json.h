@@ -1,36 +1,56 @@
 #pragma once
 
-#include <nlohmann/json.hpp>
+#include <cstdint>
+#include <iosfwd>
+#include <optional>
 #include <string>
+#include <string_view>
 
-#include "model/element.h"
-#include "text/numbers.h"
-#include "text/windows1252.h"
+#include "model/document.h"
+#include "platform/asker.h"
+#include "platform/settings_store.h"
+#include "shell/main_window.h"
 
-/// Values of the document as JSON: bytes and singles are numbers, all else is text.
+/// All JSON that `nbrc` prints and reads. Its source file alone includes the JSON library, which is slow to compile.
+/// Texts of documents are Windows-1252 and are printed as UTF-8; bytes and singles are numbers.
 namespace nimbrel {
 
-using Json = nlohmann::ordered_json;
+/// The whole document as one object. It is printed element by element, to save memory in large documents.
+void printDocument(std::ostream& out, const Document& document);
 
-inline Json jsonOf(const SharedText& oneByteText) { return toUtf8(oneByteText); }
-inline Json jsonOf(const std::string& oneByteText) { return toUtf8(oneByteText); }
-inline Json jsonOf(bool value) { return value; }
-inline Json jsonOf(std::uint8_t value) { return value; }
-inline Json jsonOf(std::int32_t value) { return value; }
-/// As its general form, so that 0.1 reads 0.1 and 30 reads 30.
-inline Json jsonOf(float value) { return Json::parse(generalForm(value)); }
+/// Settings as `Transcript::settings` prints them. `readSettings` adds them to those that are there; it throws
+/// `MacroFault`, with `path` in its text, for anything else.
+std::string settingsText(const MemorySettings& settings);
+void readSettings(MemorySettings& settings, std::string_view text, const std::string& path);
 
-/// The stored properties by name, in file order.
-inline Json jsonOf(const Element& element) {
-  Json properties = Json::object();
-  std::visit(
-      [&]<class E>(const E& object) {
-        eachProperty<E>([&](const Property<E>& property, auto field) {
-          properties.emplace(property.name, jsonOf(object.*field));
-        });
-      },
-      element);
-  return properties;
-}
+/// What happens while a macro runs, one JSON object per line.
+class Transcript {
+ public:
+  explicit Transcript(std::ostream& out) : out_(out) {}
+
+  void message(const MessageBox& box, BoxButton answer);
+  /// `result` is a host path.
+  void fileDialog(const FileDialog& dialog, const std::optional<std::string>& result);
+  void form(const Form& form);
+  void control(const Form& form, const Control& control);
+  void shell(std::string_view target);
+  void help(int topic);
+  void help(std::string_view page);
+  void refused(std::string_view command);
+  void closed(bool isClosed);
+  void error(std::string_view text);
+  bool hadErrors() const { return hadErrors_; }
+
+  void tree(const frmMain& window);
+  void state(const frmMain& window);
+  void commands(const frmMain& window);
+  void sheet(const PropertySheet& sheet);
+  void element(std::string_view key, const Element& element);
+  void settings(const MemorySettings& settings);
+
+ private:
+  std::ostream& out_;
+  bool hadErrors_ = false;
+};
 
 }  // namespace nimbrel

@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/asker.h"
+
 namespace nimbrel {
 
 /// What is wrong with a macro, which ends its run.
@@ -23,5 +25,10 @@ struct MacroLine {
 /// \" \\ \n \r \t inside the quotes; "#" at the start of a word begins a comment. Throws `MacroFault`, which names
 /// the line.
 std::vector<MacroLine> parseMacro(std::string_view text);
+
+/// The button's name in macros and transcripts.
+const char* nameOf(BoxButton button);
+/// Throws `MacroFault` if there is no such button.
+BoxButton buttonNamed(std::string_view name);
 
 }  // namespace nimbrel

@@ -3,7 +3,6 @@
 #include <deque>
 #include <map>
 #include <optional>
-#include <ostream>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,23 +11,6 @@
 #include "platform/ports.h"
 
 namespace nimbrel {
-
-/// Where a macro's run is told, an object a line.
-class Transcript {
- public:
-  explicit Transcript(std::ostream& out) : out_(out) {}
-
-  /// {"NAME": value}
-  void tell(const std::string& name, Json value);
-  /// An object of several names.
-  void tellWhole(const Json& line);
-  void error(std::string_view text);
-  bool hadErrors() const { return hadErrors_; }
-
- private:
-  std::ostream& out_;
-  bool hadErrors_ = false;
-};
 
 /// An author who answers as a macro has told ahead.
 class PlayAsker : public Asker {
@@ -52,7 +34,6 @@ class PlayAsker : public Asker {
  private:
   void step(Form& form, std::string_view step);
   void assign(Form& form, Control& control, std::string_view text);
-  void tellControl(const Form& form, const Control& control);
   static void closeAsCancelled(Form& form);
 
   Transcript& transcript_;

@@ -1,12 +1,46 @@
-#include "cli/play_state.h"
+#include "cli/json.h"
 
-#include <set>
+#include <array>
+#include <nlohmann/json.hpp>
+#include <ostream>
 
 #include "cli/macro.h"
 #include "shell/command_table.h"
+#include "text/numbers.h"
+#include "text/windows1252.h"
 
 namespace nimbrel {
 namespace {
+
+using Json = nlohmann::ordered_json;
+
+constexpr std::array iconNames{"exclamation", "critical", "question", "information"};
+
+Json jsonOf(const SharedText& oneByteText) { return toUtf8(oneByteText); }
+Json jsonOf(const std::string& oneByteText) { return toUtf8(oneByteText); }
+Json jsonOf(bool value) { return value; }
+Json jsonOf(std::uint8_t value) { return value; }
+Json jsonOf(std::int32_t value) { return value; }
+/// Parsed from the text form, so that 0.1F prints as 0.1 and 30 as 30.
+Json jsonOf(float value) { return Json::parse(generalForm(value)); }
+
+/// The stored properties by name, in file order.
+Json jsonOf(const Element& element) {
+  Json properties = Json::object();
+  std::visit(
+      [&]<class E>(const E& object) {
+        eachProperty<E>([&](const Property<E>& property, auto field) {
+          properties.emplace(property.name, jsonOf(object.*field));
+        });
+      },
+      element);
+  return properties;
+}
+
+std::string controlText(const Control& control) {
+  const bool isFlag = control.kind == ControlKind::Check || control.kind == ControlKind::Option;
+  return isFlag ? (control.value ? "1" : "0") : control.text;
+}
 
 Json jsonOfValue(const PropertyValue& value) {
   return std::visit([](const auto& one) { return jsonOf(one); }, value);
@@ -44,8 +78,6 @@ Json rowState(const PropertySheet& sheet, int ordinal) {
   }
   return {{"caption", toUtf8(row.Caption)}, {"values", std::move(values)}, {"shown", std::move(shown)}};
 }
-
-}  // namespace
 
 Json treeState(const frmMain& window) {
   Json nodes = Json::array();
@@ -110,19 +142,15 @@ Json commandState(const frmMain& window) {
   return {{"commands", std::move(entries)}, {"toolbar", std::move(buttons)}};
 }
 
-Json sheetState(frmMain& window) {
-  const auto* sheet = window.visibleSheet();
-  if (sheet == nullptr) throw MacroFault("no sheet is shown");
+Json sheetState(const PropertySheet& sheet) {
   Json rows = Json::array();
-  for (int ordinal = 0; ordinal < sheet->RowCount(); ++ordinal) rows.push_back(rowState(*sheet, ordinal));
-  return {{"name", std::string(sheet->table().name)}, {"rows", std::move(rows)}};
+  for (int ordinal = 0; ordinal < sheet.RowCount(); ++ordinal) rows.push_back(rowState(sheet, ordinal));
+  return {{"name", std::string(sheet.table().name)}, {"rows", std::move(rows)}};
 }
 
-Json elementState(frmMain& window, std::string_view key) {
-  const auto* element = window.document.ElementColl.find(key);
-  if (element == nullptr) throw MacroFault("no element " + std::string(key));
-  Json properties = jsonOf(*element);
-  addCalculated(properties, *element);
+Json elementState(std::string_view key, const Element& element) {
+  Json properties = jsonOf(element);
+  addCalculated(properties, element);
   return {{"key", toUtf8(key)}, {"properties", std::move(properties)}};
 }
 
@@ -136,6 +164,45 @@ Json settingsState(const MemorySettings& settings) {
   return sections;
 }
 
+void printLine(std::ostream& out, const Json& line) {
+  out << line.dump(-1, ' ', false, Json::error_handler_t::replace) << '\n';
+}
+
+void printEntry(std::ostream& out, const char* name, Json value) {
+  Json line = Json::object();
+  line.emplace(name, std::move(value));
+  printLine(out, line);
+}
+
+}  // namespace
+
+void printDocument(std::ostream& out, const Document& document) {
+  out << "{\n";
+  for (const CompileSetting& setting : compileSettings) {
+    std::visit(
+        [&](auto field) {
+          out << "  " << Json(setting.name) << ": " << jsonOf(document.settings.*field) << ",\n";
+        },
+        setting.field);
+  }
+  out << "  \"elements\": [";
+  const char* separator = "\n    ";
+  for (const Node* node = document.tvTreeView.root(); node != nullptr; node = following(node)) {
+    Json entry = {{"key", jsonOf(node->Key)},
+                  {"parent", node->Parent() == nullptr ? Json(nullptr) : jsonOf(node->Parent()->Key)},
+                  {"text", jsonOf(node->Text)}};
+    const Element* element = document.element(*node);
+    entry["properties"] = element == nullptr ? Json::object() : jsonOf(*element);
+    out << separator << entry;
+    separator = ",\n    ";
+  }
+  out << "\n  ]\n}\n";
+}
+
+std::string settingsText(const MemorySettings& settings) {
+  return Json{{"settings", settingsState(settings)}}.dump() + "\n";
+}
+
 void readSettings(MemorySettings& settings, std::string_view text, const std::string& path) {
   try {
     const auto parsed = Json::parse(text);
@@ -147,6 +214,65 @@ void readSettings(MemorySettings& settings, std::string_view text, const std::st
   } catch (const Json::exception& error) {
     throw MacroFault(path + " holds no settings: " + error.what());
   }
+}
+
+void Transcript::message(const MessageBox& box, BoxButton answer) {
+  Json buttons = Json::array();
+  for (const auto button : box.buttons) buttons.push_back(nameOf(button));
+  printEntry(out_, "message",
+             {{"title", toUtf8(box.title)},
+              {"text", toUtf8(box.text)},
+              {"icon", iconNames.at(static_cast<std::size_t>(box.icon))},
+              {"buttons", std::move(buttons)},
+              {"default", nameOf(box.standard())},
+              {"answer", nameOf(answer)}});
+}
+
+void Transcript::fileDialog(const FileDialog& dialog, const std::optional<std::string>& result) {
+  printEntry(out_, "fileDialog",
+             {{"kind", dialog.kind == FileDialog::Open ? "open" : "save"},
+              {"title", toUtf8(dialog.title)},
+              {"filter", toUtf8(dialog.filter)},
+              {"folder", toUtf8(dialog.folder)},
+              {"name", toUtf8(dialog.name)},
+              {"result", result ? Json(*result) : Json(nullptr)}});
+}
+
+void Transcript::form(const Form& form) {
+  printEntry(out_, "form", {{"name", std::string(form.name)}, {"caption", toUtf8(form.caption)}});
+}
+
+void Transcript::control(const Form& form, const Control& control) {
+  printEntry(out_, "control",
+             {{"form", std::string(form.name)},
+              {"name", std::string(control.name)},
+              {"text", toUtf8(controlText(control))},
+              {"enabled", control.enabled},
+              {"visible", control.visible}});
+}
+
+void Transcript::shell(std::string_view target) { printEntry(out_, "shell", toUtf8(target)); }
+void Transcript::help(int topic) { printEntry(out_, "help", topic); }
+void Transcript::help(std::string_view page) { printEntry(out_, "help", page); }
+void Transcript::refused(std::string_view command) { printEntry(out_, "refused", toUtf8(command)); }
+void Transcript::closed(bool isClosed) { printEntry(out_, "closed", isClosed); }
+
+void Transcript::error(std::string_view text) {
+  hadErrors_ = true;
+  printEntry(out_, "error", toUtf8(text));
+}
+
+void Transcript::tree(const frmMain& window) { printLine(out_, treeState(window)); }
+void Transcript::state(const frmMain& window) { printEntry(out_, "state", publicState(window)); }
+void Transcript::commands(const frmMain& window) { printLine(out_, commandState(window)); }
+void Transcript::sheet(const PropertySheet& sheet) { printEntry(out_, "sheet", sheetState(sheet)); }
+
+void Transcript::element(std::string_view key, const Element& element) {
+  printEntry(out_, "element", elementState(key, element));
+}
+
+void Transcript::settings(const MemorySettings& settings) {
+  printEntry(out_, "settings", settingsState(settings));
 }
 
 }  // namespace nimbrel
