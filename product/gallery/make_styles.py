@@ -1,8 +1,8 @@
 #!/usr/bin/python3
 """Makes the styles of the gallery from styles.json: make_styles.py --nbrc PATH --rsvg-convert PATH --home STAGE WORK_DIR
 
-Each style is set on a new menu through the program's own property sheets, by a macro, and saved as an author saves one,
-so that its file is as the program writes it. Its arrows are drawn here, in the colours of its texts.
+A macro sets each style on a new menu through the property sheets and saves it, so that the program itself writes the
+style file. The arrows are drawn here, in the colours of the texts.
 """
 import argparse
 import json
@@ -12,17 +12,20 @@ from pathlib import Path
 HERE = Path(__file__).parent
 STATES = (1, 3, 4)  # columns of an item's sheet
 
-# Rows of the sheets, by what they hold.
-MENU = {"titlePadding": 20, "titleFont": 21, "titleSize": 22, "titleBold": 23, "titleText": 26, "titleBg": 27, "bg": 31, "bgImage": 32, "borderStyle": 33,
-        "borderWidth": 34, "borderColour": 35, "gap": 36}
-ITEM = {"alignment": 4, "padding": 7, "font": 8, "size": 9, "bold": 10, "underline": 12, "text": 13, "arrow": 14, "borderStyle": 15,
-        "borderWidth": 16, "borderColour": 17, "bg": 18}
+# What a style sets, with the captions of the rows.
+MENU = {"titlePadding": "Title Padding", "titleFont": "Title Text Font", "titleSize": "Title Text Size", "titleBold": "Title Text Bold",
+        "titleText": "Title Text Color", "titleBg": "Title BG Color", "bg": "Main Menu BG Color", "bgImage": "Main Menu BG Image",
+        "borderStyle": "Main Menu Border Style", "borderWidth": "Main Menu Border Width", "borderColour": "Main Menu Border Color",
+        "gap": "Distance Between Items"}
+ITEM = {"alignment": "Item Content Alignment", "padding": "Item Padding", "font": "Item Text Font", "size": "Item Text Size",
+        "bold": "Item Text Bold", "underline": "Item Text Underlined", "text": "Item Text Color", "arrow": "\"Has Submenu\" Image",
+        "borderStyle": "Item Border Style", "borderWidth": "Item Border Width", "borderColour": "Item Border Color", "bg": "Item BG Color"}
 
 ARROWS = {
     "triangle": '<path d="M3 1.5 7.5 5 3 8.5z" fill="{0}"/>',
     "chevron": '<path d="m3 1.5 4 3.5-4 3.5" fill="none" stroke="{0}" stroke-width="1.6"/>',
 }
-# Tiles behind the items: their side in pixels, and what is drawn on the colour of the menu.
+# Background tiles: side in pixels, and what is drawn over the colour of the menu.
 PATTERNS = {
     "grid": (16, '<path d="M0 .5h16M.5 0v16" stroke="{0}"/>'),
     "lines": (4, '<path d="M0 .5h4" stroke="{0}"/>'),
@@ -36,8 +39,8 @@ def styles():
     whole = [table["defaults"] | style for style in table["styles"]]
     for style in whole:
         for kind in (style["border"][0], style["itemBorder"][0]):
-            if kind not in BORDERS:  # the sheet would show another one in its place
-                raise SystemExit(f"{style['name']}: no border is {kind}")
+            if kind not in BORDERS:  # the sheet would show the last entry instead
+                raise SystemExit(f"{style['name']}: there is no border style {kind}")
     return whole
 
 
@@ -52,7 +55,7 @@ def picture(name, size, body, converter, folder):
     if not made.exists() or drawing.read_text(encoding="utf-8") != text:
         drawing.write_text(text, encoding="utf-8")
         subprocess.run([converter, "-o", made, drawing], check=True)
-    return str(made).replace("/", "\\")  # as sheets hold paths
+    return str(made).replace("/", "\\")  # document form
 
 
 def arrow(style, colour, converter, folder):
@@ -65,8 +68,21 @@ def pattern(style, converter, folder):
     return picture(f"{kind}-{colour[1:]}", size, drawn.format(colour), converter, folder)
 
 
-def macro_of(style, converter, folder):
+def play(nbrc, home, macro):
+    return subprocess.run([nbrc, "--home", home, "play", "-"], input=macro, capture_output=True, encoding="utf-8")
+
+
+def rows_of_sheets(nbrc, home):
+    """The numbers of the rows by caption, for the sheets of the main menu and of an item."""
+    printed = play(nbrc, home, "select M0\nprint sheet\nselect I1\nprint sheet\n").stdout.splitlines()
+    sheets = [json.loads(line)["sheet"]["rows"] for line in printed]
+    return [{row["caption"]: number for number, row in enumerate(rows)} for rows in sheets]
+
+
+def macro_of(style, rows, converter, folder):
     """The statements that give a new menu this look and save it."""
+    menu_rows, item_rows = rows
+
     def edit(row, column, value):
         return f"edit {row} {column} {quoted(value)}"
 
@@ -77,7 +93,7 @@ def macro_of(style, converter, folder):
     if "pattern" in style:
         title["bgImage"] = pattern(style, converter, folder)
     lines = ["select M0"]
-    lines += [edit(MENU[name], 1, value) for name, value in title.items()]
+    lines += [edit(menu_rows[MENU[name]], 1, value) for name, value in title.items()]
     lines.append("select I1")
     kind, width, colours = style["itemBorder"]
     for state, column in enumerate(STATES):
@@ -86,7 +102,7 @@ def macro_of(style, converter, folder):
                 "text": style["text"][state], "arrow": arrow(style, style["text"][state], converter, folder),
                 "borderStyle": kind, "borderWidth": width, "borderColour": colours[state],
                 "bg": style["item"][state]}
-        lines += [edit(ITEM[name], column, value) for name, value in item.items()]
+        lines += [edit(item_rows[ITEM[name]], column, value) for name, value in item.items()]
     lines += ["form frmSaveStyle " + quoted("txtStyleName=" + style["name"]) + " btnOk!", "run mnuStyleSaveStyle"]
     return [*lines, "answer No", "run mnuFileNew"]
 
@@ -95,16 +111,15 @@ def main():
     words = argparse.ArgumentParser(description="Makes the styles of the gallery.")
     words.add_argument("--nbrc", type=Path, required=True)
     words.add_argument("--rsvg-convert", required=True)
-    words.add_argument("--home", type=Path, required=True, help="the program's folder, whose gallery takes the styles")
+    words.add_argument("--home", type=Path, required=True, help="the program's folder; the styles go to its gallery")
     words.add_argument("work", type=Path)
     given = words.parse_args()
     given.work.mkdir(parents=True, exist_ok=True)
-    for style in styles():  # one that is there would be asked about
+    for style in styles():  # the program asks before it replaces one
         (given.home / "gallery" / (style["name"] + ".nbs")).unlink(missing_ok=True)
-    macro = given.work / "styles.macro"
-    lines = [line for style in styles() for line in macro_of(style, given.rsvg_convert, given.work.resolve())]
-    macro.write_text("\n".join(lines) + "\n", encoding="utf-8")
-    run = subprocess.run([given.nbrc, "--home", given.home, "play", macro], capture_output=True, text=True)
+    rows = rows_of_sheets(given.nbrc, given.home)
+    lines = [line for style in styles() for line in macro_of(style, rows, given.rsvg_convert, given.work.resolve())]
+    run = play(given.nbrc, given.home, "\n".join(lines) + "\n")
     saved = run.stdout.count("Style created successfully")
     if run.returncode != 0 or saved != len(styles()):
         raise SystemExit(f"{saved} of {len(styles())} styles were saved\n{run.stderr}{run.stdout[-2000:]}")

@@ -8,6 +8,7 @@
 #include "cli/commands.h"
 #include "cli/macro.h"
 #include "cli/play_asker.h"
+#include "platform/keys.h"
 #include "platform/posix/host_paths.h"
 #include "platform/posix/program_folder.h"
 #include "text/windows1252.h"
@@ -142,10 +143,7 @@ void Player::select(const Words& words) {
   window_.tvTreeView_NodeClick(node);
 }
 
-void Player::key(const Words& words) {
-  constexpr int deleteKey = 46;
-  window_.tvTreeView_KeyUp(words[1] == "Delete" ? deleteKey : 0);
-}
+void Player::key(const Words& words) { window_.tvTreeView_KeyUp(words[1] == "Delete" ? keys::Delete : 0); }
 
 PropertySheet& Player::sheet() {
   auto* sheet = window_.visibleSheet();

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "platform/settings.h"
+
 namespace nimbrel {
 namespace {
 
@@ -21,7 +23,7 @@ frmCompileMenuWarning::frmCompileMenuWarning(SettingsStore& settings, HelpSystem
 }
 
 void frmCompileMenuWarning::Check1_Click() {
-  settings_.SaveSetting("Settings", "DontShowCompileWarningDialog", Check1.value ? "1" : "0");
+  settings::DontShowCompileWarning.write(settings_, Check1.value ? "1" : "0");
 }
 
 CompileReport::CompileReport(std::string_view formName, std::string_view frame,

@@ -1,6 +1,7 @@
 #include "gallery/style_forms.h"
 
 #include "gallery/style_file.h"
+#include "platform/settings.h"
 
 namespace nimbrel {
 namespace {
@@ -73,7 +74,7 @@ void frmSaveStyle::btnCancel_Click() {
 PickStyleHint::PickStyleHint(Ports& ports, Kind kind) : Form(hintOf(kind).form, hintOf(kind).title) {
   Label1.text = hintOf(kind).text;
   Check1.event = [this, &ports] {
-    ports.settings.SaveSetting("Settings", "DontShowPickDialog", Check1.value ? "1" : "0");
+    settings::DontShowPickDialog.write(ports.settings, Check1.value ? "1" : "0");
   };
   cmdOk.event = [this] { Close(); };
   cmdMoreInfo.event = [&ports] { ports.help.openTopic(pickTopic); };

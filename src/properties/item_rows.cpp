@@ -1,5 +1,4 @@
 #include "properties/element_rows.h"
-#include "properties/element_values.h"
 
 namespace nimbrel {
 namespace {
@@ -45,6 +44,8 @@ const SheetTable& itemTable() {
   static const SheetTable table{"prctlItem", "Item Properties", true, rowsOf<ItemObj>(rows)};
   return table;
 }
+
+SheetCell cellOf(PropertyField<ItemObj> field) { return cellIn<ItemObj>(rows, field); }
 
 void PutValuesToPropertyControl(const ItemObj& element, PropertySheet& sheet) {
   putValues<ItemObj>(rows, element, sheet);

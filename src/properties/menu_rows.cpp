@@ -1,5 +1,4 @@
 #include "properties/element_rows.h"
-#include "properties/element_values.h"
 
 namespace nimbrel {
 namespace {
@@ -67,6 +66,8 @@ const SheetTable& menuTable() {
                                 rowsOf<MenuObj>(rows)};
   return table;
 }
+
+SheetCell cellOf(PropertyField<MenuObj> field) { return cellIn<MenuObj>(rows, field); }
 
 void PutValuesToPropertyControl(const MenuObj& element, PropertySheet& sheet) {
   putValues<MenuObj>(rows, element, sheet);

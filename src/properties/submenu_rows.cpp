@@ -1,5 +1,4 @@
 #include "properties/element_rows.h"
-#include "properties/element_values.h"
 
 namespace nimbrel {
 namespace {
@@ -61,6 +60,8 @@ const SheetTable& submenuTable() {
   static const SheetTable table{"prctlSubmenu", "Submenu Properties", false, rowsOf<SubmenuObj>(rows)};
   return table;
 }
+
+SheetCell cellOf(PropertyField<SubmenuObj> field) { return cellIn<SubmenuObj>(rows, field); }
 
 void PutValuesToPropertyControl(const SubmenuObj& element, PropertySheet& sheet) {
   putValues<SubmenuObj>(rows, element, sheet);

@@ -1,6 +1,6 @@
 #include "shell/command_states.h"
 
-#include "shell/command_table.h"
+#include <stdexcept>
 
 namespace nimbrel {
 
@@ -24,17 +24,24 @@ const CommandState* CommandStates::find(std::string_view name) const {
   return found == entries_.end() ? nullptr : &found->second;
 }
 
-void CommandStates::enable(std::string_view name, bool enabled) {
+bool CommandStates::button(std::string_view key) const {
+  const auto found = buttons_.find(key);
+  if (found == buttons_.end()) throw std::out_of_range("no toolbar button " + std::string(key));
+  return found->second;
+}
+
+void CommandStates::enable(EntryName name, bool enabled) {
   entry(name).enabled = enabled;
   for (const auto& button : toolbar()) {
-    if (button.command == name) buttons_.find(button.key)->second = enabled;
+    if (button.command == name.view()) buttons_.find(button.key)->second = enabled;
   }
 }
 
 void CommandStates::enablePaste(bool enabled) {
   enable("mnuEditPaste", enabled);
-  for (const auto* name : {"mnuMenuPopupPaste", "mnuSubmenuPopupPaste", "mnuItemPopupPaste"})
-    enable(name, enabled);
+  enable("mnuMenuPopupPaste", enabled);
+  enable("mnuSubmenuPopupPaste", enabled);
+  enable("mnuItemPopupPaste", enabled);
 }
 
 }  // namespace nimbrel

@@ -1,12 +1,17 @@
 // The document's life: new, open, save, and what comes ahead of losing one.
+#include <array>
+
 #include "model/structure.h"
+#include "platform/settings.h"
 #include "shell/main_window.h"
-#include "shell/settings.h"
 #include "text/paths.h"
 #include "text/product.h"
 
 namespace nimbrel {
 namespace {
+
+constexpr std::array<EntryName, std::tuple_size_v<RecentFiles>> recentFileEntries{
+    "mnuFileMRU1", "mnuFileMRU2", "mnuFileMRU3", "mnuFileMRU4"};
 
 std::string filter() { return std::string(productTitle) + " Files (*.nbr)|*.nbr"; }
 
@@ -182,7 +187,7 @@ void frmMain::UpdateMRUList(const std::string& path, const std::string& name) {
     const auto& file = recent_.at(slot);
     if (file.empty()) continue;
     const int number = static_cast<int>(slot) + 1;
-    auto& entry = commands.entry("mnuFileMRU" + std::to_string(number));
+    auto& entry = commands.entry(recentFileEntries.at(slot));
     entry.visible = true;
     entry.caption = recentFileCaption(number, file);
     if (slot == 0) commands.entry("mnuFileBar0").visible = true;

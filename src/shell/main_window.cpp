@@ -1,24 +1,25 @@
 #include "shell/main_window.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
+#include "platform/keys.h"
 #include "properties/element_values.h"
 #include "shell/addresses.h"
-#include "shell/command_table.h"
 #include "text/product.h"
 
 namespace nimbrel {
 
-/// What each command does, by its name.
+/// What each command does.
 struct CommandHandler {
   std::string_view name;
   void (*run)(frmMain&);
 
-  static const CommandHandler* find(std::string_view name);
+  static const CommandHandler* find(std::string_view command);
 };
 
-const CommandHandler* CommandHandler::find(std::string_view name) {
+const CommandHandler* CommandHandler::find(std::string_view command) {
   static constexpr auto handlers = std::to_array<CommandHandler>({
       {"mnuFileNew", [](frmMain& w) { w.mnuFileNew(); }},
       {"mnuFileOpen", [](frmMain& w) { w.mnuFileOpen(); }},
@@ -58,18 +59,25 @@ const CommandHandler* CommandHandler::find(std::string_view name) {
       {"mnuHelpOnlineSupportCenter", [](frmMain& w) { OpenWithShell(w.ports.opener, addresses::support); }},
       {"mnuHelpAbout", [](frmMain& w) { w.mnuHelpAbout(); }},
   });
-  const auto* found = std::ranges::find(handlers, name, &CommandHandler::name);
+  constexpr auto handles = [](std::string_view name) {
+    return std::ranges::find(handlers, name, &CommandHandler::name) != handlers.end();
+  };
+  static_assert(std::ranges::all_of(menuBar(), [handles](const MenuEntry& entry) {
+    return entry.level == 0 || entry.caption == "-" || handles(entry.name);
+  }));
+  const auto* found = std::ranges::find(handlers, command, &CommandHandler::name);
   return found == handlers.end() ? nullptr : found;
 }
 
 namespace {
 
-constexpr int deleteKey = 46;
-
 /// The row that holds the element's name.
-int nameOrdinal(Kind sheet) {
-  constexpr int inMenuSheet = 9;
-  return sheet == Kind::Menu ? inMenuSheet : 0;
+int nameRow(Kind sheet) {
+  switch (sheet) {
+    case Kind::Menu: return cellOf(&MenuObj::menuname).row;
+    case Kind::Submenu: return cellOf(&SubmenuObj::SubmenuName).row;
+    default: return cellOf(&ItemObj::ItemName1).row;
+  }
 }
 
 }  // namespace
@@ -200,7 +208,7 @@ void frmMain::sheetChanged(Kind sheet, int ordinal) {
   auto* element = CurrentNode == nullptr ? nullptr : document.element(*CurrentNode);
   if (element == nullptr || kindOf(*element) != sheet) return;
   std::visit([&](auto& object) { GetValueFromPropertyControl(object, sheetOf(sheet), ordinal); }, *element);
-  if (ordinal == nameOrdinal(sheet)) CurrentNode->Text = NodeText(*element);
+  if (ordinal == nameRow(sheet)) CurrentNode->Text = NodeText(*element);
   SetIsDirty();
 }
 
@@ -210,7 +218,7 @@ void frmMain::tvTreeView_NodeClick(Node* node) {
 }
 
 void frmMain::tvTreeView_KeyUp(int key) {
-  if (key == deleteKey && CurrentNode != nullptr) {
+  if (key == keys::Delete && CurrentNode != nullptr) {
     switch (kindOf(CurrentNode->Key)) {
       case Kind::Item: mnuItemDeleteItem(); break;
       case Kind::Submenu: mnuSubmenuDeleteSubmenu(); break;

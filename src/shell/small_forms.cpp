@@ -2,8 +2,8 @@
 
 #include <utility>
 
+#include "platform/settings.h"
 #include "shell/addresses.h"
-#include "shell/settings.h"
 #include "text/product.h"
 
 namespace nimbrel {

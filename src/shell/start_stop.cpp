@@ -2,8 +2,8 @@
 #include <array>
 #include <exception>
 
+#include "platform/settings.h"
 #include "shell/main_window.h"
-#include "shell/settings.h"
 #include "text/numbers.h"
 #include "text/paths.h"
 #include "text/product.h"

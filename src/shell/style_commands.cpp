@@ -1,8 +1,8 @@
 // The commands of the Style menu.
 #include "gallery/gallery_form.h"
 #include "gallery/style_forms.h"
+#include "platform/settings.h"
 #include "shell/main_window.h"
-#include "shell/settings.h"
 
 namespace nimbrel {
 

@@ -3,9 +3,9 @@
 #include "compiler/compile_forms.h"
 #include "compiler/compile_properties.h"
 #include "linking/link_forms.h"
+#include "platform/settings.h"
 #include "preview/preview_page.h"
 #include "shell/main_window.h"
-#include "shell/settings.h"
 #include "shell/small_forms.h"
 #include "text/paths.h"
 

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include "platform/keys.h"
 #include "support/scripted_ports.h"
 #include "text/product.h"
 
@@ -37,7 +38,7 @@ class MainWindow : public testing::Test {
     set("ShowPreviewOnStartup", "0");
     return start(commandLine);
   }
-  std::string caption(const char* entry) { return window->commands.entry(entry).caption; }
+  std::string caption(EntryName entry) { return window->commands.entry(entry).caption; }
 
   ScriptedPorts system;
   std::unique_ptr<frmMain> window;
@@ -159,14 +160,13 @@ TEST_F(MainWindow, IsNeverNarrowerThan3000Twips) {
 
 TEST_F(MainWindow, TheTreesKeysSelectDeleteAndLeaveTheRootAlone) {
   auto& main = startQuietly();
-  constexpr int deleteKey = 46;
-  main.tvTreeView_KeyUp(deleteKey);
+  main.tvTreeView_KeyUp(keys::Delete);
   EXPECT_THAT(system.asker.boxes, IsEmpty());
   EXPECT_EQ(main.contextMenu(), "mnuMenuPopup");
   main.tvTreeView_NodeClick(main.document.tvTreeView.find("I3"));
   EXPECT_EQ(main.contextMenu(), "mnuItemPopup");
   system.asker.answers = {BoxButton::Yes};
-  main.tvTreeView_KeyUp(deleteKey);
+  main.tvTreeView_KeyUp(keys::Delete);
   EXPECT_EQ(main.selected->Key, "I2");
   EXPECT_FALSE(main.canRun("mnuItemMoveItemDown"));
   EXPECT_TRUE(main.canRun("mnuItemMoveItemUp"));

@@ -3,10 +3,13 @@
 #include <array>
 #include <cmath>
 #include <concepts>
+#include <optional>
 #include <span>
+#include <stdexcept>
 #include <utility>
 
 #include "model/properties.h"
+#include "properties/element_values.h"
 #include "properties/property_row.h"
 #include "properties/property_sheet.h"
 
@@ -80,6 +83,18 @@ void eachField(const ElementRow<E>& row, F&& f) {
         },
         row.fields[slot]);
   }
+}
+
+template <class E>
+SheetCell cellIn(std::span<const ElementRow<E>> rows, const PropertyField<E>& wanted) {
+  for (std::size_t row = 0; row < rows.size(); ++row) {
+    std::optional<int> column;
+    eachField(rows[row], [&](int col, auto field) {
+      if (PropertyField<E>(field) == wanted) column = col;
+    });
+    if (column) return {static_cast<int>(row), *column};
+  }
+  throw std::out_of_range("no row shows this property");
 }
 
 template <class E>

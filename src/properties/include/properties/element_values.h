@@ -1,21 +1,38 @@
 #pragma once
 
+#include <cstdint>
+#include <variant>
+
 #include "model/item_obj.h"
 #include "model/menu_obj.h"
 #include "model/submenu_obj.h"
 
-/// How an element's properties reach its sheet and come back.
+/// Moves the properties of an element to its sheet and back.
 namespace nimbrel {
 
 class PropertySheet;
 
-/// Hands every property to the sheet, in the order of its rows, and has it shown.
+/// A cell that shows a property: the `PropertyOrdinal` of its row and its column.
+struct SheetCell {
+  int row;
+  int column;
+};
+
+template <class E>
+using PropertyField = std::variant<SharedText E::*, std::uint8_t E::*, float E::*>;
+
+/// The cell of a property on the sheet of its element. Throws std::out_of_range for a property without a row.
+SheetCell cellOf(PropertyField<MenuObj> field);
+SheetCell cellOf(PropertyField<SubmenuObj> field);
+SheetCell cellOf(PropertyField<ItemObj> field);
+
+/// Fills the sheet with all properties, in the order of its rows.
 void PutValuesToPropertyControl(const MenuObj& element, PropertySheet& sheet);
 void PutValuesToPropertyControl(const SubmenuObj& element, PropertySheet& sheet);
 void PutValuesToPropertyControl(const ItemObj& element, PropertySheet& sheet);
 
-/// Takes the values of one row, in all its columns. A row without a property, or outside of the table, does
-/// nothing. A byte takes a number rounded, ties to even.
+/// Stores the values of one row, in all its columns, in the element. Does nothing for a heading or a row outside the
+/// table. A byte property stores a number rounded, ties to even.
 void GetValueFromPropertyControl(MenuObj& element, const PropertySheet& sheet, int PropertyOrdinal);
 void GetValueFromPropertyControl(SubmenuObj& element, const PropertySheet& sheet, int PropertyOrdinal);
 void GetValueFromPropertyControl(ItemObj& element, const PropertySheet& sheet, int PropertyOrdinal);

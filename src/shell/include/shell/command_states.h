@@ -4,9 +4,11 @@
 #include <string>
 #include <string_view>
 
+#include "shell/command_table.h"
+
 namespace nimbrel {
 
-/// How an entry of menu bar or context menu stands at present.
+/// The present state of an entry of the menu bar or a context menu.
 struct CommandState {
   std::string caption;
   bool enabled = true;
@@ -14,18 +16,21 @@ struct CommandState {
   bool checked = false;
 };
 
-/// The entries and toolbar buttons of the main window by name, separators too, as the table starts them.
+/// The states of all entries and toolbar buttons of the main window, by name. Separators have names and states too.
 class CommandStates {
  public:
   CommandStates();
 
-  CommandState& entry(std::string_view name) { return entries_.find(name)->second; }
+  CommandState& entry(EntryName name) { return entries_.find(name.view())->second; }
+  const CommandState& entry(EntryName name) const { return entries_.find(name.view())->second; }
+  /// Returns nullptr for an unknown name.
   const CommandState* find(std::string_view name) const;
-  bool button(std::string_view key) const { return buttons_.find(key)->second; }
+  /// Whether a toolbar button is enabled. Throws std::out_of_range for an unknown key.
+  bool button(std::string_view key) const;
 
-  /// Sets an entry and, if there is one, the toolbar button of the same command.
-  void enable(std::string_view name, bool enabled);
-  /// Sets Paste in all menus and the toolbar.
+  /// Enables or disables an entry and, if there is one, the toolbar button of the same command.
+  void enable(EntryName name, bool enabled);
+  /// The same for Paste in all menus and the toolbar.
   void enablePaste(bool enabled);
 
   const std::map<std::string, CommandState, std::less<>>& entries() const { return entries_; }
@@ -33,7 +38,7 @@ class CommandStates {
 
  private:
   std::map<std::string, CommandState, std::less<>> entries_;
-  std::map<std::string, bool, std::less<>> buttons_;  ///< by key: whether it is enabled
+  std::map<std::string, bool, std::less<>> buttons_;  ///< whether each is enabled, by key
 };
 
 }  // namespace nimbrel

@@ -51,7 +51,7 @@ class frmMain {
   bool canRun(std::string_view name) const;
 
   void tvTreeView_NodeClick(Node* node);
-  /// The code of the key: 46 is Delete. The tree has moved its selection already.
+  /// `key` is a code of platform/keys.h. The tree has moved its selection already.
   void tvTreeView_KeyUp(int key);
   /// The context menu that a right click on a node opens; it belongs to the current node.
   std::string_view contextMenu() const;

@@ -6,16 +6,17 @@
 #include "platform/settings_store.h"
 #include "text/numbers.h"
 
-/// Every setting that outlives the program, each once. All are texts.
+/// The settings that the program keeps between two runs: section, key and default. The recent files have their own
+/// keys (see `recent_files.cpp`). All values are stored as text.
 namespace nimbrel {
 
 struct Setting {
   std::string_view section;
   std::string_view key;
-  std::string_view standard;
+  std::string_view standard;  ///< the default
 
   std::string read(const SettingsStore& store) const { return store.GetSetting(section, key, standard); }
-  /// A word or a digit; what is neither counts as not set.
+  /// Accepts a word or a number; anything else counts as not set.
   bool readFlag(const SettingsStore& store) const {
     return parseBoolean(read(store)).value_or(parseBoolean(standard).value_or(false));
   }
