@@ -63,7 +63,7 @@ class Inspector {
     if (value.find_first_of("\r\n") != std::string_view::npos)
       say(of + "a line break, which ends the value in the file");
     if (form == FileForm::Raw && value.find(',') != std::string_view::npos) {
-      say(of + "a comma, which shifts the values behind it in the file");
+      say(of + "a comma, which shifts the values after it in the file");
     }
     if (form == FileForm::Raw && value.find('\'') != std::string_view::npos)
       say(of + "a single quote, which breaks the script");

@@ -32,7 +32,7 @@ class LinkForms : public testing::Test, public ScriptedPorts {
   std::string lastFolder = "C:\\site";
 };
 
-TEST_F(LinkForms, TakesNoFileThatIsMissingForeignOrOld) {
+TEST_F(LinkForms, RefusesMissingAndOldFiles) {
   frmInsertIntoWebPage0 form(ports, lastFolder, "");
   EXPECT_FALSE(form.cmdOk.enabled);
   form.isOpen = true;
@@ -52,7 +52,7 @@ TEST_F(LinkForms, TakesNoFileThatIsMissingForeignOrOld) {
   EXPECT_THAT(asker.forms, ElementsAre("frmInsertIntoWebPage1"));
 }
 
-TEST_F(LinkForms, GathersPagesAndLinksThem) {
+TEST_F(LinkForms, CollectsPagesAndLinksThem) {
   frmInsertIntoWebPage1 form(ports, lastFolder, "C:\\site\\menu.js", "");
   form.isOpen = true;
   EXPECT_THAT(form.File1.list, ElementsAre("B.HTML", "a.htm"));
@@ -86,7 +86,7 @@ TEST_F(LinkForms, GathersPagesAndLinksThem) {
   EXPECT_THAT(opened, ElementsAre("C:\\site\\a.htm"));
 }
 
-TEST_F(LinkForms, AMenuOfTwoFilesTakesTwoPasses) {
+TEST_F(LinkForms, LinksACrossFrameMenuInTwoPasses) {
   frmInsertIntoWebPage1 form(ports, lastFolder, "C:\\site\\menu.js", "C:\\site\\menu_sub.js");
   addAll(form);
   asker.inForm = [&](Form& second) {
@@ -106,7 +106,7 @@ TEST_F(LinkForms, AMenuOfTwoFilesTakesTwoPasses) {
   EXPECT_THAT(files.files.at("C:\\site\\B.HTML"), testing::Not(HasSubstr("menu_sub.js")));
 }
 
-TEST_F(LinkForms, PagesThatCannotBeWrittenAreTold) {
+TEST_F(LinkForms, ReportsPagesThatCannotBeWritten) {
   frmInsertIntoWebPage1 form(ports, lastFolder, "C:\\site\\menu.js", "");
   addAll(form);
   files.failsNow = failingFrom(0);
