@@ -15,8 +15,9 @@ struct Sample {
   CImageInfo info;  // without the file size
 };
 
+// Quirk: only the low half of a 32-bit size is read.
 std::string png(std::string_view depthAndColourType) {
-  return picture(33, {{0, "\x89PNG"}, {18, "\x01\x02"}, {22, "\x00\x40"sv}, {24, depthAndColourType}});
+  return picture(33, {{0, "\x89PNG"}, {16, "\x7\x7\x1\x2\x7\x7\0\x40"sv}, {24, depthAndColourType}});
 }
 
 std::string pcx(std::string_view bits, std::string_view planes) {
@@ -46,9 +47,10 @@ const std::vector<Sample> samples{
     {"palette png", png("\x04\x03"), {258, 64, 8, ImageFormat::Png}},
     {"grey png with alpha", png("\x10\x04"), {258, 64, 32, ImageFormat::Png}},
     {"colour png with alpha", png("\x10\x06"), {258, 64, 64, ImageFormat::Png}},
+    {"gif before a jpeg", "GIF89a" + jpeg, {30058, 27502, 8, ImageFormat::Gif}},
     {"bmp",
-     picture(54, {{0, "BM"}, {18, "\x02\x01"}, {22, "\x10"}, {28, "\x18"}}),
-     {258, 16, 24, ImageFormat::Bmp}},
+     picture(54, {{0, "BM"}, {18, "\xFF\x7F\0\0\0\x80"sv}, {28, "\x18"}}),
+     {32767, -32768, 24, ImageFormat::Bmp}},  // Quirk: words are signed
     {"pcx", pcx("\x08", "\x03"), {266, 2, 24, ImageFormat::Pcx}},
     {"tiff, little-endian", littleTiff, {123456, 80, 8, ImageFormat::Tiff}},
     {"tiff, big-endian", bigTiff, {258, 123456, 8, ImageFormat::Tiff}},
@@ -56,13 +58,6 @@ const std::vector<Sample> samples{
     {"jpeg, ten bytes before the end",
      picture(13, {{0, "\xFF\xD8\xFF\xC0\0\x11\x08\0\x05\0\x06\x01"sv}}),
      {6, 5, 8, ImageFormat::Jpeg}},
-    // Quirk: words are signed, and only the low half of a 32-bit size is read.
-    {"large gif",
-     picture(13, {{0, "GIF89a"}, {6, "\xFF\x7F\x00\x80"sv}}),
-     {32767, -32768, 1, ImageFormat::Gif}},
-    {"large png",
-     picture(33, {{0, "\x89PNG"}, {16, "\0\x01\0\x05\0\x02\0\x06"sv}, {24, "\x08\x03"}}),
-     {5, 6, 8, ImageFormat::Png}},
 };
 
 TEST(ImageInfo, ReadsSixFormatsAndToleratesTruncation) {
@@ -97,10 +92,6 @@ TEST(ImageInfo, KeepsValuesReadBeforeTheError) {
   EXPECT_EQ(ReadImageInfo(tiff.substr(0, 40)), (CImageInfo{123456, 0, 0, ImageFormat::Unknown, 40}));
   EXPECT_EQ(ReadImageInfo(pcx("\x11", "\x11")), (CImageInfo{266, 2, 0, ImageFormat::Pcx, 128}))
       << "a depth above 255";
-}
-
-TEST(ImageInfo, LooksForJpegLast) {
-  EXPECT_EQ(ReadImageInfo(samples.front().bytes + jpeg).ImageType, ImageFormat::Gif);
 }
 
 }  // namespace

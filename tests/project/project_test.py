@@ -47,14 +47,5 @@ class Manual(unittest.TestCase):
                     self.assertIn(name, text)
 
 
-class Stage(unittest.TestCase):
-    def test_has_the_files_of_an_installation(self):
-        files = ["nbrc", "dot.gif", *(f"libraries/nbrlib{n}.js" for n in range(6))]
-        for name in files:
-            with self.subTest(file=name):
-                self.assertGreater((STAGE / name).stat().st_size, 0)
-        self.assertTrue(list((STAGE / "Examples").glob("*/*.nbr")))
-
-
 if __name__ == "__main__":
     unittest.main()
