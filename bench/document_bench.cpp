@@ -11,16 +11,16 @@ namespace {
 
 constexpr int few = 100;
 constexpr int many = 3'000;
-constexpr int most = 32'767;  // what the key counter allows
+constexpr int most = 32'767;  // the limit of the key counter
 
-/// Bytes a second, and the time of one element, which is to be the same for every size.
+/// Reports bytes per second, and the time per element, which should be the same for every size.
 void report(benchmark::State& state, std::size_t bytes) {
   state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(bytes));
   state.counters["s/element"] = benchmark::Counter(static_cast<double>(state.iterations() * state.range(0)),
                                                    benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
 }
 
-/// As it comes from a file.
+/// A large document as read from a file.
 Document documentOf(const benchmark::State& state) {
   Document document;
   SubmenuCarryOver carryOver;
@@ -30,7 +30,7 @@ Document documentOf(const benchmark::State& state) {
   return document;
 }
 
-/// A disk with the program's files, all small, and no pictures: what is timed is our own work.
+/// The program's files, all small, and no pictures, so that mainly our own work is timed.
 MemoryFileSystem productFiles() {
   MemoryFileSystem files;
   files.files["C:\\program\\dot.gif"] = "GIF89a";
@@ -73,7 +73,7 @@ void compile(benchmark::State& state) {
   report(state, files.files["C:\\site\\menu.js"].size());
 }
 
-/// A page that grows with the menu, as one that lists its links does.
+/// The page grows with the menu, like a page that lists the links.
 void link(benchmark::State& state) {
   std::string page = "<html><head><title>Links</title></head>\r\n<body>\r\n";
   for (std::int64_t i = 0; i < state.range(0); ++i) {

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""report.py BUILD: times the core and nbrc of a bench build and prints the ratios that have a target."""
+"""report.py BUILD: times the core and nbrc of a bench build and prints the ratios with their targets."""
 import json
 import os
 import statistics
@@ -16,7 +16,7 @@ PAGE_BYTES = 20 * 1024
 
 
 def timed(command, **options):
-    """Wall seconds and peak bytes of one process."""
+    """Returns wall-clock seconds and peak memory in bytes of one process."""
     start = time.perf_counter()
     process = subprocess.Popen(command, stdout=subprocess.DEVNULL, **options)
     _, status, usage = os.wait4(process.pid, 0)
@@ -40,14 +40,14 @@ def linearity(bench):
         work, elements = run["name"].split("/")
         times[work, int(elements)] = run["s/element"]
         print(f"{run['name']:20s} {run['real_time']:10.3f} ms  {run['bytes_per_second'] / 1e6:8.0f} MB/s"
-              f"  {run['s/element'] * 1e9:8.0f} ns an element")
+              f"  {run['s/element'] * 1e9:8.0f} ns per element")
     print()
     for work in sorted({work for work, _ in times}):
-        verdict(f"{work}: time an element, {LARGEST} to 3000", times[work, LARGEST] / times[work, 3000], 1.5)
+        verdict(f"{work}: time per element, {LARGEST} to 3000", times[work, LARGEST] / times[work, 3000], 1.5)
 
 
 def commands(bench):
-    """Each command alone stays under LONGEST_COMMAND; those of half a document are linear."""
+    """Checks that single commands stay under LONGEST_COMMAND, and that commands on half a document are linear."""
     out = subprocess.run([bench, "--benchmark_format=json", "--benchmark_min_time=0.2"],
                          check=True, capture_output=True, text=True).stdout
     halves = []
@@ -56,7 +56,7 @@ def commands(bench):
             halves.append(run["s/element"])
         else:
             verdict(f"{run['name']}, ms in a document of 32,700", run["real_time"], LONGEST_COMMAND)
-    verdict("cut and paste of half: time an element, 20,000 to 3,000", halves[1] / halves[0], 1.5)
+    verdict("cut and paste of half: time per element, 20,000 to 3,000", halves[1] / halves[0], 1.5)
 
 
 def compile_against_cat(build, folder):
@@ -67,7 +67,7 @@ def compile_against_cat(build, folder):
     copies = f"cat '{menu}' > '{folder}/copy.nbr'; cat '{script}' > '{folder}/copy.js'"
     ours, theirs, peak = [], [], 0
     for _ in range(ROUNDS):
-        # Neither finds a file to replace.
+        # Neither program replaces existing files.
         for copy in (f"{folder}/copy.nbr", f"{folder}/copy.js"):
             if os.path.exists(copy):
                 os.remove(copy)

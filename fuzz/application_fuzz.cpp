@@ -1,34 +1,27 @@
+// Uses the whole program in memory. Each byte of the input is a choice of the author: commands, edits, clicks in the
+// tree, answers to questions, and disk failures. After each step the document must be consistent, and unsaved changes
+// must be marked as such.
 #include <algorithm>
 #include <array>
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
 #include <optional>
 #include <string>
 
 #include "model/structure.h"
 #include "platform/memory/memory_file_system.h"
+#include "require.h"
 #include "shell/command_table.h"
 #include "shell/main_window.h"
-#include "text/numbers.h"
 
-/// An input is what an author does, a byte a choice: commands, edits, clicks in the tree, answers to whatever the
-/// program asks, and disks that fail. After each step the document is whole, and what is not saved is known as
-/// not saved.
 namespace nimbrel {
 namespace {
 
-void require(bool holds) {
-  if (!holds) std::abort();
-}
-
-/// The author's choices, one after the other; the first ones again and again behind the last.
+/// The author's choices, in order. After the last byte they start again from the first.
 class Choices {
  public:
   Choices(const std::uint8_t* data, std::size_t size) : data_(data), size_(size) {}
 
   bool isUsedUp() const { return next_ >= size_; }
-  /// Below `count`, which is above 0.
+  /// Returns a number below `count`, which must be positive.
   std::size_t below(std::size_t count) { return size_ == 0 ? 0 : data_[next_++ % size_] % count; }
   template <class C>
   const auto& one(const C& of) {
@@ -90,7 +83,7 @@ class FuzzedAuthor : public Asker {
     }
   }
 
-  std::optional<BoxButton> savePrompt;  ///< what the question of saving was last answered
+  std::optional<BoxButton> savePrompt;  ///< the last answer to the question whether to save
 
  private:
   Choices& choices_;
@@ -106,31 +99,25 @@ struct QuietSystem : Opener, HelpSystem, ClassesRoot {
   void SetClassValue(std::string_view, std::string_view, std::string_view) override {}
 };
 
-void requireWhole(Document& document) {
-  require(document.tvTreeView.size() == document.ElementColl.size());
-  std::size_t roots = 0;
-  for (Node* node = document.tvTreeView.root(); node != nullptr; node = following(node)) {
-    const auto* element = document.element(*node);
-    require(element != nullptr && kindOf(*element) == kindOf(node->Key));
-    require(document.NextKeyNumber > parseInteger(node->Key.substr(1)).value_or(-1));
+/// Requires that menus, submenus and items are nested as the author's commands allow.
+void requireNesting(const Document& document) {
+  for (const Node* node = document.tvTreeView.root(); node != nullptr; node = following(node)) {
     const auto* parent = node->Parent();
-    if (parent == nullptr) ++roots;
+    const auto above = parent == nullptr ? Kind::None : kindOf(parent->Key);
     switch (kindOf(node->Key)) {
-      case Kind::Menu: require(parent == nullptr); break;
-      case Kind::Submenu: require(kindOf(parent->Key) == Kind::Item && parent->Children() == 1); break;
-      default: require(parent != nullptr && kindOf(parent->Key) != Kind::Item); break;
+      case Kind::Menu: require(parent == nullptr && node->Next() == nullptr); break;
+      case Kind::Submenu: require(above == Kind::Item && parent->Children() == 1); break;
+      default: require(above == Kind::Menu || above == Kind::Submenu); break;
     }
   }
-  require(roots <= 1);
 }
 
 bool sameMenu(const Document& a, Document b) {
   b.NextKeyNumber = a.NextKeyNumber;
-  b.settings = a.settings;  // a compile sets some, and does not count as a change
+  b.settings = a.settings;  // a compile sets some of them without counting as a change
   return a == b;
 }
 
-/// The whole program in memory, and what its author must be able to rely on.
 class Session {
  public:
   explicit Session(Choices& choices)
@@ -146,7 +133,8 @@ class Session {
     files_.files["C:\\m\\cut.nbr"] = text.substr(0, text.size() * 3 / 4);
     files_.files["C:\\m\\foreign"] = "no menu";
     files_.files["C:\\p\\TIPOFDAY.TXT"] = "that\r\nthis";
-    start();
+    window_.Activate();
+    clean_ = window_.document;
   }
 
   void step() {
@@ -157,10 +145,11 @@ class Session {
     wasDirty_ = window_.state.IsDirty;
     try {
       act();
-    } catch (const FileError&) {  // told to the author, who goes on
+    } catch (const FileError&) {  // shown to the author, who continues
     }
     files_.failsNow = nullptr;
-    requireWhole(window_.document);
+    requireConsistent(window_.document);
+    requireNesting(window_.document);
     requireSelection();
     if (isFileCommand_) {
       requireSafeFileCommand();
@@ -171,11 +160,6 @@ class Session {
   }
 
  private:
-  void start() {
-    window_.Activate();
-    clean_ = window_.document;
-  }
-
   void act() {
     switch (choices_.below(8)) {
       case 0: {
@@ -190,13 +174,13 @@ class Session {
       case 4:
         if (auto* sheet = window_.visibleSheet()) author_.use(*sheet);
         break;
-      case 5: window_.tvTreeView_KeyUp(choices_.below(2) == 0 ? 46 : 0); break;
+      case 5: window_.tvTreeView_KeyUp(choices_.below(2) == 0 ? 46 : 0); break;  // 46 is the Delete key
       case 6: useWindow(); break;
       default: run(choices_.one(menuBar()).name); break;
     }
   }
 
-  /// A file command commits the open cell first; what it must not lose is the document behind that.
+  /// A file command commits the open cell first. It must not lose the resulting document.
   void run(std::string_view name) {
     isFileCommand_ = name.starts_with("mnuFile");
     if (isFileCommand_) {
@@ -221,7 +205,7 @@ class Session {
     if (choices_.below(2) == 0) sheet->LeaveCell();
   }
 
-  /// One of those that stand beside the main window.
+  /// Uses the preview or the live examples.
   void useWindow() {
     Form& form = choices_.below(2) == 0 ? static_cast<Form&>(window_.browser) : window_.liveExamples;
     if (!form.isOpen) return;
@@ -233,20 +217,20 @@ class Session {
   }
 
   void requireSelection() {
+    const auto* selected = window_.selected;
     auto& tree = window_.document.tvTreeView;
-    require((window_.selected == nullptr) == tree.empty());
-    require(window_.CurrentNode == window_.selected);
-    if (window_.selected == nullptr) return;
-    require(tree.find(window_.selected->Key) == window_.selected);
-    require(window_.visibleSheet() == &window_.sheetOf(kindOf(window_.selected->Key)));
+    require((selected == nullptr) == tree.empty());
+    require(window_.CurrentNode == selected);
+    require(selected == nullptr || tree.find(selected->Key) == selected);
+    require(selected == nullptr || window_.visibleSheet() == &window_.sheetOf(kindOf(selected->Key)));
   }
 
-  /// Changes go by the author's No alone, or into a file.
+  /// Changes may only be lost if the author answers No; otherwise they are still there or in a file.
   void requireSafeFileCommand() {
-    const bool stands = sameMenu(window_.document, before_);
-    if (author_.savePrompt == BoxButton::Cancel) require(stands && window_.state.IsDirty);
+    const bool isUnchanged = sameMenu(window_.document, before_);
+    if (author_.savePrompt == BoxButton::Cancel) require(isUnchanged && window_.state.IsDirty);
     if (!wasDirty_ || author_.savePrompt == BoxButton::No) return;
-    if (stands && window_.state.IsDirty) return;
+    if (isUnchanged && window_.state.IsDirty) return;
     require(std::ranges::any_of(
         files_.files, [saved = menuFileText(before_)](const auto& file) { return file.second == saved; }));
   }
@@ -258,8 +242,8 @@ class Session {
   QuietSystem system_;
   Ports ports_;
   frmMain window_;
-  Document clean_;   // as it was made, opened or saved last
-  Document before_;  // ahead of the step
+  Document clean_;   // as last created, opened or saved
+  Document before_;  // before the step
   bool wasDirty_ = false;
   bool isFileCommand_ = false;
 };

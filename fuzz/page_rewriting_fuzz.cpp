@@ -1,25 +1,19 @@
+// Links a page twice and checks what must hold for any page. An input is a byte that selects the menu and the kind of
+// page, the alternative address up to a line end, and the page.
 #include <algorithm>
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <string_view>
 
 #include "linking/page_rewriting.h"
+#include "require.h"
 #include "text/ascii.h"
 
-/// An input is a digit that chooses menu and kind of page, the alternative address up to a line end, and the
-/// page. The page is linked twice; what must hold of any page is checked.
 namespace nimbrel {
 namespace {
 
 constexpr auto npos = std::string::npos;
 
-void require(bool holds) {
-  if (!holds) std::abort();
-}
-
-/// Line ends made CR LF byte by byte, to judge the fast way by.
+/// A simple implementation to compare with.
 std::string slowlyWithCrLf(std::string_view bytes) {
   std::string result;
   for (std::size_t i = 0; i < bytes.size(); ++i) {
@@ -37,7 +31,7 @@ std::size_t slowlyFound(std::string_view text, std::string_view wanted) {
   return lowered(text).find(lowered(wanted));
 }
 
-/// Whether the page holds anything that linking would take for link code of the menu or of an older release.
+/// Whether the page contains anything that linking might treat as link code.
 bool holdsLinkCode(std::string_view page) {
   return slowlyFound(page, "nbr") != npos || slowlyFound(page, "nimbrel") != npos;
 }
@@ -57,24 +51,24 @@ void checkPage(const std::string& page, const std::string& path, const std::stri
   const auto given = slowlyWithCrLf(page);
   if (holdsLinkCode(given)) return;
 
-  // All but the block, or its own body, is as it was; it stands ahead of the first tag of its kind.
+  // Everything except the inserted block or body is unchanged, and the block precedes the first closing tag.
   const auto body = slowlyFound(given, "</body>");
   if (body == npos) {
     const auto place = path.ends_with(".lbi") ? npos : slowlyFound(given, "</html>");
-    const auto kept = place == npos ? given.size() : place;
-    require(linked.starts_with(std::string_view(given).substr(0, kept)));
-    require(linked.ends_with(std::string_view(given).substr(kept)));
+    const auto split = place == npos ? given.size() : place;
+    require(linked.starts_with(std::string_view(given).substr(0, split)));
+    require(linked.ends_with(std::string_view(given).substr(split)));
     return;
   }
   require(linked == given.substr(0, body) + block + given.substr(body));
 
-  // The second time finds the block, but for its refresh tag and last line end.
+  // Linking again removes the block, except for its refresh tag and last line end.
   if (holdsLinkCode(address)) return;
   const auto refresh = block.find("<noscript>");
-  const auto stays = refresh == npos
-                         ? std::string("\r\n")
-                         : block.substr(refresh, block.find("\r\n", refresh) + 2 - refresh) + "\r\n";
-  require(again == given.substr(0, body) + stays + block + given.substr(body));
+  const auto rest = refresh == npos
+                        ? std::string("\r\n")
+                        : block.substr(refresh, block.find("\r\n", refresh) + 2 - refresh) + "\r\n";
+  require(again == given.substr(0, body) + rest + block + given.substr(body));
 }
 
 }  // namespace
@@ -86,7 +80,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const unsigned choice = data[0];
   auto address = input.substr(1, input.find('\n', 1) - 1);
   auto page = input.substr(std::min(input.size(), address.size() + 2));
-  // Markup in the address could be link code itself.
+  // Without "<", the address contains no link code.
   std::erase_if(address, [](char c) { return c == '<' || c == '\r'; });
 
   constexpr const char* menus[] = {"c:\\site\\m1.js", "c:\\site\\nav.js", "d:\\x\\other.js",

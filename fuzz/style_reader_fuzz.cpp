@@ -1,22 +1,16 @@
-// Reads any bytes as a style of the gallery, dresses the sample menu in it and compiles that.
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
+// Reads any bytes as a style of the gallery, applies it to the sample menu and compiles that.
 #include <string>
 
 #include "compiler/script_assembly.h"
 #include "gallery/sample_menu.h"
 #include "platform/memory/memory_file_system.h"
+#include "require.h"
 
 using namespace nimbrel;
 
 namespace {
 
 constexpr const char* program = "C:\\p";
-
-void require(bool holds) {
-  if (!holds) std::abort();
-}
 
 struct Reading {
   MenuStyle style;
@@ -34,17 +28,17 @@ Reading read(const MemoryFileSystem& files, std::string_view name) {
   return reading;
 }
 
-Document dressed(const MenuStyle& style) {
+Document withStyle(const MenuStyle& style) {
   Document sample = BuildSampleMenu();
   ApplyStyleToSample(sample, style);
   return sample;
 }
 
-/// Makes a style of the sample menu, under a name that stays the same, and gives its file.
+/// Saves the style of the sample menu and returns the style file.
 std::string saved(MemoryFileSystem& files, const Document& sample) {
   StepReport report;
   const auto& menu = std::get<MenuObj>(*sample.ElementColl.find("M0"));
-  const auto& item = std::get<ItemObj>(*sample.ElementColl.find("I2"));  // keeps the mark of a submenu
+  const auto& item = std::get<ItemObj>(*sample.ElementColl.find("I2"));  // has the "has submenu" image
   SaveStyle(files, program, "saved", styleOfMenu(&menu, &item), report);
   return files.read(styleFilePath(program, "saved"));
 }
@@ -55,20 +49,20 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   MemoryFileSystem files;
   files.folders = {"C:", program};
   files.files["C:\\p\\gallery\\any.nbs"] = std::string(reinterpret_cast<const char*>(data), size);
-  Document sample = dressed(read(files, "any").style);
+  Document sample = withStyle(read(files, "any").style);
   StepReport report;
   FileSteps steps(files, report);
   const ScriptTarget target{galleryFolder(program), "nbrData", "nbrData", "gallery"};
   require(!ScriptMaker(steps, program).CreateMenuScript(ScriptMode::Gallery, sample, target, true).empty());
 
-  // A value or a picture's name may hold a comma, which shifts what is behind it; a style that is read back
-  // whole has none, and is written again as it was.
+  // A comma in a value or a picture's name shifts the following values. A style that is read back whole has none
+  // and must survive unchanged.
   saved(files, sample);
   const Reading once = read(files, "saved");
   if (!once.isWhole) return 0;
-  const auto text = saved(files, dressed(once.style));
+  const auto text = saved(files, withStyle(once.style));
   const Reading again = read(files, "saved");
   require(again.isWhole);
-  require(saved(files, dressed(again.style)) == text);
+  require(saved(files, withStyle(again.style)) == text);
   return 0;
 }

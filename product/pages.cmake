@@ -1,11 +1,11 @@
-# Pages that the build makes with the program itself: linked samples, live examples, and the help.
+# Pages that the build makes, mostly with the program itself: linked samples, live examples, and the help.
 
-# What a compile needs beside the menu.
+# The inputs of a compile besides the menu.
 set(compiler nbrc runtime ${NIMBREL_STAGE}/libraries/nbrlib1.js ${NIMBREL_STAGE}/dot.gif)
 
-# nimbrel_stage_pages(FOLDER [SCRIPT.js PAGE...]...): the pages of a sample, with its menus compiled and linked to them.
-# FOLDER.nbr becomes menu.js, another NAME.nbr NAME.js. Each script goes to each page, or those named to the pages named
-# behind them. The links stand in fresh copies: to link a page again adds a line to it.
+# nimbrel_stage_pages(FOLDER [SCRIPT.js PAGE...]...): compiles the menus of a sample and links its pages to them.
+# FOLDER.nbr becomes menu.js, any other NAME.nbr becomes NAME.js. Each script is linked to all pages, or to the pages named
+# after it. Pages are copied first each time, because linking a page again adds a line to it.
 function(nimbrel_stage_pages folder)
   set(to ${NIMBREL_STAGE}/Examples/${folder})
   file(GLOB pages CONFIGURE_DEPENDS Examples/${folder}/*.html)
@@ -39,10 +39,10 @@ endfunction()
 foreach(folder corvane fennimore lindenbrook marlock pellworth quillfeather tamsin thistlewick)
   nimbrel_stage_pages(${folder})
 endforeach()
-# The main menu goes to the frame beside the one in which its submenus open.
+# The main menu and its submenus are in different frames.
 nimbrel_stage_pages(brasswick menu.js nav.html menu_sub.js first-week.html hours.html safety.html welcome.html)
 
-# The preview of a style finds its libraries and its marker picture in the gallery.
+# The preview of a style needs its libraries and path image in the gallery.
 set(marker ${NIMBREL_STAGE}/gallery/nbrmenupath.gif)
 add_custom_command(OUTPUT ${marker}
   COMMAND ${CMAKE_COMMAND} -E copy ${CMAKE_CURRENT_SOURCE_DIR}/dot.gif ${marker} DEPENDS dot.gif VERBATIM)
@@ -73,7 +73,7 @@ add_custom_command(OUTPUT ${examples_made}
   DEPENDS ${example_sources} ${compiler} COMMENT "Live examples" VERBATIM)
 set(staged ${staged} ${examples_made})
 
-# The help, as pages for whoever reads them with a browser and as the one file of the help window.
+# The help, as HTML pages and as the compiled file for the help window.
 find_program(QHELPGENERATOR qhelpgenerator PATHS /usr/lib/qt6/libexec NO_DEFAULT_PATH REQUIRED)
 file(GLOB help_sources CONFIGURE_DEPENDS help/*.py help/*.css help/*.txt help/pages/*.md)
 set(help_pages ${CMAKE_CURRENT_BINARY_DIR}/help)

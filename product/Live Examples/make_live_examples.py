@@ -1,19 +1,20 @@
 #!/usr/bin/python3
 """Makes the live examples: make_live_examples.py --nbrc PATH OUT_DIR
 
-For each row of `examples.json` a page OUT_DIR/FILE/FILE.html with two to four frames. Each frame shows `menu.nbr` with
-one setting changed, compiled and linked by nbrc; all menus lie in OUT_DIR/menus and share their libraries and pictures.
+Makes a page OUT_DIR/FILE/FILE.html for each row of `examples.json`, with two to four frames. Each frame shows `menu.nbr`
+with one changed setting, compiled and linked by nbrc; all menus are in OUT_DIR/menus and share libraries and pictures.
 
 A row of the table:
 
-    file, captions   the page, and the captions of the rows of the property sheets that open it
-    text             what it tells authors
-    settings         heading of a frame: value of `property`, or an object of values
-    with             values that all frames of the page have, beside those of `always`
-    size, page       how large a frame is and what its page holds beside the menu: a class of example.css, a key of PAGES
+    file, captions   the page, and the captions of the property sheet rows that open it
+    text             the explanation on the page
+    settings         for each frame its heading, and the value of `property` or an object of values
+    with             values for all frames of the page, in addition to those of `always`
+    size, page       the size of a frame (a class of example.css) and the other content of its page (a key of PAGES)
 
-Values go by name of property. `menu.`, `submenu.` and `item.` ahead of it name all elements of a kind, the name of an
-element that one alone; without them it is the kind of the group. A name without the digit of a state is all three states.
+Values are given by property name. The prefixes `menu.`, `submenu.` and `item.` select all elements of a kind, the name of
+an element selects that element; without a prefix, the kind of the group is selected. A name without the digit of a state
+means all three states.
 """
 import argparse
 import html
@@ -26,12 +27,12 @@ from pathlib import Path
 
 HERE = Path(__file__).parent
 KINDS = {"menu": "M", "submenu": "S", "item": "I"}
-# What the writer of menu files puts between exclamation marks.
+# Properties that menu files put between exclamation marks.
 MARKED = {"menuname", "SubmenuName", "ItemName1", "ItemName2", "ItemName3", "StatusBarText"}
 
 PAGES = {
     "": "",
-    "light": '<style>body {{ background: #f1f3f5 }}</style>\n',  # where letters stand on the page itself
+    "light": '<style>body {{ background: #f1f3f5 }}</style>\n',  # for text on the page itself
     "long": '<div class="long"><p>Scroll me, down and to the right.</p></div>\n',
     "box": '<div class="box">A box of the page</div>\n',
     "caller": '<p><button type="button" onclick="nbrShowMenu(\'{name}\')">Show menu</button></p>\n<p id="told"></p>\n',
@@ -77,7 +78,7 @@ FIGURE = """<figure class="{size}">
 
 
 class Menu:
-    """The menu that all examples start from, beside its pictures."""
+    """The menu on which all examples are based, with its pictures."""
 
     def __init__(self, nbrc, path):
         self.lines = path.read_bytes().decode("cp1252").split("\r\n")
@@ -85,7 +86,7 @@ class Menu:
         self.elements = json.loads(shown)["elements"]
 
     def text(self, values, kind):
-        """As a menu file, with the values put into elements of the kind where they name no others."""
+        """Returns the menu file with these values. Values without a prefix apply to elements of the kind."""
         lines = list(self.lines)
         elements = {element["key"]: dict(element["properties"]) for element in self.elements}
         for name, value in values.items():
@@ -132,7 +133,7 @@ class Maker:
         subprocess.run([self.nbrc, *words], check=True, stdout=subprocess.DEVNULL)
 
     def add_frame(self, name, title, page, menu_text):
-        """A page in `menus` that shows one menu."""
+        """Makes a page in `menus` that shows one menu."""
         self.source.write_bytes(menu_text.encode("cp1252"))
         script = self.menus / f"{name}.js"
         target = self.menus / f"{name}.html"
@@ -158,13 +159,13 @@ class Maker:
 
 
 def clear(out):
-    """Takes out what an earlier run has made, and nothing else."""
+    """Removes only what an earlier run has made."""
     for folder in [*out.glob("LE_*"), out / "menus"]:
         shutil.rmtree(folder, ignore_errors=True)
 
 
 def with_shared_folders(text):
-    """The menu file with the two lines set that name the folders of all menus."""
+    """Sets the two lines of the menu file that name the shared folders."""
     lines = text.split("\r\n")
     lines[3:5] = ["libraries", "pictures"]
     return "\r\n".join(lines)

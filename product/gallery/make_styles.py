@@ -1,8 +1,8 @@
 #!/usr/bin/python3
 """Makes the styles of the gallery from styles.json: make_styles.py --nbrc PATH --rsvg-convert PATH --home STAGE WORK_DIR
 
-A macro sets each style on a new menu through the property sheets and saves it, so that the program itself writes the
-style file. The arrows are drawn here, in the colours of the texts.
+A macro sets each style on a new menu through the program's property sheets and saves it as an author would, so the
+program itself writes the style file. The arrows are drawn here, in the colours of the style's texts.
 """
 import argparse
 import json
@@ -25,7 +25,7 @@ ARROWS = {
     "triangle": '<path d="M3 1.5 7.5 5 3 8.5z" fill="{0}"/>',
     "chevron": '<path d="m3 1.5 4 3.5-4 3.5" fill="none" stroke="{0}" stroke-width="1.6"/>',
 }
-# Background tiles: side in pixels, and what is drawn over the colour of the menu.
+# Background tiles: side in pixels, and the drawing on the colour of the menu.
 PATTERNS = {
     "grid": (16, '<path d="M0 .5h16M.5 0v16" stroke="{0}"/>'),
     "lines": (4, '<path d="M0 .5h4" stroke="{0}"/>'),
@@ -39,8 +39,8 @@ def styles():
     whole = [table["defaults"] | style for style in table["styles"]]
     for style in whole:
         for kind in (style["border"][0], style["itemBorder"][0]):
-            if kind not in BORDERS:  # the sheet would show the last entry instead
-                raise SystemExit(f"{style['name']}: there is no border style {kind}")
+            if kind not in BORDERS:  # the sheet would replace it silently
+                raise SystemExit(f"{style['name']}: no border is {kind}")
     return whole
 
 
@@ -55,7 +55,7 @@ def picture(name, size, body, converter, folder):
     if not made.exists() or drawing.read_text(encoding="utf-8") != text:
         drawing.write_text(text, encoding="utf-8")
         subprocess.run([converter, "-o", made, drawing], check=True)
-    return str(made).replace("/", "\\")  # document form
+    return str(made).replace("/", "\\")  # the form of paths in sheets
 
 
 def arrow(style, colour, converter, folder):
@@ -80,7 +80,7 @@ def rows_of_sheets(nbrc, home):
 
 
 def macro_of(style, rows, converter, folder):
-    """The statements that give a new menu this look and save it."""
+    """Returns the statements that apply the style to a new menu and save it."""
     menu_rows, item_rows = rows
 
     def edit(row, column, value):
@@ -115,7 +115,7 @@ def main():
     words.add_argument("work", type=Path)
     given = words.parse_args()
     given.work.mkdir(parents=True, exist_ok=True)
-    for style in styles():  # the program asks before it replaces one
+    for style in styles():  # an existing style would bring up a question
         (given.home / "gallery" / (style["name"] + ".nbs")).unlink(missing_ok=True)
     rows = rows_of_sheets(given.nbrc, given.home)
     lines = [line for style in styles() for line in macro_of(style, rows, given.rsvg_convert, given.work.resolve())]

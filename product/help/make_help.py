@@ -1,19 +1,18 @@
 #!/usr/bin/python3
 """Makes the help from its pages: make_help.py OUT_DIR [--qch FILE --generator PATH]
 
-Writes into OUT_DIR an HTML page for each page in `pages`, `index.html`, the style sheet, `topics.json` and the Qt help
-project `nimbrel.qhp`; with --qch also lets Qt's generator compile that. A page has a header of
+Writes to OUT_DIR an HTML page for each page in `pages`, `index.html`, the style sheet and the Qt help project
+`nimbrel.qhp`; with --qch it also runs Qt's generator to compile the project. A page begins with
 
-    title: what it is called
-    topics: NUMBER ANCHOR, a line each: the topics that the program opens by number
-    keywords: WORDS [#ANCHOR], a line each: what the index has beside the headings
+    title: the title of the page
+    topics: NUMBER ANCHOR, one per line: the topics that the program opens by number
+    keywords: WORDS [#ANCHOR], one per line: index entries besides the headings
 
-and links as `page.md`, `page.md#anchor` or `topic:NUMBER`. A link that leads nowhere stops the making. `contents.txt`
-has the order: the parts, and indented below them their pages.
+Links are written `page.md`, `page.md#anchor` or `topic:NUMBER`; a dead link is an error. `contents.txt` has the order
+of the pages: the titles of the parts, each followed by the indented names of its pages.
 """
 import argparse
 import html
-import json
 import re
 import shutil
 import subprocess
@@ -53,9 +52,9 @@ class Page:
     title: str
     topics: dict      # number: anchor
     keywords: list    # (words, anchor or "")
-    sections: list    # (anchor, heading) of the second level
-    headings: dict    # anchor: heading, of all levels
-    body: str         # HTML, with links as in the source
+    sections: list    # (anchor, heading), top level only
+    headings: dict    # anchor: heading, all levels
+    body: str         # HTML, with the links of the source
 
     @property
     def file(self):
@@ -81,13 +80,16 @@ def read_page(path):
     converter = markdown.Markdown(extensions=["meta", "toc", "attr_list", "tables", "def_list", "fenced_code"])
     body = converter.convert(path.read_text(encoding="utf-8"))
     topics = dict(line.split() for line in converter.Meta.get("topics", []))
+    headings = list(flattened(converter.toc_tokens))
+    if len(dict(headings)) < len(headings):
+        raise Fault(f"{path.name}: two headings have the same anchor")
     page = Page(
         name=path.stem,
         title=converter.Meta["title"][0],
         topics={int(number): anchor for number, anchor in topics.items()},
         keywords=[keyword(line) for line in converter.Meta.get("keywords", [])],
         sections=[(token["id"], html.unescape(token["name"])) for token in converter.toc_tokens],
-        headings=dict(flattened(converter.toc_tokens)),
+        headings=dict(headings),
         body=body)
     for anchor in [*page.topics.values(), *(anchor for _, anchor in page.keywords if anchor)]:
         if anchor not in page.headings:
@@ -96,7 +98,7 @@ def read_page(path):
 
 
 def read_contents(path):
-    """The parts in order, as (title, names of pages)."""
+    """Returns the parts in order, as (title, names of pages)."""
     parts = []
     for line in path.read_text(encoding="utf-8").splitlines():
         if line.startswith(" "):
@@ -113,15 +115,17 @@ class Help:
         self.pages = {path.stem: read_page(path) for path in sorted((source / "pages").glob("*.md"))}
         if sorted(self.order) != sorted(self.pages):
             raise Fault(f"contents.txt and pages differ in {set(self.order) ^ set(self.pages)}")
+        if len({page.title for page in self.pages.values()}) < len(self.pages):
+            raise Fault("two pages have the same title")
         self.topics = {}  # number: (page, anchor)
         for page in self.pages.values():
             for number, anchor in page.topics.items():
                 if number in self.topics:
-                    raise Fault(f"{page.name}: topic {number} is told twice")
+                    raise Fault(f"{page.name}: topic {number} is defined twice")
                 self.topics[number] = (page, anchor)
 
     def target(self, link, page):
-        """Where a link of a page leads, as an address in the built help."""
+        """Translates a link of a page to an address in the built help."""
         if link.startswith("topic:"):
             found = self.topics.get(int(link[6:]))
             if found is None:
@@ -173,12 +177,6 @@ def index_text(manual):
     return frame("Nimbrel Help", "Nimbrel Help", "\n".join(lines))
 
 
-def topics_text(manual):
-    topics = {str(number): {"page": f"{page.file}#{anchor}", "title": page.headings[anchor]}
-              for number, (page, anchor) in sorted(manual.topics.items())}
-    return json.dumps(topics, indent=1, ensure_ascii=False) + "\n"
-
-
 def toc_lines(manual):
     yield f'<section title="Nimbrel Help" ref="{INDEX}">'
     for title, names in manual.parts:
@@ -226,7 +224,7 @@ def main():
         made = {page.file: page_text(manual, page) for page in manual.pages.values()}
     except Fault as fault:
         sys.exit(f"make_help: {fault}")
-    made |= {INDEX: index_text(manual), "topics.json": topics_text(manual), "nimbrel.qhp": project_text(manual)}
+    made |= {INDEX: index_text(manual), "nimbrel.qhp": project_text(manual)}
     given.out.mkdir(parents=True, exist_ok=True)
     for name, text in made.items():
         (given.out / name).write_text(text, encoding="utf-8")

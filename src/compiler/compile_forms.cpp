@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "compiler/script_assembly.h"
 #include "platform/settings.h"
 
 namespace nimbrel {
@@ -36,7 +37,7 @@ CompileReport::CompileReport(std::string_view formName, std::string_view frame,
   if (!settings.nbrSubmenusFrame.empty()) submenus_ = layout.submenusPath;
   lblMenuDir.text = folderPath(settings, layout.libraryFolder);
   lblImagesDir.text = folderPath(settings, layout.imageFolder);
-  lblImageName.text = settings.CompiledPath + "\\nbrmenupath.gif";
+  lblImageName.text = settings.CompiledPath + '\\' + std::string(pathImage);
   cmdYes.event = [this] { cmdYes_Click(); };
   cmdNo.event = [this] { Close(); };
   cancelButton = cmdNo.name;

@@ -9,7 +9,7 @@ constexpr int helpTopic = 2650;
 constexpr int foldersGroup = 1;
 constexpr int imagesGroup = 2;
 
-/// A folder is the default one, without a text, or a custom one.
+/// An empty folder name means the default folder.
 void fillFolder(Form& form, Control& standard, Control& custom, Control& box, const std::string& folder) {
   form.setOption(folder.empty() ? standard : custom);
   box.text = folder;
@@ -57,7 +57,7 @@ void frmCompileProperties::fill() {
   chkFrontPage.value = settings_.nbrFrontPageSupport;
 }
 
-/// A tab is left only with good folder names behind it.
+/// The author can leave a tab only if both folder names are valid.
 void frmCompileProperties::TabStrip1_Click() {
   if (!ValidateFolderName(txtLibraryPath) || !ValidateFolderName(txtImagePath)) {
     TabStrip1.selected = {tab_};
@@ -95,7 +95,7 @@ void frmCompileProperties::chkEnableCrossFrame_Click() {
   txtSubmenusFrameOffset.text = on ? "0" : "";
 }
 
-/// kept: the message names the slash too, and the test lets it through, so that a nested folder can be named.
+/// Quirk: the message lists the slash, but the check accepts it, so that nested folders are possible.
 bool frmCompileProperties::ValidateFolderName(const Control& textBox) {
   if (textBox.text.find_first_of("\\:*?\"<>|") == std::string::npos) return true;
   asker_.MsgBox({.title = "Invalid character",
@@ -107,7 +107,7 @@ bool frmCompileProperties::ValidateFolderName(const Control& textBox) {
 
 void frmCompileProperties::cmdOk_Click() {
   if (!ValidateFolderName(txtLibraryPath) || !ValidateFolderName(txtImagePath)) return;
-  state_.IsDirty = true;  // kept: the preview is not told
+  state_.IsDirty = true;  // Quirk: does not mark the preview as outdated
   settings_.nbrLibraryPath = txtLibraryPath.text;
   settings_.nbrImagePath = txtImagePath.text;
   settings_.nbrSubmenusFrame = txtSubmenusFrame.text;

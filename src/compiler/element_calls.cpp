@@ -11,8 +11,7 @@
 namespace nimbrel {
 namespace {
 
-/// One call in the making: its arguments, then the end, are appended to a script that ends in an open
-/// parenthesis.
+/// Appends the arguments of a call, and on destruction its end, to a script that ends in an open parenthesis.
 class Call {
  public:
   explicit Call(std::string& script) : script_(script) {}
@@ -27,7 +26,7 @@ class Call {
   void id(const SharedText& styleId) { constant(styleId); }
   void idOrNull(const SharedText& styleId) { constant(styleId.empty() ? "n" : styleId.view()); }
 
-  /// An image of the element is numbered from 1, in the script from 0.
+  /// Image numbers start at 1 in the elements and at 0 in the script.
   void image(float number) {
     if (number == 0) {
       null();
@@ -52,7 +51,7 @@ class Call {
     }
   }
 
-  /// Code of the author's, whose double quotes become single ones.
+  /// The author's script code, with single quotes in place of double ones.
   void command(const SharedText& value) {
     if (value == notSet) return null();
     std::string& out = next();
@@ -85,7 +84,7 @@ class Call {
   bool hasArguments_ = false;
 };
 
-// The shared runs of arguments, in the order of the runtime's parameters.
+// Arguments that several calls share, in the order of the runtime's parameters.
 
 void titleText(Call& call, const TitledContainer& container, const SharedText& name) {
   call.id(container.ContainerStyleID);
@@ -98,7 +97,7 @@ void titleText(Call& call, const TitledContainer& container, const SharedText& n
   call.text(container.TitleTooltip);
 }
 
-/// `hasImage` is what the form at hand takes for "there is a title image".
+/// The callers differ in how they decide `hasImage`.
 void titleImage(Call& call, const TitledContainer& container, bool hasImage) {
   constexpr std::uint8_t noTitle = 2;
   if (container.DisplayNameAsTitle != noTitle && hasImage) {
@@ -129,7 +128,7 @@ void items(Call& call, const TitledContainer& container, std::uint8_t type) {
   call.command(container.JavascriptOnClose);
 }
 
-/// The text of state 2 or 3; null tells the runtime to keep that of the Normal state.
+/// The text of state 2 or 3. Null makes the runtime use the text of the Normal state.
 void itemName(Call& call, const ItemObj& item, std::uint8_t display, const SharedText& name) {
   if (display != 1) {
     call.text("");
@@ -147,7 +146,7 @@ void appendCall(const Document& document, const Node& node, int level, std::stri
   std::visit([&](const auto& object) { JavascriptInitString(object, level, script); }, *element);
 }
 
-/// A container at level 0 that is not the root of the tree stands as a main menu.
+/// A submenu at level 0 is written as a main menu.
 void appendFirstCall(const Document& document, const Node& container, std::string& script) {
   const auto* submenu = std::get_if<SubmenuObj>(document.element(container));
   if (submenu != nullptr && container.Key != document.tvTreeView.root()->Key) {
@@ -160,7 +159,7 @@ void appendFirstCall(const Document& document, const Node& container, std::strin
 }  // namespace
 
 std::string EscapeEdgeSpaces(std::string_view text) {
-  constexpr std::string_view blank = "&nbsp";  // kept: without its semicolon
+  constexpr std::string_view blank = "&nbsp";  // Quirk: no semicolon
   const auto repeated = [&](std::size_t count) {
     std::string result;
     while (count-- > 0) result += blank;
@@ -168,7 +167,7 @@ std::string EscapeEdgeSpaces(std::string_view text) {
   };
   const auto leading = std::min(text.find_first_not_of(' '), text.size());
   std::string inner(text.substr(leading));
-  // kept: in a text of blanks alone, the blank that stands for the leading ones is taken for a trailing one.
+  // Quirk: if the text is all blanks, this blank is counted as a trailing one.
   if (leading > 0) inner.insert(0, 1, ' ');
   if (inner.empty()) return inner;
   const auto size = inner.find_last_not_of(' ') + 1;
@@ -222,13 +221,13 @@ void JavascriptInitStringMimicMenu(const SubmenuObj& submenu, std::string& scrip
   call.constant("0,1,0,0,0,0");
   call.number(submenu.SubmenuType);
   titleText(call, submenu, submenu.SubmenuName);
-  // kept: this form asks for the property, so that a title image whose file is missing has the number -1.
+  // Quirk: this call tests the property instead of the number, so a title image whose file is missing gets -1.
   titleImage(call, submenu, submenu.TitleImage != notSet);
   items(call, submenu, submenu.SubmenuType);
 }
 
 void JavascriptInitString(const ItemObj& item, int submenuLevel, std::string& script) {
-  // Whether the item has pictures is asked of the properties: one whose file is missing counts.
+  // Tests the properties instead of the numbers: a picture whose file is missing counts too.
   const bool withImages =
       std::ranges::any_of(std::array{&item.ItemImage1, &item.ItemImage2, &item.ItemImage3,
                                      &item.HasSubmenuImage1, &item.HasSubmenuImage2, &item.HasSubmenuImage3},
@@ -263,11 +262,11 @@ void JavascriptInitString(const ItemObj& item, int submenuLevel, std::string& sc
 }
 
 void CollectElementStrings(const Document& document, const Node& container, bool includeSubmenus,
-                           std::string_view behindContainer, std::string& script) {
+                           std::string_view afterContainer, std::string& script) {
   appendFirstCall(document, container, script);
-  if (!behindContainer.empty()) script.append(lineEnd).append(behindContainer);
+  if (!afterContainer.empty()) script.append(lineEnd).append(afterContainer);
 
-  // The next item of each menu that the walk is in; a menu's level is its place here.
+  // The next item of each open menu, by level.
   std::vector<const Node*> nextItems{container.Child()};
   while (!nextItems.empty()) {
     const int level = static_cast<int>(nextItems.size()) - 1;

@@ -8,7 +8,7 @@ namespace nimbrel {
 
 namespace {
 
-/// What is made or met twice is told once.
+/// Each entry is listed once, even if it occurs twice.
 template <class T>
 void addNew(std::vector<T>& list, T entry) {
   if (std::ranges::find(list, entry) == list.end()) list.push_back(std::move(entry));

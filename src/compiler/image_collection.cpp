@@ -4,14 +4,16 @@
 
 namespace nimbrel {
 
+Finding missingPicture(const std::string& picture, const std::string& user) {
+  return {picture, "there is no such picture (used by " + user + ")"};
+}
+
 bool ImageFolder::has(const std::string& picture, const Node& user) {
   const auto [entry, isNew] = known_.try_emplace(picture, false);
   if (isNew) {
     entry->second = steps_.files().isFile(picture);
-    // An empty path names nothing that could be missed.
-    if (!entry->second && !picture.empty()) {
-      steps_.note({picture, "there is no such picture (used by " + user.Key + ")"});
-    }
+    // An empty path means no picture, so nothing is missing.
+    if (!entry->second && !picture.empty()) steps_.note(missingPicture(picture, user.Key));
   }
   return entry->second;
 }
@@ -22,7 +24,7 @@ CImageInfo ImageFolder::take(const std::string& picture) {
     try {
       measured->second = ReadImageInfo(steps_.files().read(picture));
     } catch (const FileError&) {
-      // The copy, which meets the same fault, tells of it; the size stays 0 by 0.
+      // The copy below fails in the same way and reports it; the size stays 0 by 0.
     }
   }
   std::string& source = sources_[std::string(fileName(picture))];
@@ -38,7 +40,7 @@ float ImageCollection::numberOf(std::string_view path, const Node& user) {
   const auto [number, isNew] = numbers_.try_emplace(std::string(path), 0.F);
   if (!isNew || !folder_.has(number->first, user)) return number->second;
 
-  // kept: only the bare name counts, so that of two pictures of one name the first is the one that is shown.
+  // Quirk: pictures are identified by file name alone; of two with the same name, only the first is shown.
   const auto [position, isNewName] =
       positions_.try_emplace(std::string(fileName(path)), ImageNames.size() + 1);
   if (isNewName) {
@@ -51,12 +53,12 @@ float ImageCollection::numberOf(std::string_view path, const Node& user) {
 }
 
 void ImageCollection::CollectImages(Document& document, const Node& top, bool includeSubmenus) {
-  // kept: what tells the main menu from its items is the text of the node, not its key.
+  // Quirk: a node counts as the main menu by its text, not by its key.
   const SharedText textOfRoot = document.tvTreeView.root()->Text;
   for (const Node* node = &top; node != nullptr;) {
     if (Element* element = document.element(*node)) {
       eachImage(*element, [&](const SharedText& path, float& number) {
-        // kept: a picture of the name that stands for "no more" ends the element's slots.
+        // Quirk: a picture with the name of the end marker ends the element's images.
         const bool isLast = path == noMoreImages;
         number = isLast ? 0 : numberOf(path, *node);
         return !isLast;

@@ -7,10 +7,10 @@
 namespace nimbrel {
 namespace {
 
-/// A read past the buffer, or a value that its field cannot hold: the probe ends with what it has.
+/// Thrown on a read past the buffer or a value that does not fit its field; ends the probe.
 struct ProbeEnds : std::exception {};
 
-/// The bytes of a picture with one spare zero byte behind them, read at positions from 0.
+/// The bytes of a picture, followed by one zero byte. Positions start at 0.
 class Buffer {
  public:
   explicit Buffer(std::string_view bytes) : bytes_(bytes) {}
@@ -23,7 +23,7 @@ class Buffer {
     return static_cast<std::uint8_t>(bytes_[static_cast<std::size_t>(position)]);
   }
 
-  // kept: words are signed, so that a size of 32768 or more comes out negative.
+  // Quirk: words are signed, so sizes of 32768 and more become negative.
   std::int16_t LittleWord(std::int64_t p) const { return word(at(p), at(p + 1)); }
   std::int16_t BigWord(std::int64_t p) const { return word(at(p + 1), at(p)); }
   std::int32_t LittleLong(std::int64_t p) const { return longOf(at(p), at(p + 1), at(p + 2), at(p + 3)); }
@@ -57,7 +57,7 @@ void readPng(const Buffer& buffer, CImageInfo& info) {
     case 6: info.Depth = depthOf(buffer.at(bitDepthAt) * 4); break;
     default: info.ImageType = ImageFormat::Unknown; return;
   }
-  // kept: only the low halves of the 32-bit sizes are read.
+  // Quirk: only the low 16 bits of the 32-bit sizes are read.
   info.Width = buffer.BigWord(18);
   info.Height = buffer.BigWord(22);
 }
@@ -83,7 +83,7 @@ void readPcx(const Buffer& buffer, CImageInfo& info) {
   info.Depth = depthOf(buffer.at(65) * buffer.at(3));
 }
 
-/// TIFF in either order of bytes.
+/// Reads TIFF in either byte order.
 class TiffReader {
  public:
   TiffReader(const Buffer& buffer, bool bigEndian) : buffer_(buffer), bigEndian_(bigEndian) {}
@@ -127,12 +127,12 @@ class TiffReader {
   bool bigEndian_;
 };
 
-/// Looks for the frame header, marker by marker. What stands ahead of the first marker is skipped.
+/// Follows the markers to the frame header. Bytes before the first marker are skipped.
 void readJpeg(std::string_view bytes, const Buffer& buffer, CImageInfo& info) {
   const std::int64_t end = buffer.size() - 10;
   const auto start = bytes.find("\xFF\xD8\xFF");
   auto position = start == std::string_view::npos ? end : static_cast<std::int64_t>(start) + 2;
-  // A segment's length may be negative; a scan that comes back to a marker it has seen ends.
+  // A segment's length may be negative, so remember the markers to stop a scan that loops.
   std::unordered_set<std::int64_t> seen;
   while (position < end) {
     while (buffer.at(position) != 0xFF || buffer.at(position + 1) == 0xFF) {
@@ -170,7 +170,7 @@ CImageInfo ReadImageInfo(std::string_view bytes) {
   try {
     probe(bytes, info);
   } catch (const ProbeEnds&) {
-    return info;  // kept: what was set ahead of the end stands
+    return info;  // Quirk: values that were read before the error stay
   }
   return info;
 }

@@ -2,7 +2,7 @@
 
 #include <map>
 
-#include "compiler/image_info.h"
+#include "compiler/image_collection.h"
 #include "text/paths.h"
 
 namespace nimbrel {
@@ -63,7 +63,7 @@ class Inspector {
     if (value.find_first_of("\r\n") != std::string_view::npos)
       say(of + "a line break, which ends the value in the file");
     if (form == FileForm::Raw && value.find(',') != std::string_view::npos) {
-      say(of + "a comma, which shifts the values behind it in the file");
+      say(of + "a comma, which shifts the values after it in the file");
     }
     if (form == FileForm::Raw && value.find('\'') != std::string_view::npos)
       say(of + "a single quote, which breaks the script");
@@ -77,7 +77,7 @@ class Inspector {
     const auto [user, isNew] = users_.try_emplace(picture, key);
     if (!isNew) return;
     if (!files_.isFile(picture)) {
-      findings_.push_back({picture, "there is no such picture (used by " + key + ")"});
+      findings_.push_back(missingPicture(picture, key));
       return;
     }
     try {
@@ -102,8 +102,8 @@ class Inspector {
   const FileSystem& files_;
   const std::string& path_;
   Findings findings_;
-  std::map<std::string, std::string> users_;  // the first element to use a picture, by the picture's path
-  std::map<std::string, std::string> firstOfName_;  // the picture that is shown for a file name
+  std::map<std::string, std::string> users_;        // picture path: key of the first element that uses it
+  std::map<std::string, std::string> firstOfName_;  // file name: path of the picture that is shown for it
 };
 
 }  // namespace

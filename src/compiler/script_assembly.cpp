@@ -12,7 +12,6 @@ namespace nimbrel {
 namespace {
 
 constexpr std::string_view dot = "dot.gif";
-constexpr std::string_view markerImage = "nbrmenupath.gif";
 
 constexpr std::string_view supportTest =
     R"(var nbrSupported=(navigator.appName + navigator.appVersion.substring(0,1)=="Netscape5" || )"
@@ -35,9 +34,10 @@ std::string lastCompileFolder(const CompileSettings& settings) {
   return doubled;
 }
 
-/// Everything that one call of `buildMenu()` builds: pictures, styles, elements. Numbers start anew.
+/// Appends everything that one call of `buildMenu()` builds: pictures, styles, elements. Each group has its own
+/// numbering.
 void appendGroup(Document& document, const Node& container, ImageFolder& folder, bool includeSubmenus,
-                 std::string_view behindContainer, std::string& script) {
+                 std::string_view afterContainer, std::string& script) {
   ImageCollection images(folder);
   images.CollectImages(document, container, includeSubmenus);
   if (const auto table = images.tableLine(); !table.empty()) append(script, table);
@@ -46,11 +46,11 @@ void appendGroup(Document& document, const Node& container, ImageFolder& folder,
   styles.CollectStyles(document, container, includeSubmenus);
   for (const auto& style : styles.StyleStrings()) append(script, style);
 
-  CollectElementStrings(document, container, includeSubmenus, behindContainer, script);
+  CollectElementStrings(document, container, includeSubmenus, afterContainer, script);
   append(script, "s0.pm.buildMenu();");
 }
 
-/// The line that gives the runtime its stacking order, from the main menu.
+/// The line with the main menu's stacking order.
 std::string zIndexLine(const Document& document) {
   const auto first = document.ElementColl.begin();
   const auto* menu = first == document.ElementColl.end() ? nullptr : std::get_if<MenuObj>(&first->second);
@@ -83,9 +83,9 @@ void ScriptMaker::InstallLibraries(const ScriptTarget& target) {
     const auto name = "nbrlib" + std::to_string(i) + ".js";
     copyFromProgram("libraries\\" + name, joinPath(folder, name));
   }
-  // kept: the one-pixel image goes to the library folder, also where the image folder is another.
+  // Quirk: the one-pixel image goes to the library folder even if there is a separate image folder.
   copyFromProgram(dot, joinPath(folder, dot));
-  copyFromProgram(dot, target.basePath + '\\' + std::string(markerImage));
+  copyFromProgram(dot, target.basePath + '\\' + std::string(pathImage));
 }
 
 std::string ScriptMaker::CreateScriptPrologue(const Document& document, const ScriptTarget& target) const {
@@ -105,8 +105,8 @@ std::string ScriptMaker::CreateScriptPrologue(const Document& document, const Sc
   append(head, R"(if (navigator.appName + navigator.appVersion.substring(0,1)=="Netscape5" || )"
                R"(navigator.userAgent.indexOf('Opera')>-1) mpi=document.getElementById('nbrMenuPathImg-)" +
                    target.menuName + "').src;");
-  // 16 is the length of "/nbrmenupath.gif".
-  append(head, "nbrMenuPath=mpi.substring(0,mpi.length-16);");
+  constexpr auto tail = pathImage.size() + 1;  // includes the slash
+  append(head, "nbrMenuPath=mpi.substring(0,mpi.length-" + std::to_string(tail) + ");");
   append(head, overridden("bsc", runtimeChoice));
   append(
       head,
@@ -127,7 +127,7 @@ std::string ScriptMaker::CreateMenuScript(ScriptMode mode, Document& document, c
   std::string script = CreateScriptPrologue(document, target);
   append(script, "var nbrSubmenusFrame='" +
                      (mode == ScriptMode::Compile ? settings.nbrSubmenusFrame : std::string()) + "';");
-  append(script, "var nbrSubmenusFrameOffset;");  // declared only: the submenus file gives the value
+  append(script, "var nbrSubmenusFrameOffset;");  // only declared: the submenus file sets the value
   append(script, optimizeLine(settings));
   if (settings.nbrFrontPageSupport) append(script, "document.write('</table>');");
   if (mode == ScriptMode::Preview) append(script, "var nbrprp='" + lastCompileFolder(settings) + "';");
@@ -143,7 +143,7 @@ std::string ScriptMaker::CreateSubmenusScript(Document& document, const ScriptTa
   std::string list;
   std::string body;
   ImageFolder folder(steps_, target.basePath + '\\' + target.imageFolder);
-  int position = 0;  // over all items, those without a submenu too
+  int position = 0;  // counts items without a submenu too
   for (const Node* item = document.tvTreeView.root()->Child(); item != nullptr; item = item->Next()) {
     ++position;
     if (item->Child() == nullptr) continue;
@@ -160,7 +160,7 @@ std::string ScriptMaker::CreateSubmenusScript(Document& document, const ScriptTa
   append(script, "var nbrSubmenusFrameOffset=" + std::to_string(settings.nbrSubmenusFrameOffset) + ";");
   append(script, optimizeLine(settings));
   append(script, "var " + list + ";");
-  // kept: no line break ahead of the closing braces, and a test that the main file's line does not have.
+  // Quirk: unlike in the main file, the test is on the same line and no line break precedes the braces.
   append(script, "function nbrBuildMenu(){if(nbrSupported){" + body + "}}");
   if (settings.nbrFrontPageSupport) append(script, "if (document.layers) document.write('</table>');");
   return script;

@@ -9,7 +9,7 @@
 namespace nimbrel {
 namespace {
 
-/// The look of one box, as the thirteen arguments of `nbrCreateCSS` need it.
+/// The values from which the arguments of one `nbrCreateCSS` call are made.
 struct Look {
   std::uint8_t alignment;
   const SharedText& fontColor;
@@ -33,7 +33,7 @@ struct Look {
   bool operator==(const Look& other) const { return fields() == other.fields(); }
 };
 
-constexpr std::uint8_t on = 1;  // flags count as on at 1 exactly
+constexpr std::uint8_t on = 1;  // any other value of a flag counts as off
 
 void appendQuoted(std::string& call, std::string_view text) {
   call.append(1, '\'').append(text).append(1, '\'');
@@ -47,7 +47,7 @@ void appendColor(std::string& call, const SharedText& color) {
   }
 }
 
-// kept: here an image counts from above 0 on, in the element calls from unequal to 0 on.
+// Quirk: a negative number is no image here, but counts as one in the element calls.
 void appendImage(std::string& call, float number) {
   if (number > 0) {
     appendGeneral(call, number - 1);
@@ -72,7 +72,7 @@ void appendFont(std::string& call, const Look& look) {
   call += look.underlined == on ? "','underline'" : "',n";
 }
 
-/// kept: no semicolon behind the call of a title or an item; the line end ends it.
+/// Quirk: the calls of titles and items end without a semicolon; the line end terminates them.
 void appendContent(std::string& call, char marker, const Look& look) {
   call.append("nbrCreateCSS(").append(1, marker).append(",2,");
   appendGeneral(call, look.alignment);
@@ -93,7 +93,47 @@ void appendContent(std::string& call, char marker, const Look& look) {
   call += ')';
 }
 
-void appendTitle(std::string& call, const TitledContainer& c) {
+/// The look of an item in one state: 0 Normal, 1 Mouse Over, 2 Mouse Click.
+template <std::size_t state>
+Look lookOf(const ItemObj& item) {
+  using I = ItemObj;
+  const auto of = [&](auto normal, auto mouseOver, auto mouseClick) -> const auto& {
+    return item.*std::array{normal, mouseOver, mouseClick}[state];
+  };
+  // clang-format off
+  return {of(&I::ItemAlignment1,  &I::ItemAlignment2,  &I::ItemAlignment3),
+          of(&I::FontColor1,      &I::FontColor2,      &I::FontColor3),
+          of(&I::BGColor1,        &I::BGColor2,        &I::BGColor3),
+          of(&I::BGImage1No,      &I::BGImage2No,      &I::BGImage3No),
+          of(&I::FontBold1,       &I::FontBold2,       &I::FontBold3),
+          of(&I::FontItalic1,     &I::FontItalic2,     &I::FontItalic3),
+          of(&I::FontUnderlined1, &I::FontUnderlined2, &I::FontUnderlined3),
+          of(&I::FontSize1,       &I::FontSize2,       &I::FontSize3),
+          of(&I::FontFamily1,     &I::FontFamily2,     &I::FontFamily3),
+          of(&I::BorderStyle1,    &I::BorderStyle2,    &I::BorderStyle3),
+          of(&I::BorderWidth1,    &I::BorderWidth2,    &I::BorderWidth3),
+          of(&I::BorderColor1,    &I::BorderColor2,    &I::BorderColor3),
+          of(&I::ItemPadding1,    &I::ItemPadding2,    &I::ItemPadding3),
+          item.ItemCursor};
+  // clang-format on
+}
+
+/// One state of an item: its look, the call for it, and the property that holds the call's number.
+struct State {
+  Look (*look)(const ItemObj&);
+  void (*styleString)(const ItemObj&, std::string&);
+  SharedText ItemObj::*number;
+};
+
+constexpr auto states = std::to_array<State>({
+    {lookOf<0>, ItemStyleString1, &ItemObj::ItemStyleID1},
+    {lookOf<1>, ItemStyleString2, &ItemObj::ItemStyleID2},
+    {lookOf<2>, ItemStyleString3, &ItemObj::ItemStyleID3},
+});
+
+}  // namespace
+
+void TitleStyleString(const TitledContainer& c, std::string& call) {
   if (c.DisplayNameAsTitle == 0 && c.TitleImage == notSet) return;
   constexpr float noImage = 0;
   appendContent(call, '1',
@@ -102,7 +142,7 @@ void appendTitle(std::string& call, const TitledContainer& c) {
                  c.TitleBorderStyle, c.TitleBorderWidth, c.TitleBorderColor, c.TitlePadding, c.TitleCursor});
 }
 
-void appendContainer(std::string& call, const TitledContainer& c) {
+void ContainerStyleString(const TitledContainer& c, std::string& call) {
   call += "nbrCreateCSS(0,1,0,n,";
   appendColor(call, c.BGColor);
   call += ',';
@@ -112,52 +152,14 @@ void appendContainer(std::string& call, const TitledContainer& c) {
   call += ",0,0);";
 }
 
-Look normalLook(const ItemObj& i) {
-  return {i.ItemAlignment1, i.FontColor1,      i.BGColor1,     i.BGImage1No,  i.FontBold1,
-          i.FontItalic1,    i.FontUnderlined1, i.FontSize1,    i.FontFamily1, i.BorderStyle1,
-          i.BorderWidth1,   i.BorderColor1,    i.ItemPadding1, i.ItemCursor};
-}
-
-Look mouseOverLook(const ItemObj& i) {
-  return {i.ItemAlignment2, i.FontColor2,      i.BGColor2,     i.BGImage2No,  i.FontBold2,
-          i.FontItalic2,    i.FontUnderlined2, i.FontSize2,    i.FontFamily2, i.BorderStyle2,
-          i.BorderWidth2,   i.BorderColor2,    i.ItemPadding2, i.ItemCursor};
-}
-
-Look mouseClickLook(const ItemObj& i) {
-  return {i.ItemAlignment3, i.FontColor3,      i.BGColor3,     i.BGImage3No,  i.FontBold3,
-          i.FontItalic3,    i.FontUnderlined3, i.FontSize3,    i.FontFamily3, i.BorderStyle3,
-          i.BorderWidth3,   i.BorderColor3,    i.ItemPadding3, i.ItemCursor};
-}
-
-/// One state of an item: its look, its call, and where the number of that goes.
-struct State {
-  Look (*look)(const ItemObj&);
-  void (*styleString)(const ItemObj&, std::string&);
-  SharedText ItemObj::*number;
-};
-
-constexpr auto states = std::to_array<State>({
-    {normalLook, ItemStyleString1, &ItemObj::ItemStyleID1},
-    {mouseOverLook, ItemStyleString2, &ItemObj::ItemStyleID2},
-    {mouseClickLook, ItemStyleString3, &ItemObj::ItemStyleID3},
-});
-
-}  // namespace
-
-void TitleStyleString(const MenuObj& element, std::string& call) { appendTitle(call, element); }
-void TitleStyleString(const SubmenuObj& element, std::string& call) { appendTitle(call, element); }
-void ContainerStyleString(const MenuObj& element, std::string& call) { appendContainer(call, element); }
-void ContainerStyleString(const SubmenuObj& element, std::string& call) { appendContainer(call, element); }
-
 void ItemStyleString1(const ItemObj& element, std::string& call) {
-  appendContent(call, '1', normalLook(element));
+  appendContent(call, '1', lookOf<0>(element));
 }
 void ItemStyleString2(const ItemObj& element, std::string& call) {
-  appendContent(call, '0', mouseOverLook(element));
+  appendContent(call, '0', lookOf<1>(element));
 }
 void ItemStyleString3(const ItemObj& element, std::string& call) {
-  appendContent(call, '0', mouseClickLook(element));
+  appendContent(call, '0', lookOf<2>(element));
 }
 
 SharedText StyleCollection::GetStyleID(std::string_view styleString) {
@@ -170,15 +172,15 @@ SharedText StyleCollection::GetStyleID(std::string_view styleString) {
 }
 
 void StyleCollection::CollectStyles(Document& document, const Node& container, bool includeSubmenus) {
-  std::string call;  // one buffer for them all
+  std::string call;  // reused for all calls
   const auto numberOf = [&]<class E>(const E& element, void (*styleString)(const E&, std::string&)) {
     call.clear();
     styleString(element, call);
     return GetStyleID(call);
   };
-  const auto numberContainer = [&](auto& container_) {
-    container_.TitleStyleID = numberOf(container_, TitleStyleString);
-    container_.ContainerStyleID = numberOf(container_, ContainerStyleString);
+  const auto numberContainer = [&](TitledContainer& titled) {
+    titled.TitleStyleID = numberOf(titled, TitleStyleString);
+    titled.ContainerStyleID = numberOf(titled, ContainerStyleString);
   };
   std::vector<const Node*> waiting{&container};
   while (!waiting.empty()) {
@@ -187,19 +189,19 @@ void StyleCollection::CollectStyles(Document& document, const Node& container, b
     Element* element = document.element(*node);
     if (auto* menu = std::get_if<MenuObj>(element)) numberContainer(*menu);
     if (auto* submenu = std::get_if<SubmenuObj>(element)) numberContainer(*submenu);
-    const ItemObj* ahead = nullptr;
+    const ItemObj* previous = nullptr;
     for (const Node* child = node->Child(); child != nullptr; child = child->Next()) {
       auto* item = document.get<ItemObj>(*child);
       if (item == nullptr) continue;
       for (const State& state : states) {
-        // Most items look as the one ahead of them, which is seen sooner than their calls are made.
-        const bool looksTheSame = ahead != nullptr && state.look(*item) == state.look(*ahead);
-        item->*state.number = looksTheSame ? ahead->*state.number : numberOf(*item, state.styleString);
+        // Most items look like the previous one, and comparing two looks is faster than making a call.
+        const bool looksTheSame = previous != nullptr && state.look(*item) == state.look(*previous);
+        item->*state.number = looksTheSame ? previous->*state.number : numberOf(*item, state.styleString);
       }
-      ahead = item;
+      previous = item;
     }
     if (!includeSubmenus || node->Child() == nullptr) continue;
-    // The last one first, since the waiting are taken from the end.
+    // In reverse, because `waiting` is a stack.
     for (const Node* child = node->Child()->LastSibling(); child != nullptr; child = child->Previous()) {
       if (child->Child() != nullptr) waiting.push_back(child->Child());
     }

@@ -12,7 +12,7 @@ namespace nimbrel {
 namespace {
 
 constexpr std::string_view linkCaption = "Link Compiled Menu to Web Page(s)";
-constexpr std::string_view secondPass = "qqqqq";  // marks the second of two passes, and nothing else
+constexpr std::string_view secondPass = "qqqqq";  // only marks the second of two passes
 constexpr int helpTopic = 1700;
 constexpr int altUrlTopic = 1900;
 constexpr int olderVersionTopic = 2400;
@@ -112,7 +112,7 @@ void frmInsertIntoWebPage1::cmdLink_Click() {
   }
 }
 
-/// The pages that stayed as they were, in one box.
+/// Lists the pages that were not changed in one message box.
 void frmInsertIntoWebPage1::reportUnlinked(const Findings& findings) {
   if (findings.empty()) return;
   MessageBox box{.title = std::string(linkCaption),

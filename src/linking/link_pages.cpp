@@ -8,8 +8,8 @@ namespace nimbrel {
 
 namespace {
 
-/// Pages that are written before the disk is waited for: enough to make the wait short, and few enough for
-/// the memory and the number of open files.
+// Pages are flushed to disk in batches: large enough to make the waits few, small enough to limit memory and the
+// number of open files.
 constexpr std::size_t batchSize = 128;
 constexpr std::size_t batchBytes = std::size_t{16} << 20;
 

@@ -23,7 +23,7 @@ LinkNames::LinkNames(std::string_view pagePath, std::string_view compiledPath)
       folder(PathFolder(relativePath)),
       menu(PathFileName(relativePath)) {
   if (folder.empty()) folder = ".";
-  // kept: cut by length, so that "menu.html" is the menu "menu.h".
+  // Quirk: removes three characters whatever they are, so "menu.html" becomes "menu.h".
   constexpr std::size_t extensionSize = 3;
   menu.resize(menu.size() - std::min(menu.size(), extensionSize));
 }
@@ -37,7 +37,7 @@ std::string endMarker(std::string_view menu) {
 }
 
 std::string BuildLinkSnippet(const LinkNames& names, std::string_view altUrl) {
-  // kept: `nbrAltUrl` stands behind a semicolon, so it is assigned and not declared as the two ahead of it.
+  // Quirk: a semicolon precedes `nbrAltUrl`, so unlike the two variables before it, it is not declared.
   std::string lines = joined({
       "\r\n<img name='nbrMenuPathImg-",
       names.menu,

@@ -9,24 +9,24 @@ namespace {
 
 constexpr auto npos = PageText::npos;
 
-enum class Behind { Keep, LineEnd, CharacterAndLineEnd };
+/// What is removed together with the link code before it.
+enum class Trailing { Nothing, LineEnd, CharacterAndLineEnd };
 
-/// Link code as an earlier release wrote it: its first and last text (none: the first is all of it), and what
-/// goes with it of what follows.
+/// A kind of link code that an earlier release wrote. An empty `end` means that `start` is the whole code.
 struct Form {
   std::string_view start;
   std::string_view end;
-  Behind behind;
+  Trailing trailing;
 };
 
 // clang-format off
-constexpr Form nbr110Code{"<!-0-nbr110startshere---", "nbr110endshere--->", Behind::Keep};
-constexpr Form nbr110hCode{"<!-0-nbr110hstartshere---", "nbr110hendshere--->", Behind::Keep};
-constexpr Form createdScript{"<SCRIPT>var MenuCreatedBy='Nimbrel", "nbrBuildMenu();</SCRIPT>", Behind::LineEnd};
-constexpr Form refreshTag{"<NOSCRIPT><META HTTP-EQUIV=\"refresh\"", "\"></NOSCRIPT>", Behind::LineEnd};
-constexpr Form pathImage{"<IMG NAME='nbrMenuPathImg'", "nbrmenupath.gif' WIDTH=1 HEIGHT=1>", Behind::CharacterAndLineEnd};
-constexpr Form pageBegin{"<!---------- BEGIN NIMBREL CODE ---------->", "", Behind::LineEnd};
-constexpr Form pageEnd{"<!----------- END NIMBREL CODE ----------->", "", Behind::LineEnd};
+constexpr Form nbr110Code{"<!-0-nbr110startshere---", "nbr110endshere--->", Trailing::Nothing};
+constexpr Form nbr110hCode{"<!-0-nbr110hstartshere---", "nbr110hendshere--->", Trailing::Nothing};
+constexpr Form createdScript{"<SCRIPT>var MenuCreatedBy='Nimbrel", "nbrBuildMenu();</SCRIPT>", Trailing::LineEnd};
+constexpr Form refreshTag{"<NOSCRIPT><META HTTP-EQUIV=\"refresh\"", "\"></NOSCRIPT>", Trailing::LineEnd};
+constexpr Form pathImage{"<IMG NAME='nbrMenuPathImg'", "nbrmenupath.gif' WIDTH=1 HEIGHT=1>", Trailing::CharacterAndLineEnd};
+constexpr Form pageBegin{"<!---------- BEGIN NIMBREL CODE ---------->", "", Trailing::LineEnd};
+constexpr Form pageEnd{"<!----------- END NIMBREL CODE ----------->", "", Trailing::LineEnd};
 // clang-format on
 
 enum class Outcome { NoStart, NoEnd, Removed };
@@ -35,8 +35,8 @@ void removeWithLineEnd(PageText& page, std::size_t begin, std::size_t end) {
   page.remove(begin, page.hasLineEndAt(end) ? end + 2 : end);
 }
 
-/// Removes the first code of the form that starts at `from` or behind it.
-/// kept: a page that carries a form twice keeps the second.
+/// Removes the first code of this form that starts at `from` or later.
+/// Quirk: if a page contains the form twice, the second one stays.
 Outcome removeForm(PageText& page, const Form& form, std::size_t from = 0) {
   const auto begin = page.find(form.start, from);
   if (begin == npos) return Outcome::NoStart;
@@ -44,9 +44,9 @@ Outcome removeForm(PageText& page, const Form& form, std::size_t from = 0) {
   auto end = page.find(last, begin);
   if (end == npos) return Outcome::NoEnd;
   end += last.size();
-  // kept: one character goes unseen. Where it is the CR of a line end, the LF stays and is an empty line.
-  if (form.behind == Behind::CharacterAndLineEnd) end = std::min(end + 1, page.text().size());
-  if (form.behind == Behind::Keep) {
+  // Quirk: one more character is removed, whatever it is. If it is a CR, the LF stays and makes an empty line.
+  if (form.trailing == Trailing::CharacterAndLineEnd) end = std::min(end + 1, page.text().size());
+  if (form.trailing == Trailing::Nothing) {
     page.remove(begin, end);
   } else {
     removeWithLineEnd(page, begin, end);
@@ -54,8 +54,8 @@ Outcome removeForm(PageText& page, const Form& form, std::size_t from = 0) {
   return Outcome::Removed;
 }
 
-/// The script with the refresh tag and the path image that belong to it; without the script they stay.
-/// False if one of the two has no end.
+/// Removes the script with its refresh tag and path image, or nothing if there is no script. Returns false if the
+/// tag or the image has no end.
 bool removeScriptGroup(PageText& page) {
   const auto script = page.find(createdScript.start);
   if (script == npos || removeForm(page, createdScript, script) != Outcome::Removed) return true;
@@ -63,12 +63,12 @@ bool removeScriptGroup(PageText& page) {
          removeForm(page, pathImage) != Outcome::NoEnd;
 }
 
-/// Removes the code of the menu from its path image through its last script; false if it is not whole.
+/// Removes the menu's code from its path image through its last script. Returns false if the code is incomplete.
 bool removeMenuCode(PageText& page, std::string_view menu) {
-  // kept: what follows the name is not looked at, so that "nav" also finds the code of "nav2".
+  // Quirk: matches a prefix of the name, so "nav" also finds the code of "nav2".
   const auto image = page.find(std::string("nbrMenuPathImg-").append(menu));
   if (image == npos || image == 0) return false;
-  // kept: a tag that begins with the first or second character of the page is not seen.
+  // Quirk: a tag that begins at the first or second character of the page is not found.
   const auto begin = page.text().rfind('<', image - 1);
   if (begin == npos || begin < 2) return false;
 
@@ -77,7 +77,7 @@ bool removeMenuCode(PageText& page, std::string_view menu) {
   if (build == npos) return false;
   const auto end = page.find(scriptEnd, build);
   if (end == npos) return false;
-  // kept: the refresh tag of an alternative address stands behind that and stays.
+  // Quirk: the refresh tag of an alternative address follows and stays.
   removeWithLineEnd(page, begin, end + scriptEnd.size());
   return true;
 }
@@ -87,7 +87,7 @@ bool removeMenuCode(PageText& page, std::string_view menu) {
 void RemoveOlderLinkBlocks(PageText& page) {
   removeForm(page, nbr110Code);
   removeForm(page, nbr110hCode);
-  // kept: a refresh tag or path image without its end saves all that would be removed behind it.
+  // Quirk: after a refresh tag or path image without an end, nothing else is removed.
   if (!removeScriptGroup(page)) return;
   removeForm(page, pageBegin);
   removeForm(page, pageEnd);
@@ -98,7 +98,7 @@ void RemoveCurrentLinkBlock(PageText& page, std::string_view menu) {
   const auto begin = beginMarker(menu);
   if (const auto place = page.find(begin); place != npos)
     removeWithLineEnd(page, place, place + begin.size());
-  // kept: the line end behind the end marker stays, an empty line for each time that a page is linked anew.
+  // Quirk: the line end after the end marker stays, so each relinking adds an empty line.
   const auto end = endMarker(menu);
   if (const auto place = page.find(end); place != npos) page.remove(place, place + end.size());
 }
@@ -107,7 +107,7 @@ void InsertLinkBlock(PageText& page, std::string_view pagePath, const LinkNames&
                      std::string_view altUrl) {
   auto block = beginMarker(names.menu) + BuildLinkSnippet(names, altUrl) + endMarker(names.menu) + "\r\n";
   auto place = page.find("</BODY>");
-  // kept: ".LBI" is no library item.
+  // Quirk: only the lower-case extension marks a library item.
   if (place == npos && !pagePath.ends_with(".lbi")) {
     block = std::string("<body>\r\n") + block + "\r\n</body>";
     place = page.find("</HTML>");

@@ -7,8 +7,8 @@
 namespace nimbrel {
 namespace {
 
-/// Bytes that are looked at together. The loops over them have no way out but their end, so that the compiler
-/// makes vector instructions of them: searching is what linking a page spends its time on.
+/// Linking spends most of its time searching. The loops over one block have no early exit, so that the compiler can
+/// vectorise them.
 constexpr std::size_t blockSize = 256;
 
 /// Whether each CR is followed by an LF and each LF preceded by a CR.
@@ -28,7 +28,7 @@ bool hasCrLfAlone(std::string_view bytes) {
   return c == last;
 }
 
-/// A byte to look for at an offset, its case ignored if it is a letter.
+/// Compares the byte at an offset, ignoring the case of letters.
 struct Probe {
   Probe(std::string_view wanted, std::size_t at)
       : offset(at), low(toLower(wanted[at])), caseBit(low >= 'a' && low <= 'z' ? 'a' ^ 'A' : 0) {}
@@ -40,23 +40,24 @@ struct Probe {
   char caseBit;
 };
 
-bool standsAt(std::string_view text, std::size_t place, std::string_view wanted) {
+bool matchesAt(std::string_view text, std::size_t place, std::string_view wanted) {
   return equalIgnoringCase(text.substr(place, wanted.size()), wanted);
 }
 
-/// Looks for text that begins with "<!". The exclamation mark is rare in pages, and a single byte is what the
-/// standard library finds fastest.
+/// Finds text that begins with "<!". The exclamation mark is rare in pages, and searching for a single byte is
+/// fastest.
 std::size_t findComment(std::string_view text, std::string_view wanted, std::size_t from) {
   auto mark = text.find('!', from + 1);
-  while (mark != std::string_view::npos && !standsAt(text, mark - 1, wanted)) mark = text.find('!', mark + 1);
+  while (mark != std::string_view::npos && !matchesAt(text, mark - 1, wanted))
+    mark = text.find('!', mark + 1);
   return mark == std::string_view::npos ? mark : mark - 1;
 }
 
-/// Looks for any text by its first, middle and last byte, which are seldom met together elsewhere.
+/// Finds text by its first, middle and last byte, which rarely match together elsewhere.
 std::size_t findByProbes(std::string_view text, std::string_view wanted, std::size_t from) {
   if (wanted.size() > text.size()) return std::string_view::npos;
   const Probe first(wanted, 0), middle(wanted, wanted.size() / 2), last(wanted, wanted.size() - 1);
-  const auto mayStandAt = [=](const char* start) -> unsigned char {
+  const auto mayMatchAt = [=](const char* start) -> unsigned char {
     return first.matches(start) & middle.matches(start) & last.matches(start);
   };
 
@@ -64,11 +65,11 @@ std::size_t findByProbes(std::string_view text, std::string_view wanted, std::si
   for (std::size_t block = from; block < end; block += blockSize) {
     if (end - block >= blockSize) {
       unsigned char any = 0;
-      for (std::size_t i = 0; i < blockSize; ++i) any |= mayStandAt(text.data() + block + i);
+      for (std::size_t i = 0; i < blockSize; ++i) any |= mayMatchAt(text.data() + block + i);
       if (any == 0) continue;
     }
     for (std::size_t place = block; place < std::min(block + blockSize, end); ++place) {
-      if (mayStandAt(text.data() + place) != 0 && standsAt(text, place, wanted)) return place;
+      if (mayMatchAt(text.data() + place) != 0 && matchesAt(text, place, wanted)) return place;
     }
   }
   return std::string_view::npos;
@@ -88,7 +89,7 @@ std::string withCrLf(std::string bytes) {
     const std::size_t end = std::min(cr, lf);
     result.append(bytes, done, end - done) += "\r\n";
     done = end + (end == cr && lf == cr + 1 ? 2 : 1);
-    // Each is looked for anew only when it has been passed, so that all is read once.
+    // Search again only for what has been passed, so that the text is scanned once.
     if (cr < done) cr = bytes.find('\r', done);
     if (lf < done) lf = bytes.find('\n', done);
   }

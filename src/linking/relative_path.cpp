@@ -7,7 +7,7 @@
 namespace nimbrel {
 namespace {
 
-/// The parts between backslashes, of which there is always one.
+/// Splits at backslashes. The result has at least one part.
 std::vector<std::string_view> partsOf(std::string_view path) {
   std::vector<std::string_view> parts;
   for (auto slash = path.find('\\'); slash != std::string_view::npos; slash = path.find('\\')) {
@@ -25,7 +25,7 @@ std::string RelativePath(std::string_view page, std::string_view target) {
   const auto targetParts = partsOf(target);
   if (pageParts.front() != targetParts.front()) return std::string(target);
 
-  // The shorter path's last part is never shared, so that equal paths give the file name.
+  // The last part of the shorter path never counts as shared, so equal paths give the file name.
   const std::size_t last = std::min(pageParts.size(), targetParts.size()) - 1;
   std::size_t shared = 0;
   while (shared < last && pageParts[shared] == targetParts[shared]) ++shared;

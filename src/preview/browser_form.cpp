@@ -31,7 +31,7 @@ void frmBrowser::Show() {
   state_.isPreviewWindowLoaded = true;
 }
 
-/// The window hides, whatever is asked: its owner closes it for good at the end.
+/// Only hides the window; the main window closes it when the program ends.
 void frmBrowser::QueryClose() { Close(); }
 
 void frmBrowser::RefreshPreview() {
@@ -49,7 +49,7 @@ void frmBrowser::SetOutdated() {
   lblOutdated.visible = true;
 }
 
-/// kept: writing the page shows it already, so that the browser is sent there twice.
+/// Quirk: creating the page already shows it, so the browser loads it twice.
 void frmBrowser::btnRefreshPreview_Click() {
   CreatePreviewFile_();
   RefreshPreview();
@@ -63,7 +63,7 @@ void frmBrowser::chkBlackPreview_Click() {
 
 void frmBrowser::brwWebBrowser_DocumentComplete() { Timer1.value = true; }
 
-/// Once for each page: the browser holds what it has loaded.
+/// Removes the preview's files once; the browser has loaded them.
 void frmBrowser::Timer1_Timer() {
   Timer1.value = false;
   StepReport report;

@@ -10,8 +10,8 @@ constexpr const char* dataFolder = "nbrData";
 
 std::string previewFolder(const std::string& programFolder) { return programFolder + "\\preview"; }
 
-/// Tells the author of a popup menu how to make it appear. kept: the property's name stands once with
-/// entities and once as raw text.
+/// The text that tells the author of a popup menu how to open it.
+/// Quirk: the property's name is written once with entities and once as raw text.
 std::string popupNotice(bool BlackPreview) {
   const std::string colour = BlackPreview ? "#ffffff" : "#000000";
   return "<font color=\"" + colour +
@@ -35,7 +35,7 @@ std::string pageText(bool isPopup, bool BlackPreview) {
       "<script>var nbrAltUrl='';</script>\r\n"
       "<script src='./preview.js' language='JavaScript1.2' type='text/javascript'></script>\r\n"
       "<script>nbrBuildMenu();</script>\r\n";
-  // Two lines of seventeen breaks, so that the page can scroll.
+  // Makes the page long enough to scroll.
   constexpr int lines = 2;
   constexpr int breaks = 17;
   for (int line = 0; line < lines; ++line) {

@@ -9,7 +9,7 @@ namespace {
 
 struct CompilePropertiesForm : testing::Test, ScriptedPorts {};
 
-TEST_F(CompilePropertiesForm, GivesOutWhatWasEnteredUnlessItIsCancelled) {
+TEST_F(CompilePropertiesForm, StoresTheEntriesUnlessCancelled) {
   ProgramState state;
   CompileSettings options;
   options.nbrSubmenusFrame = "content";
@@ -19,7 +19,7 @@ TEST_F(CompilePropertiesForm, GivesOutWhatWasEnteredUnlessItIsCancelled) {
   for (const bool cancelled : {true, false}) {
     frmCompileProperties form(asker, *this, state, options);
     form.click(form.Option2);
-    form.enter(form.txtLibraryPath, "a/b");  // kept: a slash passes
+    form.enter(form.txtLibraryPath, "a/b");  // Quirk: a slash is accepted
     form.click(form.Option3);
     form.check(form.chkEnableCrossFrame, false);
     form.click(cancelled ? form.cmdCancel : form.cmdOk);

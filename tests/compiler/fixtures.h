@@ -10,7 +10,7 @@
 
 namespace nimbrel {
 
-/// Zero bytes with others put in at their places, as the heads of picture files are made.
+/// Zero bytes, with `parts` written at their offsets. Makes headers of picture files.
 inline std::string picture(std::size_t size,
                            std::initializer_list<std::pair<std::size_t, std::string_view>> parts) {
   std::string bytes(size, '\0');

@@ -25,7 +25,7 @@ class ScriptAssembly : public testing::Test {
   ScriptTarget target{"C:\\site", "lib", "img", "menu1"};
 };
 
-TEST_F(ScriptAssembly, TheGalleryRenewsOnlyTheDot) {
+TEST_F(ScriptAssembly, GalleryCopiesOnlyTheDot) {
   files.files = {{"C:\\program\\dot.gif", "dot"}, {"C:\\program\\libraries\\nbrlib0.js", "new"}};
   files.folders = {"C:\\site\\lib"};
   auto document = menuWithTwoSubmenus();
@@ -33,17 +33,17 @@ TEST_F(ScriptAssembly, TheGalleryRenewsOnlyTheDot) {
   EXPECT_THAT(report.made, testing::ElementsAre("C:\\site\\lib\\dot.gif"));
 }
 
-TEST_F(ScriptAssembly, TheProgramsFolderCanReplaceTwoLines) {
+TEST_F(ScriptAssembly, FilesInTheProgramFolderReplaceTwoLines) {
   auto document = menuWithTwoSubmenus();
   files.files = {{"C:\\program\\auc", "var nbrSupported=1;\n"}, {"C:\\program\\bsc", ""}};
   for (const auto& script : {menuScript(ScriptMode::Gallery, document), submenusScript(document)}) {
-    // As they stand, with a line end of our own behind them.
+    // Unchanged, followed by a line end.
     EXPECT_THAT(script, HasSubstr("';\r\nvar nbrSupported=1;\n\r\nif (nbrAltUrl!=''"));
     EXPECT_THAT(script, HasSubstr("mpi.length-16);\r\n\r\ndocument.write("));
   }
 }
 
-TEST_F(ScriptAssembly, ToleratesTheDeepestDocument) {
+TEST_F(ScriptAssembly, CompilesVeryDeepDocuments) {
   Document document;
   Node* container = &AddMainMenu(document);
   const auto add = [&document](Node& parent, const std::string& key, const Element& element) {

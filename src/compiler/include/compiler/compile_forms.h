@@ -11,7 +11,7 @@
 /// The dialogs around a compile.
 namespace nimbrel {
 
-/// Reminds the author, ahead of a compile, of where the compiled menu belongs.
+/// Reminds the author before a compile where the compiled menu belongs.
 class frmCompileMenuWarning : public Form {
  public:
   frmCompileMenuWarning(SettingsStore& settings, HelpSystem& help);
@@ -29,10 +29,10 @@ class frmCompileMenuWarning : public Form {
   SettingsStore& settings_;
 };
 
-/// Where linking starts: the compiled menu, and the submenus file or nothing.
+/// Starts linking the compiled menu. `submenus` is the submenus file, or empty.
 using StartLinking = std::function<void(std::string_view menu, std::string_view submenus)>;
 
-/// What stands in both reports of a compile.
+/// The part that both reports of a compile share.
 class CompileReport : public Form {
  public:
   void cmdYes_Click();

@@ -9,8 +9,8 @@
 
 namespace nimbrel {
 
-/// The settings of the document that steer its compile, on four tabs. OK writes them and marks the document
-/// dirty; Cancel changes nothing.
+/// The document's compile settings, on four tabs. OK stores them and marks the document dirty; Cancel changes
+/// nothing.
 class frmCompileProperties : public Form {
  public:
   frmCompileProperties(Asker& asker, HelpSystem& help, ProgramState& state, CompileSettings& settings);
@@ -87,7 +87,7 @@ class frmCompileProperties : public Form {
   void showTab();
   bool ValidateFolderName(const Control& textBox);
 
-  std::size_t tab_ = 0;  ///< in front
+  std::size_t tab_ = 0;  ///< the current tab
   Asker& asker_;
   ProgramState& state_;
   CompileSettings& settings_;

@@ -8,13 +8,13 @@
 
 namespace nimbrel {
 
-/// What a run of file steps made, by path, and what it met on the way.
+/// The paths that a run of file steps created, and the findings of the steps that failed.
 struct StepReport {
   std::vector<std::string> made;
   Findings findings;
 };
 
-/// File operations that go on without the ones that fail: a failure becomes a finding.
+/// File operations that do not throw: a failure becomes a finding.
 class FileSteps {
  public:
   FileSteps(FileSystem& files, StepReport& report) : files_(files), report_(report) {}

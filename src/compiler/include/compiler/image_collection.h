@@ -12,15 +12,18 @@
 
 namespace nimbrel {
 
-/// The image folder of one compile: looks at each picture once and copies it there under its own name.
+/// The finding for a picture file that does not exist. `user` is the key of the element that uses it.
+Finding missingPicture(const std::string& picture, const std::string& user);
+
+/// The image folder of one compile. Reads each picture once and copies it to the folder under its own name.
 class ImageFolder {
  public:
   ImageFolder(FileSteps& steps, std::string path) : steps_(steps), path_(std::move(path)) {}
 
-  /// Whether there is a picture. The first time there is none, that is noted for the element that uses it.
+  /// Whether the picture file exists. A missing file is reported once, with its first user.
   bool has(const std::string& picture, const Node& user);
 
-  /// Copies the picture into the folder and tells its size.
+  /// Copies the picture into the folder and returns its size.
   CImageInfo take(const std::string& picture);
 
  private:
@@ -28,8 +31,7 @@ class ImageFolder {
   std::string path_;
   std::unordered_map<std::string, bool> known_;
   std::unordered_map<std::string, CImageInfo> measured_;
-  std::unordered_map<std::string, std::string>
-      sources_;  // by the name under which a picture lies in the folder
+  std::unordered_map<std::string, std::string> sources_;  // by file name in the folder
 };
 
 /// The distinct pictures of one script, in the order of their first use.
@@ -37,9 +39,9 @@ class ImageCollection {
  public:
   explicit ImageCollection(ImageFolder& folder) : folder_(folder) {}
 
-  /// Walks a node depth first, an element ahead of its children, and gives each picture in the elements its
-  /// number, from 1; 0 where there is none. Without submenus the walk goes from the main menu to its items,
-  /// and below an item only where that bears the very text of the main menu.
+  /// Walks the tree from `top` in depth-first preorder and numbers the pictures of each element from 1; an empty
+  /// slot gets 0. Without submenus the walk stops at the main menu's items, except that it enters items whose text
+  /// equals that of the main menu.
   void CollectImages(Document& document, const Node& top, bool includeSubmenus);
 
   /// The "nbrImagesColl" line, without a line end; empty if there is no picture.

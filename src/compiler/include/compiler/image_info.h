@@ -7,19 +7,19 @@ namespace nimbrel {
 
 enum class ImageFormat : std::int32_t { Unknown = 0, Gif = 1, Jpeg = 2, Png = 3, Bmp = 4, Pcx = 5, Tiff = 6 };
 
-/// What the header of a picture file says. Of a file that is cut off it holds what was found ahead of the
-/// cut; of one of no known format the size is 0 by 0.
+/// The header data of a picture file. For a truncated file it holds the values found before the end; for an
+/// unknown format the size is 0 by 0.
 struct CImageInfo {
   std::int32_t Width = 0;   ///< pixels
   std::int32_t Height = 0;  ///< pixels
-  std::uint8_t Depth = 0;   ///< bits a pixel
+  std::uint8_t Depth = 0;   ///< bits per pixel
   ImageFormat ImageType = ImageFormat::Unknown;
   std::int32_t FileSize = 0;  ///< bytes
 
   bool operator==(const CImageInfo&) const = default;
 };
 
-/// Probes the bytes of a whole file. Any bytes will do.
+/// Probes the bytes of a whole file. Accepts any bytes.
 CImageInfo ReadImageInfo(std::string_view bytes);
 
 }  // namespace nimbrel

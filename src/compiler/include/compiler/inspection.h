@@ -7,9 +7,9 @@
 
 namespace nimbrel {
 
-/// All in a document that would disappoint in the page or be lost in the file: broken nesting, values that
-/// break the line or the script they stand in, pictures that are missing, of no known format, or of one name.
-/// `path` is the document's, for what is said of the document itself.
+/// Finds what would fail in the page or get lost in the file: broken nesting, values that break their line or
+/// the script, and pictures that are missing, of unknown format, or share a file name.
+/// `path` is the document's path, for findings that concern the document itself.
 Findings inspect(const Document& document, const FileSystem& files, const std::string& path);
 
 }  // namespace nimbrel

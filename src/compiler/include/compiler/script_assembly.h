@@ -2,21 +2,25 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "compiler/file_steps.h"
 #include "model/document.h"
 
-/// The text of a compiled menu, from the first line to the last, and the files that it needs beside it. The
-/// elements take the numbers of their pictures and styles on the way.
+/// The whole text of a compiled menu, and the files that it needs. Making a script stores the numbers of pictures
+/// and styles in the elements.
 namespace nimbrel {
+
+/// The image from whose address the script learns its own folder.
+inline constexpr std::string_view pathImage = "nbrmenupath.gif";
 
 enum class ScriptMode : std::uint8_t {
   Compile = 0,
-  Preview = 1,  ///< one file, whatever the submenus' frame; tells the page where the last compile went
-  Gallery = 2,  ///< the same on a sample document, in a folder that holds its libraries already
+  Preview = 1,  ///< one file, even with a submenus' frame; contains the folder of the last compile
+  Gallery = 2,  ///< a preview of a sample document, in a folder that already holds the libraries
 };
 
-/// Where a script goes. Folders are relative to `basePath`.
+/// The destination of a script. Folders are relative to `basePath`.
 struct ScriptTarget {
   std::string basePath;
   std::string libraryFolder;
@@ -24,19 +28,20 @@ struct ScriptTarget {
   std::string menuName;
 };
 
-/// Makes scripts with what lies in the program's folder: `libraries`, `dot.gif`, and the optional `auc` and
-/// `bsc`, whose bytes replace the support test and the choice of the runtime.
+/// Makes scripts with files from the program's folder: `libraries`, `dot.gif`, and the optional `auc` and `bsc`,
+/// whose bytes replace the browser test and the line that selects the library.
 class ScriptMaker {
  public:
   ScriptMaker(FileSteps& steps, std::string programFolder)
       : steps_(steps), programFolder_(std::move(programFolder)) {}
 
-  /// Lines parted by CR LF, none behind the last. Without submenus it is the main file of a cross-frame menu.
+  /// Returns lines separated by CR LF, with none at the end. Without submenus it makes the main file of a
+  /// cross-frame menu.
   std::string CreateMenuScript(ScriptMode mode, Document& document, const ScriptTarget& target,
                                bool includeSubmenus);
 
-  /// The cross-frame submenus file: each submenu of the main menu's items as a menu of its own. Empty if
-  /// there is none.
+  /// Returns the cross-frame submenus file, with each submenu of the main menu's items as a separate menu; empty
+  /// if there is no submenu.
   std::string CreateSubmenusScript(Document& document, const ScriptTarget& target);
 
  private:

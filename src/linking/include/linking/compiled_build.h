@@ -6,14 +6,14 @@
 
 namespace nimbrel {
 
-/// Menus of an older build lack what linked pages call.
+/// Menus of older builds lack functions that linked pages call.
 inline constexpr int oldestLinkableBuild = 400;
 
-/// The number of the build that made the compiled file of these bytes: the digits behind the first "#" of its
-/// first value, four at most, none for 0. Without a "#", as in any foreign script, it is 200.
+/// Returns the number of the build that made a compiled file: up to four digits after the first "#" of its first
+/// value, or 0 if there is no digit. A file without a "#", such as a foreign script, counts as build 200.
 int compiledBuild(std::string_view bytes);
 
-/// Why the compiled file of these bytes cannot be linked; none if it can.
+/// Returns why a compiled file with these bytes cannot be linked, or nullptr if it can.
 const Message* refusalOfCompiledMenu(std::string_view bytes);
 
 }  // namespace nimbrel

@@ -8,16 +8,16 @@
 #include "platform/form.h"
 #include "platform/ports.h"
 
-/// The author's way through linking: say which compiled menu, choose the pages, link, look at them. It works
-/// from compiled files, whatever document is open.
+/// The dialogs of linking: choose the compiled menu, choose the pages, link, preview them. They work from compiled
+/// files; the open document does not matter.
 namespace nimbrel {
 
-/// Chooses the pages and links one compiled file to them. A menu with submenus in another frame takes two such
-/// forms, one after the other; nothing but the captions goes from one to the next.
+/// Chooses the pages and links one compiled file to them. A menu with submenus in another frame needs two of these
+/// forms, one after the other, for its two files.
 class frmInsertIntoWebPage1 : public Form {
  public:
-  /// `LastWebPageDir` is where the last one was, and is kept up to date. `submenus` is the second file of a
-  /// menu of two, empty for a menu of one file.
+  /// `LastWebPageDir` is the folder to open; it is updated when the author changes the folder. `submenus` is the
+  /// second file of a cross-frame menu, or empty.
   frmInsertIntoWebPage1(Ports& ports, std::string& LastWebPageDir, std::string_view compiled,
                         std::string_view submenus);
 
@@ -36,8 +36,7 @@ class frmInsertIntoWebPage1 : public Form {
   Control label3{*this, "Label3", ControlKind::Label,
                  "The compiled menu will be linked to all pages selected here:"};
   Control lblMenuDestination{*this, "lblMenuDestination", ControlKind::Label};
-  /// The state of the workflow: empty for a menu of one file, the path of the second file in the first of two
-  /// passes, a mark in the second.
+  /// Empty for a menu of one file; the path of the second file in the first of two passes; a marker in the second.
   Control lblSubmenusDestination{*this, "lblSubmenusDestination", ControlKind::Label};
   Control Drive1{*this, "Drive1", ControlKind::List};  ///< hidden where the system has no drives
   Control Dir1{*this, "Dir1", ControlKind::Folder};
@@ -65,10 +64,10 @@ class frmInsertIntoWebPage1 : public Form {
   std::string savedAltUrl_;
 };
 
-/// Asks for the compiled file, and refuses one of an old build.
+/// Asks for the compiled file and refuses one of an old build.
 class frmInsertIntoWebPage0 : public Form {
  public:
-  /// `lastCompiled` is the path of the document's last compile, empty if there was none.
+  /// `lastCompiled` is the path of the document's last compile, or empty.
   frmInsertIntoWebPage0(Ports& ports, std::string& LastWebPageDir, std::string_view lastCompiled);
 
   void txtMenuDestination_Change();
@@ -89,7 +88,7 @@ class frmInsertIntoWebPage0 : public Form {
   std::string lastCompiled_;
 };
 
-/// Opens linked pages, one after the other, with the system's browser.
+/// Opens linked pages in the system's browser.
 class frmPreviewPages : public Form {
  public:
   frmPreviewPages(Opener& opener, std::vector<std::string> pages);

@@ -6,21 +6,21 @@
 #include "linking/link_snippet.h"
 #include "linking/page_text.h"
 
-/// The steps of linking on one page. Link code is found by its fixed texts alone, whatever else the page is.
+/// The steps of linking one page. Link code is found by its fixed text; the page is not parsed.
 namespace nimbrel {
 
-/// Takes out the link code that earlier releases wrote, whatever menu it is of, each form once.
+/// Removes link code that earlier releases wrote, of any menu, once for each form of it.
 void RemoveOlderLinkBlocks(PageText& page);
 
-/// Takes out the current link code of one menu, once. Other menus' code stays.
+/// Removes the current link code of one menu, once. The code of other menus stays.
 void RemoveCurrentLinkBlock(PageText& page, std::string_view menu);
 
-/// Puts the link code ahead of the first `</body>`. Where there is none it goes ahead of `</html>`, else to the
-/// end, within a body of its own; a library item (".lbi") gets it at its end without one.
+/// Inserts the link code before the first `</body>`. A page without one gets the code in a new body, before
+/// `</html>` or at its end; a library item (".lbi") gets it at its end, without a body.
 void InsertLinkBlock(PageText& page, std::string_view pagePath, const LinkNames& names,
                      std::string_view altUrl);
 
-/// All of the above in this order: from a page's bytes to those of the linked page, whose line ends are CR LF.
+/// Applies all steps in this order. Returns the bytes of the linked page, with CR LF line ends.
 std::string linkedPage(std::string bytes, std::string_view pagePath, std::string_view compiledPath,
                        std::string_view altUrl);
 

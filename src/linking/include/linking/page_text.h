@@ -7,14 +7,14 @@
 
 namespace nimbrel {
 
-/// The bytes with each line end (CR, LF or CR LF) as CR LF; CR CR LF is two of them.
+/// Returns the bytes with each line end (CR, LF or CR LF) as CR LF. CR CR LF is two line ends.
 std::string withCrLf(std::string bytes);
 
-/// Where `wanted`, which is not empty, first stands at `from`, which is in the text, or behind it, or `npos`. The
-/// case of ASCII letters is ignored, all other bytes are exact.
+/// Returns the first position of `wanted` at or after `from`, or `npos`. Ignores the case of ASCII letters; other
+/// bytes must match exactly. `wanted` must not be empty, and `from` must lie within the text.
 std::size_t findIgnoringCase(std::string_view text, std::string_view wanted, std::size_t from = 0);
 
-/// A page while it is rewritten: bytes of no known encoding, whose line ends are CR LF from the start.
+/// The text of a page that is being rewritten: bytes of unknown encoding, with CR LF line ends.
 class PageText {
  public:
   static constexpr auto npos = std::string::npos;
@@ -29,11 +29,11 @@ class PageText {
     return std::string_view(text_).substr(place).starts_with("\r\n");
   }
 
-  /// Takes out what stands from `begin` up to `end`.
+  /// Removes the text from `begin` up to, not including, `end`.
   void remove(std::size_t begin, std::size_t end) { text_.erase(begin, end - begin); }
   void insert(std::size_t place, std::string_view text) { text_.insert(place, text); }
 
-  /// Gives up the page as it is to be written. Half a line end that a removal left becomes a whole one.
+  /// Moves out the bytes to write. Completes line ends that a removal has split.
   std::string takeBytes() && { return withCrLf(std::move(text_)); }
 
  private:

@@ -3,17 +3,17 @@
 #include <string>
 #include <string_view>
 
-/// From a page to the compiled menu that it shows.
+/// Paths from a page to its compiled menu.
 namespace nimbrel {
 
-/// The path from the page's folder to the target, with forward slashes. Both are absolute paths with
-/// backslashes and are compared with case. On another drive the target comes back unchanged.
+/// Returns the path from the page's folder to the target, with forward slashes. Both arguments are absolute paths
+/// with backslashes; comparison is case-sensitive. A target on another drive is returned unchanged.
 std::string RelativePath(std::string_view page, std::string_view target);
 
-/// What stands ahead of the last "/", empty if there is none. A view into the path.
+/// Returns the part before the last "/", or an empty view. The result views into `path`.
 std::string_view PathFolder(std::string_view path);
 
-/// What follows the last "/", the whole text if there is none. A view into the path.
+/// Returns the part after the last "/", or the whole path. The result views into `path`.
 std::string_view PathFileName(std::string_view path);
 
 }  // namespace nimbrel

@@ -8,11 +8,11 @@
 
 namespace nimbrel {
 
-/// The window that shows the preview page, tells whether it is up to date, and removes the page's files once
-/// they are loaded. Closed, it hides, until the program ends.
+/// The preview window. Shows the preview page and whether it is up to date, and removes the page's files after they
+/// are loaded. Closing only hides it.
 class frmBrowser : public Form {
  public:
-  /// `CreatePreviewFile` writes the page and shows it in this window.
+  /// `CreatePreviewFile` creates the page and shows it in this window.
   frmBrowser(FileSystem& files, Asker& asker, ProgramState& state, std::function<void()> CreatePreviewFile);
 
   /// Shows the window, for the first time or again.
