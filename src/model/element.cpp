@@ -10,14 +10,7 @@ namespace {
 
 template <class E>
 void setDefaults(E& element) {
-  eachProperty<E>([&](const Property<E>& property, auto field) {
-    using Value = std::remove_reference_t<decltype(element.*field)>;
-    if constexpr (std::is_same_v<Value, SharedText>) {
-      element.*field = std::get<std::string_view>(property.initial);
-    } else if (const auto* number = std::get_if<float>(&property.initial)) {
-      element.*field = static_cast<Value>(*number);
-    }
-  });
+  for (const Property<E>& property : E::properties()) setDefault(element, property);
 }
 
 template <class E>

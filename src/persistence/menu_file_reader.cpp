@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <limits>
 #include <stdexcept>
@@ -7,30 +6,13 @@
 #include "persistence/menu_file.h"
 #include "persistence/menu_file_layout.h"
 #include "persistence/property_line.h"
+#include "persistence/record_reader.h"
 #include "text/numbers.h"
 #include "text/paths.h"
 #include "text/product.h"
 
 namespace nimbrel {
 namespace {
-
-enum class Records { Version11, Version12, Version20 };
-
-/// One version of the menu file: how many of the compile settings its header has, whether "[Menu Tree]" ends
-/// the header, and which records it has.
-struct Version {
-  std::string_view magic;
-  std::size_t settings;
-  bool hasTreeMark;
-  Records records;
-};
-
-constexpr auto versions = std::to_array<Version>({
-    {"nbr110", 0, false, Records::Version11},
-    {"nbr120", 0, false, Records::Version12},
-    {"nbr130", 2, false, Records::Version12},
-    {currentMagic, compileSettings.size(), true, Records::Version20},
-});
 
 void convert(FileHandle&, std::string_view, std::string_view value, std::string& field) { field = value; }
 
@@ -46,27 +28,23 @@ void convert(FileHandle& file, std::string_view name, std::string_view value, st
   field = *number;
 }
 
-void readHeader(FileHandle& file, const Version& version, CompileSettings& settings) {
+void readHeader(FileHandle& file, const FileFormat& format, CompileSettings& settings) {
   settings = {};
   if (file.atEnd()) return;  // the magic line alone: a document without nodes
-  for (const CompileSetting& setting : std::span(compileSettings).first(version.settings)) {
+  for (const CompileSetting& setting : compileSettings) {
+    if (setting.since > format.version) continue;
     std::visit([&](auto field) { convert(file, setting.name, file.next(), settings.*field); }, setting.field);
   }
   // A later version's header may have more lines.
-  while (version.hasTreeMark && file.next() != treeMark) continue;
+  while (format.hasEndMarks && file.next() != treeMark) continue;
 }
 
 /// Reads the node records of one file.
 class NodeReader {
  public:
-  NodeReader(FileHandle& file, const Version& version, std::string_view folder, SubmenuCarryOver& carryOver,
+  NodeReader(FileHandle& file, const FileFormat& format, std::string_view folder, SubmenuCarryOver& carryOver,
              Document& document)
-      : file_(file),
-        records_(version.records),
-        folder_(folder),
-        carryOver_(carryOver),
-        document_(document),
-        reader20_(file, folder) {}
+      : file_(file), document_(document), records_(file, format, folder, carryOver) {}
 
   /// Reads one node and its element, which enter the document together or not at all.
   void read() {
@@ -78,7 +56,7 @@ class NodeReader {
     Node* parent = parentOf(parentKey);
     auto element = newElement(kindOf(key));
     if (element) {
-      readRecord(*element);
+      records_.ReadPropertiesFromFile(*element);
     } else {
       file_.note("key " + quoted(key) + " is of no known kind: a node without an element");
     }
@@ -92,14 +70,6 @@ class NodeReader {
   }
 
  private:
-  void readRecord(Element& element) {
-    switch (records_) {
-      case Records::Version11: ReadPropertiesFromFile11(file_, folder_, carryOver_, element); break;
-      case Records::Version12: ReadPropertiesFromFile12(file_, folder_, carryOver_, element); break;
-      case Records::Version20: reader20_.ReadPropertiesFromFile20(element); break;
-    }
-  }
-
   std::int16_t numberOf(std::string_view key) const {
     std::int16_t number = -1;
     const auto digits = key.substr(std::min<std::size_t>(key.size(), 1));
@@ -127,11 +97,8 @@ class NodeReader {
   }
 
   FileHandle& file_;
-  Records records_;
-  std::string_view folder_;
-  SubmenuCarryOver& carryOver_;
   Document& document_;
-  RecordReader20 reader20_;
+  RecordReader records_;
   Node* lastParent_ = nullptr;
 };
 
@@ -156,14 +123,14 @@ void readMenuFile(std::string_view bytes, const std::string& path, std::string_v
   clear(document);
   FileHandle file(path, bytes, notes);
   const auto magic = file.atEnd() ? std::string_view{} : file.next();
-  const auto version = std::ranges::find(versions, magic, &Version::magic);
-  if (version == versions.end()) throw NotAMenuFile(path);
+  const auto* format = formatOfMenuFile(magic);
+  if (format == nullptr) throw NotAMenuFile(path);
 
-  readHeader(file, *version, document.settings);
+  readHeader(file, *format, document.settings);
   constexpr std::size_t usualRecord = 300;  // bytes; a guess that is off costs little
   document.tvTreeView.reserve(bytes.size() / usualRecord);
   document.ElementColl.reserve(bytes.size() / usualRecord);
-  NodeReader nodes(file, *version, folder, carryOver, document);
+  NodeReader nodes(file, *format, folder, carryOver, document);
   try {
     while (!file.atEnd()) nodes.read();
   } catch (const FileError&) {

@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "persistence/file_versions.h"
 #include "persistence/menu_file.h"
 #include "persistence/menu_file_layout.h"
 #include "persistence/property_line.h"
@@ -35,7 +36,7 @@ void WriteNode(std::string& out, const Document& document, const Node& node) {
 }  // namespace
 
 std::string menuFileText(const Document& document) {
-  std::string out(currentMagic);
+  std::string out(currentFormat.menuMagic);
   out += lineEnd;
   for (const CompileSetting& setting : compileSettings) {
     std::visit([&](auto field) { out.append(lineOf(document.settings.*field)).append(lineEnd); },

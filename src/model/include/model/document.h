@@ -27,6 +27,7 @@ struct CompileSettings {
 
 /// One value of the menu file's header.
 struct CompileSetting {
+  FileVersion since;  ///< the first version whose header has it
   std::string_view name;
   std::variant<std::string CompileSettings::*, bool CompileSettings::*, std::int32_t CompileSettings::*>
       field;
@@ -34,14 +35,14 @@ struct CompileSetting {
 
 /// In file order.
 inline constexpr std::array compileSettings{
-    CompileSetting{"CompiledPath", &CompileSettings::CompiledPath},
-    CompileSetting{"CompiledName", &CompileSettings::CompiledName},
-    CompileSetting{"nbrLibraryPath", &CompileSettings::nbrLibraryPath},
-    CompileSetting{"nbrImagePath", &CompileSettings::nbrImagePath},
-    CompileSetting{"nbrOptimize", &CompileSettings::nbrOptimize},
-    CompileSetting{"nbrSubmenusFrame", &CompileSettings::nbrSubmenusFrame},
-    CompileSetting{"nbrSubmenusFrameOffset", &CompileSettings::nbrSubmenusFrameOffset},
-    CompileSetting{"nbrFrontPageSupport", &CompileSettings::nbrFrontPageSupport},
+    CompileSetting{V130, "CompiledPath", &CompileSettings::CompiledPath},
+    CompileSetting{V130, "CompiledName", &CompileSettings::CompiledName},
+    CompileSetting{V200, "nbrLibraryPath", &CompileSettings::nbrLibraryPath},
+    CompileSetting{V200, "nbrImagePath", &CompileSettings::nbrImagePath},
+    CompileSetting{V200, "nbrOptimize", &CompileSettings::nbrOptimize},
+    CompileSetting{V200, "nbrSubmenusFrame", &CompileSettings::nbrSubmenusFrame},
+    CompileSetting{V200, "nbrSubmenusFrameOffset", &CompileSettings::nbrSubmenusFrameOffset},
+    CompileSetting{V200, "nbrFrontPageSupport", &CompileSettings::nbrFrontPageSupport},
 };
 
 /// The document: the tree says what hangs from what, `ElementColl` holds the element of each node under the

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
+#include <type_traits>
 #include <utility>
 #include <variant>
 
@@ -21,7 +22,11 @@ namespace nimbrel {
 /// The text that stands for "not set".
 inline constexpr std::string_view notSet = "n";
 
-/// How a value stands in the property line of a file.
+/// The versions of the menu file and the style file, oldest first. `persistence/file_versions.h` describes each.
+enum class FileVersion : std::uint8_t { V110, V120, V130, V200 };
+using enum FileVersion;  // for the first column of the tables
+
+/// How a value is written in the property line of a file.
 enum class FileForm : std::uint8_t {
   Marked,   ///< between "!" marks, commas escaped
   Escaped,  ///< commas escaped
@@ -40,26 +45,27 @@ enum Style : unsigned {
 /// Nothing, for the one property that its class's defaults leave alone.
 struct NoDefault {};
 
-/// One stored property of an element class. The table's order is the order in the file.
+/// One stored property of an element class. The table's order is the order in the file, also in older versions.
 template <class E>
 struct Property {
   using Field = std::variant<SharedText E::*, std::uint8_t E::*, float E::*>;
   using Initial = std::variant<NoDefault, std::string_view, float>;
 
   // One constructor a type: a default of the wrong kind does not compile.
-  consteval Property(std::string_view n, SharedText E::*f, std::string_view i, FileForm form_,
+  consteval Property(FileVersion v, std::string_view n, SharedText E::*f, std::string_view i, FileForm form_,
                      unsigned s = NoStyle, float E::*number = nullptr)
-      : name(n), field(f), initial(i), form(form_), style(s), imageNo(number) {}
-  consteval Property(std::string_view n, std::uint8_t E::*f, int i, unsigned s = NoStyle)
-      : name(n), field(f), initial(static_cast<float>(i)), form(FileForm::Number), style(s) {}
-  consteval Property(std::string_view n, std::uint8_t E::*f, NoDefault i)
-      : name(n), field(f), initial(i), form(FileForm::Number), style(NoStyle) {}
-  consteval Property(std::string_view n, float E::*f, int i, unsigned s = NoStyle,
+      : since(v), name(n), field(f), initial(i), form(form_), style(s), imageNo(number) {}
+  consteval Property(FileVersion v, std::string_view n, std::uint8_t E::*f, int i, unsigned s = NoStyle)
+      : since(v), name(n), field(f), initial(static_cast<float>(i)), form(FileForm::Number), style(s) {}
+  consteval Property(FileVersion v, std::string_view n, std::uint8_t E::*f, NoDefault i)
+      : since(v), name(n), field(f), initial(i), form(FileForm::Number), style(NoStyle) {}
+  consteval Property(FileVersion v, std::string_view n, float E::*f, int i, unsigned s = NoStyle,
                      FileForm form_ = FileForm::Number)
-      : name(n), field(f), initial(static_cast<float>(i)), form(form_), style(s) {}
+      : since(v), name(n), field(f), initial(static_cast<float>(i)), form(form_), style(s) {}
 
   constexpr bool isImage() const { return imageNo != nullptr; }
 
+  FileVersion since;  ///< the first version whose records have it
   std::string_view name;
   Field field;
   Initial initial;
@@ -75,6 +81,21 @@ void eachProperty(F&& f) {
   for (const Property<E>& property : E::properties()) {
     std::visit([&](auto field) { f(property, field); }, property.field);
   }
+}
+
+/// Sets one property to its default.
+template <class E>
+void setDefault(E& element, const Property<E>& property) {
+  std::visit(
+      [&](auto field) {
+        using Value = std::remove_reference_t<decltype(element.*field)>;
+        if constexpr (std::is_same_v<Value, SharedText>) {
+          element.*field = std::get<std::string_view>(property.initial);
+        } else if (const auto* number = std::get_if<float>(&property.initial)) {
+          element.*field = static_cast<Value>(*number);
+        }
+      },
+      property.field);
 }
 
 /// The row of that name, none if the class has none.

@@ -5,7 +5,6 @@
 /// What reader and writer of the menu file agree upon beyond the tables.
 namespace nimbrel {
 
-inline constexpr std::string_view currentMagic = "nbr200";
 inline constexpr std::string_view treeMark = "[Menu Tree]";
 
 /// Stands in place of a parent's key in the record of a root; the writer prints it with its blanks.

@@ -1,9 +1,7 @@
 #pragma once
 
-#include <array>
 #include <string>
 #include <string_view>
-#include <tuple>
 
 #include "model/element.h"
 #include "persistence/file_handle.h"
@@ -30,29 +28,6 @@ std::string ParameterString(const Element& element);
 /// the folder of the load. Throws `FileError` where a number does not convert.
 template <class E>
 void readProperty(FileHandle& file, std::string_view FPath, const Property<E>& property, E& element);
-
-/// Reads the records of the current version from one file. It keeps the last record of each class: most values
-/// say again what that one said, and are passed over.
-class RecordReader20 {
- public:
-  /// `FPath` is the folder of the load. Both are to outlive the reader.
-  RecordReader20(FileHandle& file, std::string_view FPath) : file_(file), FPath_(FPath) {}
-
-  /// Reads all values of the element's class and drops what follows up to its closing marker, so that a later
-  /// version's further values do no harm. Throws `FileError`.
-  void ReadPropertiesFromFile20(Element& element);
-
- private:
-  template <class E>
-  struct LastRecord {
-    E element;
-    std::array<std::string_view, E::properties().size()> values;  // as they stood, empty: not known
-  };
-
-  FileHandle& file_;
-  std::string_view FPath_;
-  std::tuple<LastRecord<MenuObj>, LastRecord<SubmenuObj>, LastRecord<ItemObj>> last_;
-};
 
 extern template void readProperty(FileHandle&, std::string_view, const Property<MenuObj>&, MenuObj&);
 extern template void readProperty(FileHandle&, std::string_view, const Property<SubmenuObj>&, SubmenuObj&);
