@@ -1,6 +1,7 @@
 #include "gallery/style_forms.h"
 
 #include "gallery/style_file.h"
+#include "text/ascii.h"
 
 namespace nimbrel {
 namespace {
@@ -40,9 +41,7 @@ frmSaveStyle::frmSaveStyle(Ports& ports, ProgramState& state)
   txtStyleName_Change();
 }
 
-void frmSaveStyle::txtStyleName_Change() {
-  btnOk.enabled = txtStyleName.text.find_first_not_of(' ') != std::string::npos;
-}
+void frmSaveStyle::txtStyleName_Change() { btnOk.enabled = !trimmed(txtStyleName.text).empty(); }
 
 void frmSaveStyle::btnOk_Click() {
   const auto& style = txtStyleName.text;

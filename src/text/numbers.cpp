@@ -13,16 +13,10 @@ namespace {
 
 constexpr int significantDigits = 7;
 
-std::string_view trimBlanks(std::string_view text) {
-  const auto first = text.find_first_not_of(' ');
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
 /// from_chars, less what it takes beyond a number text: words such as "inf" and "nan".
 template <class T>
 std::optional<T> parseReal(std::string_view text) {
-  text = trimBlanks(text);
+  text = trimmed(text);
   if (!text.empty() && text.front() == '+') {
     text.remove_prefix(1);
     if (!text.empty() && text.front() == '-') return std::nullopt;

@@ -24,4 +24,10 @@ inline std::string lowered(std::string_view text) {
   return result;
 }
 
+/// The text without the blanks (byte 32) at both ends. Tabs and byte 160 stay.
+constexpr std::string_view trimmed(std::string_view text) {
+  const auto first = std::min(text.find_first_not_of(' '), text.size());
+  return text.substr(first, text.find_last_not_of(' ') + 1 - first);
+}
+
 }  // namespace nimbrel
