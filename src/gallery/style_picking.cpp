@@ -8,16 +8,12 @@ constexpr Message nothingPicked{"Cannot apply style",
 constexpr Message containerOnItem{"Cannot apply style", "You cannot apply a submenu style to an item"};
 constexpr Message itemOnSubmenu{"Cannot apply style", "You cannot apply an item style to a submenu"};
 
-void clearMarks(ItemObj& item) {
-  item.HasSubmenuImage1 = item.HasSubmenuImage2 = item.HasSubmenuImage3 = notSet;
-}
-
 void dress(Document& document, const Node& node, const MenuStyle& style) {
   auto* element = document.element(node);
   if (element == nullptr) return;
   if (auto* item = std::get_if<ItemObj>(element)) {
     CopyStyleValuesFromObject(*item, style.item);
-    if (node.Child() == nullptr) clearMarks(*item);
+    if (node.Child() == nullptr) clearSubmenuImages(*item);
   } else if (auto* submenu = std::get_if<SubmenuObj>(element)) {
     CopyStyleValuesFromObject(*submenu, style.submenu);
   } else {

@@ -129,6 +129,14 @@ void setImageNo(Element& element, int slot, float number) {
       element);
 }
 
+void setNames(ItemObj& item, const SharedText& name) {
+  item.ItemName1 = item.ItemName2 = item.ItemName3 = name;
+}
+
+void clearSubmenuImages(ItemObj& item) {
+  item.HasSubmenuImage1 = item.HasSubmenuImage2 = item.HasSubmenuImage3 = notSet;
+}
+
 SharedText NodeText(const Element& element) {
   struct Label {
     SharedText operator()(const MenuObj& menu) const { return menu.menuname; }

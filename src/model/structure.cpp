@@ -1,6 +1,5 @@
 #include "model/structure.h"
 
-#include <limits>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -47,15 +46,18 @@ void dress(Document& document, ItemObj& item, const Node& node) {
   }
   const auto* source = like == nullptr ? nullptr : document.get<ItemObj>(*like);
   if (source != nullptr) CopyStyleValuesFromObject(item, *source);
-  item.HasSubmenuImage1 = item.HasSubmenuImage2 = item.HasSubmenuImage3 = notSet;
+  clearSubmenuImages(item);
 }
 
 }  // namespace
 
-void throwUsedUp() { throw std::overflow_error("the document has used up its 32767 key numbers"); }
+void throwUsedUp() {
+  throw std::overflow_error("the document has used up its " + std::to_string(Document::largestKeyNumber) +
+                            " key numbers");
+}
 
 std::string nextKeyNumber(const Document& document) {
-  if (document.NextKeyNumber == std::numeric_limits<std::int16_t>::max()) throwUsedUp();
+  if (document.NextKeyNumber == Document::largestKeyNumber) throwUsedUp();
   return std::to_string(document.NextKeyNumber);
 }
 
@@ -88,7 +90,7 @@ Node* AddItem(Document& document, std::string_view selectedKey) {
   const auto number = nextKeyNumber(document);
   ItemObj item;
   SetDefaultValues(item);
-  item.ItemName1 = item.ItemName2 = item.ItemName3 = "Item" + number;
+  setNames(item, "Item" + number);
   if (kindOf(selectedKey) == Kind::Item && selected->Parent() == nullptr) return nullptr;
   const auto relationship = kindOf(selectedKey) == Kind::Item ? Relationship::Next : Relationship::Child;
   Node& node = enter(document, "I" + number, std::move(item), selected, relationship);
@@ -106,9 +108,7 @@ void RemoveSubtree(Document& document, std::string_view key) {
 }
 
 void BuildDefaultDocument(Document& document) {
-  document.NextKeyNumber = 0;
-  document.ElementColl.clear();
-  document.tvTreeView.clear();
+  document.clear();
   const Node* selected = &AddMainMenu(document);
   for (int i = 0; i < 3; ++i) {
     selected = AddItem(document, selected->Key);

@@ -1,6 +1,5 @@
 #include "model/structure_editing.h"
 
-#include <limits>
 #include <stdexcept>
 #include <unordered_map>
 #include <utility>
@@ -40,7 +39,7 @@ int nodesIn(const Node& top) {
 bool move(Document& document, Node& item, Node* neighbour, Relationship relationship) {
   if (neighbour == nullptr) return false;
   const int counter = document.NextKeyNumber + nodesIn(item);
-  if (counter > std::numeric_limits<std::int16_t>::max()) throwUsedUp();
+  if (counter > Document::largestKeyNumber) throwUsedUp();
   document.tvTreeView.move(item, *neighbour, relationship);
   document.NextKeyNumber = static_cast<std::int16_t>(counter);
   return true;

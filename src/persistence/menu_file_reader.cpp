@@ -1,6 +1,5 @@
 #include <algorithm>
 #include <charconv>
-#include <limits>
 #include <stdexcept>
 
 #include "persistence/menu_file.h"
@@ -75,7 +74,8 @@ class NodeReader {
     const auto digits = key.substr(std::min<std::size_t>(key.size(), 1));
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
     if (error != std::errc{} || end != digits.data() + digits.size() || digits.front() == '-') {
-      file_.fail("key " + quoted(key) + " is not a letter and a number up to 32767");
+      file_.fail("key " + quoted(key) + " is not a letter and a number up to " +
+                 std::to_string(Document::largestKeyNumber));
     }
     return number;
   }
@@ -104,13 +104,7 @@ class NodeReader {
 
 /// Makes the counter greater than every number in use, as far as it goes.
 void stepCounter(Document& document) {
-  if (document.NextKeyNumber < std::numeric_limits<std::int16_t>::max()) ++document.NextKeyNumber;
-}
-
-void clear(Document& document) {
-  document.NextKeyNumber = 0;
-  document.ElementColl.clear();
-  document.tvTreeView.clear();
+  if (document.NextKeyNumber < Document::largestKeyNumber) ++document.NextKeyNumber;
 }
 
 }  // namespace
@@ -120,7 +114,7 @@ NotAMenuFile::NotAMenuFile(std::string path)
 
 void readMenuFile(std::string_view bytes, const std::string& path, std::string_view folder,
                   SubmenuCarryOver& carryOver, Document& document, Findings& notes) {
-  clear(document);
+  document.clear();
   FileHandle file(path, bytes, notes);
   const auto magic = file.atEnd() ? std::string_view{} : file.next();
   const auto* format = formatOfMenuFile(magic);
@@ -142,7 +136,7 @@ void readMenuFile(std::string_view bytes, const std::string& path, std::string_v
 
 void LoadMenuFile(const FileSystem& files, std::string_view folder, std::string_view fileName,
                   SubmenuCarryOver& carryOver, Document& document, Findings& notes) {
-  clear(document);
+  document.clear();
   const auto path = joinPath(folder, fileName);
   const auto bytes = files.read(path);
   readMenuFile(bytes, path, folder, carryOver, document, notes);

@@ -17,7 +17,7 @@ std::string picture(std::string_view name) {
 
 void fillItem(ItemObj& item, std::string_view key, int place) {
   const std::string number(key.substr(1));
-  item.ItemName1 = item.ItemName2 = item.ItemName3 = "Products and services " + number;
+  setNames(item, "Products and services " + number);
   item.URL =
       "https://www.example.com/section" + std::to_string(place) + "/page" + number + ".html?from=menu,top";
   item.ItemTooltip = place % 2 == 0 ? "What we offer, where and for how much" : "";

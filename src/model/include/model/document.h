@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <limits>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -50,11 +51,17 @@ inline constexpr std::array compileSettings{
 /// under menus, and at most one submenu under an item. A file may say otherwise, so whoever walks a document
 /// takes it as it is.
 struct Document {
+  /// The largest number that a key can have.
+  static constexpr std::int16_t largestKeyNumber = std::numeric_limits<std::int16_t>::max();
+
   Tree tvTreeView;
   Elements ElementColl;
   /// The number of the next new key, greater than every number in use.
   std::int16_t NextKeyNumber = 0;
   CompileSettings settings;
+
+  /// Removes all nodes and elements and counts keys from 0 again. The settings stay.
+  void clear();
 
   /// The element of a node, none for a foreign node that a file brought.
   Element* element(const Node& node) { return ElementColl.find(node.Key); }

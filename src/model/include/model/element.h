@@ -65,6 +65,12 @@ void eachImage(Element& element, F&& f) {
       element);
 }
 
+/// Gives an item one name for all of its states.
+void setNames(ItemObj& item, const SharedText& name);
+
+/// Removes the images that mark an item with a submenu.
+void clearSubmenuImages(ItemObj& item);
+
 /// The text of the element's node after an edit of its name.
 SharedText NodeText(const Element& element);
 
