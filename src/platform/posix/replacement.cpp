@@ -3,21 +3,17 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <system_error>
 #include <unistd.h>
 #include <utility>
 
 #include "platform/file_error.h"
 #include "platform/posix/host_paths.h"
+#include "platform/posix/system_error.h"
 
 namespace nimbrel {
 namespace {
 
 namespace fs = std::filesystem;
-
-[[noreturn]] void fail(const std::string& path) {
-  throw FileError(path, std::generic_category().message(errno));
-}
 
 bool writeAll(int descriptor, std::string_view bytes) {
   while (!bytes.empty()) {
@@ -66,14 +62,14 @@ bool Handle::close() { return !isOpen() || ::close(std::exchange(descriptor_, -1
 
 Replacement::Replacement(std::string_view documentPath)
     : documentPath_(documentPath), target_(endOfLinks(toHostPath(documentPath))) {
-  if (documentPath.find('\0') != std::string_view::npos) throw FileError(documentPath_, "is no path");
+  requireUsable(documentPath);
 }
 
 // From here on the object stands, so that its end takes away what a failing step leaves.
 Replacement::Replacement(std::string_view documentPath, std::string_view bytes) : Replacement(documentPath) {
   open(folderOf(target_));
   takePlace();
-  if (!writeAll(file_.get(), bytes)) fail(documentPath_);
+  if (!writeAll(file_.get(), bytes)) throwSystemError(documentPath_);
 }
 
 Replacement::~Replacement() {
@@ -88,38 +84,38 @@ void Replacement::open(const fs::path& folder) {
     file_ = Handle(::open(folder.c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, S_IRUSR | S_IWUSR));
   }
   if (file_.isOpen()) return;
-  if (errno != EOPNOTSUPP && errno != EISDIR && errno != EINVAL) fail(documentPath_);
+  if (errno != EOPNOTSUPP && errno != EISDIR && errno != EINVAL) throwSystemError(documentPath_);
   name_ = (folder / ".nimbrel-XXXXXX").string();
   file_ = Handle(::mkostemp(name_.data(), O_CLOEXEC));
-  if (!file_.isOpen()) fail(documentPath_);
+  if (!file_.isOpen()) throwSystemError(documentPath_);
 }
 
 /// Refuses a place that holds no file, or one that is not to be written.
 void Replacement::takePlace() {
   struct stat old {};
   if (::stat(target_.c_str(), &old) != 0) {
-    if (errno != ENOENT || ::fchmod(file_.get(), modeOfNewFiles()) != 0) fail(documentPath_);
+    if (errno != ENOENT || ::fchmod(file_.get(), modeOfNewFiles()) != 0) throwSystemError(documentPath_);
     return;
   }
-  if (S_ISDIR(old.st_mode)) errno = EISDIR, fail(documentPath_);
+  if (S_ISDIR(old.st_mode)) throwSystemError(documentPath_, EISDIR);
   if (!S_ISREG(old.st_mode)) throw FileError(documentPath_, "is not a regular file");
   // The mark is the author's word, and it counts for the system's administrator too.
   const bool markedReadOnly = (old.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0;
   if (markedReadOnly || ::access(target_.c_str(), W_OK) != 0) throw FileError(documentPath_, "is read-only");
   // Only an administrator can keep a foreign owner; for others the file becomes theirs.
   if (::fchown(file_.get(), old.st_uid, old.st_gid) != 0) errno = 0;
-  if (::fchmod(file_.get(), old.st_mode & 07777) != 0) fail(documentPath_);
+  if (::fchmod(file_.get(), old.st_mode & 07777) != 0) throwSystemError(documentPath_);
 }
 
 void Replacement::flush() {
-  if (::fdatasync(file_.get()) != 0) fail(documentPath_);
+  if (::fdatasync(file_.get()) != 0) throwSystemError(documentPath_);
 }
 
 void Replacement::flushDevice(std::set<dev_t>& flushed) {
   struct stat status {};
-  if (::fstat(file_.get(), &status) != 0) fail(documentPath_);
+  if (::fstat(file_.get(), &status) != 0) throwSystemError(documentPath_);
   if (flushed.contains(status.st_dev)) return;
-  if (::syncfs(file_.get()) != 0) fail(documentPath_);
+  if (::syncfs(file_.get()) != 0) throwSystemError(documentPath_);
   flushed.insert(status.st_dev);
 }
 
@@ -133,15 +129,15 @@ void Replacement::nameIn(const fs::path& folder) {
       name_ = path;
       return;
     }
-    if (errno != EEXIST) fail(documentPath_);
+    if (errno != EEXIST) throwSystemError(documentPath_);
   }
 }
 
 void Replacement::commit() {
   if (name_.empty()) nameIn(folderOf(target_));
-  if (::rename(name_.c_str(), target_.c_str()) != 0) fail(documentPath_);
+  if (::rename(name_.c_str(), target_.c_str()) != 0) throwSystemError(documentPath_);
   name_.clear();
-  if (!file_.close()) fail(documentPath_);
+  if (!file_.close()) throwSystemError(documentPath_);
 }
 
 }  // namespace nimbrel
