@@ -19,7 +19,7 @@ constexpr Message badName{"Create Style",
 
 std::string imagesFolder(const std::string& name) { return name + "-images"; }
 
-/// The pictures that belong to a look, in the order in which they are saved.
+/// The pictures of a style in the order of the file.
 std::vector<SharedText*> lookImages(MenuStyle& style) {
   auto& item = style.item;
   return {&style.submenu.BGImage, &item.BGImage1,         &item.BGImage2,        &item.BGImage3,
@@ -39,17 +39,17 @@ void prefixImages(E& element, const std::string& folder) {
   }
 }
 
-/// The list of pictures says nothing that the properties do not say. Its count ends at a blank, and the first picture
-/// follows in the same value.
+/// Skips the list of pictures, which the properties have too. The count ends at a blank, and the first
+/// picture follows in the same value.
 void passImageList(FileHandle& file) {
   const auto first = file.next();
   const auto count = parseInteger(first.substr(0, first.find(' ')));
-  if (!count) file.fail("the number of pictures is no number");
+  if (!count) file.fail("the number of pictures is not a number");
   for (std::int32_t i = 1; i < *count; ++i) file.next();
   if (*count > 0) file.passLineEnd();
 }
 
-/// Reads one record of `folder` into an element of its class. What was read ahead of a fault stays.
+/// Reads one record. `target` gets the element with full image paths, also if the reading stops.
 template <class E>
 void readRecord(FileHandle& file, RecordReader& reader, const std::string& folder, E& target) {
   file.beginRecord();
@@ -144,7 +144,7 @@ void SaveStyle(FileSystem& files, const std::string& programFolder, const std::s
     images.push_back(folder + "\\dot.gif");
     steps.copy(programFolder + "\\dot.gif", gallery + '\\' + images.back());
   }
-  // kept: the pictures of a replaced style stay behind, and their folder with them.
+  // Quirk: the pictures of a replaced style and their folder are not removed.
   if (images.empty() && files.filesIn(wholeFolder).empty()) steps.removeFolder(wholeFolder);
   steps.generate(styleFilePath(programFolder, name), styleFileText(style, images));
 }

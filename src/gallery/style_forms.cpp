@@ -60,7 +60,7 @@ void frmSaveStyle::btnOk_Click() {
          .defaultButton = BoxButton::No});
     if (answer != BoxButton::Yes) return;
   }
-  state_.StyleName = style;  // blanks around it stay
+  state_.StyleName = style;  // not trimmed
   Close();
 }
 

@@ -21,9 +21,9 @@ E copyOfProperties(const E& element) {
 }
 
 template <class Target, class Source>
-constexpr bool offersWhatTravels(Style style) {
+constexpr bool hasAllOf(Style style) {
   for (const auto& property : Target::properties()) {
-    // By name: the sanitizers of GCC allow no comparison of a row's address in here.
+    // Compare names: with sanitizers, GCC cannot compare the addresses of rows in a constant expression.
     const auto& offered = Source::properties();
     if ((property.style & style) != 0 &&
         std::ranges::find(offered, property.name, &Property<Source>::name) == offered.end()) {
@@ -33,10 +33,10 @@ constexpr bool offersWhatTravels(Style style) {
   return true;
 }
 
-/// Sets the target's properties that travel with `style` from the source's of the same name.
+/// Copies the properties that are part of `style` from the source's properties of the same name.
 template <Style style, class Target, class Source>
 void copyStyle(Target& target, const Source& source) {
-  static_assert(offersWhatTravels<Target, Source>(style));
+  static_assert(hasAllOf<Target, Source>(style));
   eachProperty<Target>([&](const Property<Target>& property, auto field) {
     if ((property.style & style) == 0) return;
     using Value = std::remove_reference_t<decltype(target.*field)>;
@@ -65,14 +65,14 @@ std::optional<Element> newElement(Kind kind) {
 
 void SetDefaultValues(MenuObj& element) { setDefaults(element); }
 
-// kept: the zero meant for `SubmenuType` goes to `SubmenuName`, which ends as "0"; the type stays as it was.
+// Quirk: the zero meant for `SubmenuType` goes to `SubmenuName`, which becomes "0". The type does not change.
 void SetDefaultValues(SubmenuObj& element) { setDefaults(element); }
 
 void SetDefaultValues(ItemObj& element) { setDefaults(element); }
 
 MenuObj clone(const MenuObj& element) {
   MenuObj copy = copyOfProperties(element);
-  // kept: three properties take the title's display, and uniform widths are not copied.
+  // Quirk: three properties get the value of `DisplayNameAsTitle`, and `UniformItemWidths` is not copied.
   copy.Collapsable = copy.MenuHow = copy.UnfoldDirection = element.DisplayNameAsTitle;
   copy.UniformItemWidths = 0;
   return copy;
@@ -82,7 +82,7 @@ SubmenuObj clone(const SubmenuObj& element) { return copyOfProperties(element); 
 
 ItemObj clone(const ItemObj& element) {
   ItemObj copy = copyOfProperties(element);
-  // kept: a copied item has its Mouse Click font for Mouse Over too.
+  // Quirk: the copy has the Mouse Click font for Mouse Over too.
   copy.FontFamily2 = element.FontFamily3;
   return copy;
 }

@@ -13,7 +13,7 @@ constexpr Message hasSubmenu{"Cannot create submenu",
                              "A submenu already exists for the selected item. You\r"
                              "may select the existing submenu and add items to it"};
 
-/// Enters element and node together, under one key.
+/// Adds an element and its node under one key.
 Node& enter(Document& document, std::string key, Element element, Node* relative, Relationship relationship) {
   auto text = NodeText(element);
   Node& node = relative == nullptr ? document.tvTreeView.addRoot(key, std::move(text))
@@ -23,8 +23,8 @@ Node& enter(Document& document, std::string key, Element element, Node* relative
   return node;
 }
 
-/// Dresses a new submenu as the container of its item: a main menu or a submenu.
-void dress(Document& document, SubmenuObj& submenu, const Node* container) {
+/// Gives a new submenu the style of the main menu or submenu that contains its item.
+void copyStyleOfContext(Document& document, SubmenuObj& submenu, const Node* container) {
   if (container == nullptr) return;
   if (const auto* menu = document.get<MenuObj>(*container)) {
     CopyStyleValuesFromMenuObject(submenu, *menu);
@@ -34,8 +34,8 @@ void dress(Document& document, SubmenuObj& submenu, const Node* container) {
   }
 }
 
-/// Dresses a new item as the one ahead of it, else as the one that owns its submenu.
-void dress(Document& document, ItemObj& item, const Node& node) {
+/// Gives a new item the style of the item before it, or else of the item that owns its submenu.
+void copyStyleOfContext(Document& document, ItemObj& item, const Node& node) {
   const Node* like = nullptr;
   if (const Node* parent = node.Parent()) {
     if (parent->Children() > 1) {
@@ -80,7 +80,7 @@ Node* AddSubmenu(Document& document, std::string_view parentKey) {
   SubmenuObj submenu;
   SetDefaultValues(submenu);
   submenu.SubmenuName = "Submenu" + number;
-  dress(document, submenu, parent->Parent());
+  copyStyleOfContext(document, submenu, parent->Parent());
   return &enter(document, "S" + number, std::move(submenu), parent, Relationship::Child);
 }
 
@@ -94,7 +94,7 @@ Node* AddItem(Document& document, std::string_view selectedKey) {
   if (kindOf(selectedKey) == Kind::Item && selected->Parent() == nullptr) return nullptr;
   const auto relationship = kindOf(selectedKey) == Kind::Item ? Relationship::Next : Relationship::Child;
   Node& node = enter(document, "I" + number, std::move(item), selected, relationship);
-  dress(document, *document.get<ItemObj>(node), node);
+  copyStyleOfContext(document, *document.get<ItemObj>(node), node);
   return &node;
 }
 
@@ -104,7 +104,7 @@ void RemoveSubtree(Document& document, std::string_view key) {
   for (const Node* node = top; node != nullptr; node = following(node, top)) {
     document.ElementColl.remove(node->Key);
   }
-  document.tvTreeView.remove(top->Key);  // the key may have lain in what is gone
+  document.tvTreeView.remove(top->Key);  // `key` may be a view of a removed element's key
 }
 
 void BuildDefaultDocument(Document& document) {

@@ -29,7 +29,7 @@ void convert(FileHandle& file, std::string_view name, std::string_view value, st
 
 void readHeader(FileHandle& file, const FileFormat& format, CompileSettings& settings) {
   settings = {};
-  if (file.atEnd()) return;  // the magic line alone: a document without nodes
+  if (file.atEnd()) return;  // only the magic: a document without nodes
   for (const CompileSetting& setting : compileSettings) {
     if (setting.since > format.version) continue;
     std::visit([&](auto field) { convert(file, setting.name, file.next(), settings.*field); }, setting.field);
@@ -45,7 +45,7 @@ class NodeReader {
              Document& document)
       : file_(file), document_(document), records_(file, format, folder, carryOver) {}
 
-  /// Reads one node and its element, which enter the document together or not at all.
+  /// Reads one node and its element. If this fails, neither is in the document.
   void read() {
     file_.beginRecord();
     const auto parentKey = file_.next();
@@ -57,7 +57,7 @@ class NodeReader {
     if (element) {
       records_.ReadPropertiesFromFile(*element);
     } else {
-      file_.note("key " + quoted(key) + " is of no known kind: a node without an element");
+      file_.note("key " + quoted(key) + " is of an unknown kind: the node has no element");
     }
     try {
       if (element) document_.ElementColl.add(key, std::move(*element));
@@ -82,7 +82,7 @@ class NodeReader {
 
   Node* parentOf(std::string_view key) {
     if (key == rootParent) return nullptr;
-    // Most nodes hang from the one that the node ahead of them hangs from.
+    // Most nodes have the same parent as the node before.
     if (lastParent_ == nullptr || lastParent_->Key != key) lastParent_ = document_.tvTreeView.find(key);
     if (lastParent_ == nullptr) file_.fail("parent " + quoted(key) + " is not in the tree");
     return lastParent_;
@@ -102,7 +102,7 @@ class NodeReader {
   Node* lastParent_ = nullptr;
 };
 
-/// Makes the counter greater than every number in use, as far as it goes.
+/// Makes the counter greater than every number in use, up to its limit.
 void stepCounter(Document& document) {
   if (document.NextKeyNumber < Document::largestKeyNumber) ++document.NextKeyNumber;
 }
@@ -121,14 +121,14 @@ void readMenuFile(std::string_view bytes, const std::string& path, std::string_v
   if (format == nullptr) throw NotAMenuFile(path);
 
   readHeader(file, *format, document.settings);
-  constexpr std::size_t usualRecord = 300;  // bytes; a guess that is off costs little
+  constexpr std::size_t usualRecord = 300;  // bytes, an estimate
   document.tvTreeView.reserve(bytes.size() / usualRecord);
   document.ElementColl.reserve(bytes.size() / usualRecord);
   NodeReader nodes(file, *format, folder, carryOver, document);
   try {
     while (!file.atEnd()) nodes.read();
   } catch (const FileError&) {
-    stepCounter(document);  // what was read can be worked on: its keys are taken
+    stepCounter(document);  // the author can go on with the nodes read so far
     throw;
   }
   stepCounter(document);

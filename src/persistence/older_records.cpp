@@ -12,7 +12,7 @@ namespace {
 
 bool isFontSize(std::string_view name) { return name.find("FontSize") != std::string_view::npos; }
 
-/// Quirk: font sizes were numbers, those of the browser's own sizes.
+/// Quirk: these versions store font sizes as numbers.
 std::string_view fontSizeKeyword(float number) {
   struct Size {
     float number;
@@ -36,11 +36,11 @@ template <class Number>
 Number readNumber(FileHandle& file, std::string_view name, std::optional<Number> (*parse)(std::string_view)) {
   const auto value = file.next();
   const auto number = parse(value);
-  if (!number) file.fail(std::string(name) + ": " + quoted(value) + " is not a number it can hold");
+  if (!number) file.fail(std::string(name) + ": " + quoted(value) + " is not a valid number");
   return *number;
 }
 
-/// Quirk: a main menu's record has three values that are no properties of it, after these two.
+/// Quirk: the main menu's record has three values for the submenus, after these two of its properties.
 template <class E>
 void readCarryOver(FileHandle& file, const Property<E>& before, SubmenuCarryOver& carryOver) {
   if constexpr (std::is_same_v<E, MenuObj>) {
@@ -63,7 +63,7 @@ void readValue(FileHandle& file, std::string_view FPath, const Property<E>& prop
   }
 }
 
-/// Quirk: what a main menu lacks is not all zero, and a submenu opens as the last main menu said.
+/// Quirk: some properties that these versions lack are not zero.
 void complete(MenuObj& menu, const SubmenuCarryOver&) { menu.UnfoldDirection = 1; }
 
 void complete(SubmenuObj& submenu, const SubmenuCarryOver& carryOver) {

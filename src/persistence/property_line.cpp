@@ -27,7 +27,7 @@ void append(std::string& out, FileForm form, const SharedText& value) {
   switch (form) {
     case FileForm::Marked: appendMarked(out, value); break;
     case FileForm::Escaped: appendEscaped(out, value); break;
-    default: out += value;  // kept: a comma in a raw value stands as it is and shifts what is read behind it
+    default: out += value;  // Quirk: a comma in a raw value is not escaped and shifts later values
   }
 }
 
@@ -46,7 +46,7 @@ Number converted(FileHandle& file, std::string_view name, std::string_view value
                  std::optional<Number> number, std::string_view expected) {
   if (!number) {
     file.fail(std::string(name) + ": " + quoted(value) + " is not " + std::string(expected) +
-              " (a comma or line break in a value ahead of it shifts the rest)");
+              " (a comma or line break in an earlier value shifts all later ones)");
   }
   return *number;
 }

@@ -9,10 +9,9 @@ void skipToMarker(FileHandle& file, std::string_view marker) {
   std::size_t dropped = 0;
   while (file.next() != marker) ++dropped;
   if (dropped == 0) return;
-  file.note(
-      std::to_string(dropped) +
-      " more values than are known: written by a later version, or a comma in a font, font size, colour or "
-      "border style has shifted the values behind it");
+  file.note(std::to_string(dropped) +
+            " unknown values: the file is from a later version, or a comma in a font, font size, colour or "
+            "border style has shifted the later values");
 }
 
 }  // namespace
@@ -46,11 +45,11 @@ template <class E>
 void RecordReader::readWithMarker(E& object) {
   auto& last = std::get<LastRecord<E>>(last_);
   for (auto& value : last.values) {
-    if (file_.skip(value.asItStood)) continue;
+    if (file_.skip(value.source)) continue;
     const auto notes = file_.notes();
     readProperty(file_, FPath_, *value.property, last.element);
     // A value that caused a note is parsed each time, to note it again.
-    value.asItStood = file_.notes() == notes ? file_.lastAsItStood() : std::string_view{};
+    value.source = file_.notes() == notes ? file_.lastSource() : std::string_view{};
   }
   object = last.element;
 }

@@ -45,9 +45,9 @@ TEST(ValueReader, KnowsTheLineOfTheLastValueAndTheEnd) {
 
   ValueReader repeating("n,\r\nn,rest of it");
   repeating.next(value);
-  const auto asItStood = repeating.lastAsItStood();
+  const auto source = repeating.lastSource();
   repeating.next(value);
-  EXPECT_TRUE(repeating.skip(asItStood));
+  EXPECT_TRUE(repeating.skip(source));
   EXPECT_EQ(repeating.line(), 2U);
 }
 
@@ -57,7 +57,7 @@ TEST(ValueReader, PassesOverAValueThatStandsAsAnEarlierOneButNotOneThatOnlyBegin
     ValueReader reader(text);
     std::string_view value;
     reader.next(value);
-    EXPECT_TRUE(reader.skip(reader.lastAsItStood()) && reader.next(value)) << text;
+    EXPECT_TRUE(reader.skip(reader.lastSource()) && reader.next(value)) << text;
     EXPECT_EQ(value, "rest of it");
   }
   for (const auto* text : {"n,no,rest of it", "123456789,123456780,rest of it", "n,n", "n,n\r\nrest of it",
@@ -65,7 +65,7 @@ TEST(ValueReader, PassesOverAValueThatStandsAsAnEarlierOneButNotOneThatOnlyBegin
     ValueReader reader(text);
     std::string_view value;
     reader.next(value);
-    EXPECT_FALSE(reader.skip(reader.lastAsItStood())) << text;
+    EXPECT_FALSE(reader.skip(reader.lastSource())) << text;
   }
 }
 

@@ -33,7 +33,7 @@ bool HostFileSystem::isFolder(std::string_view path) const {
 
 std::string HostFileSystem::read(std::string_view path) const {
   requireUsable(path);
-  // Not to block: a pipe without a writer must not hang the program ahead of the look at what it is.
+  // O_NONBLOCK: opening a FIFO with no writer would block before fstat() can reject it.
   const Handle file(::open(toHostPath(path).c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
   if (!file.isOpen()) throwSystemError(path);
   struct stat status {};
@@ -97,8 +97,8 @@ void HostFileSystem::remove(std::string_view path) {
 }
 
 void HostFileSystem::makeFolder(std::string_view path) {
-  constexpr mode_t lessTheMask = 0777;
-  if (::mkdir(toHostPath(path).c_str(), lessTheMask) != 0 && !(errno == EEXIST && isFolder(path)))
+  constexpr mode_t everyone = 0777;  // the umask applies
+  if (::mkdir(toHostPath(path).c_str(), everyone) != 0 && !(errno == EEXIST && isFolder(path)))
     throwSystemError(path);
 }
 

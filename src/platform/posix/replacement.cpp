@@ -31,7 +31,7 @@ mode_t modeOfNewFiles() {
   return 0666 & ~mask;
 }
 
-/// The file that a chain of links ends at, also where none stands there yet.
+/// Follows a chain of links. The last target need not exist.
 fs::path endOfLinks(fs::path path) {
   constexpr int longestChain = 40;
   for (int i = 0; i < longestChain; ++i) {
@@ -65,10 +65,10 @@ Replacement::Replacement(std::string_view documentPath)
   requireUsable(documentPath);
 }
 
-// From here on the object stands, so that its end takes away what a failing step leaves.
+// The delegated constructor has completed, so if a step throws, the destructor removes the temporary file.
 Replacement::Replacement(std::string_view documentPath, std::string_view bytes) : Replacement(documentPath) {
   open(folderOf(target_));
-  takePlace();
+  adoptAttributes();
   if (!writeAll(file_.get(), bytes)) throwSystemError(documentPath_);
 }
 
@@ -76,7 +76,7 @@ Replacement::~Replacement() {
   if (file_.isOpen() && !name_.empty()) ::unlink(name_.c_str());
 }
 
-/// Without a name, so that not even a kill leaves anything behind; with one where the system knows no other.
+/// Prefers a file without a name, of which nothing remains even if the process is killed.
 void Replacement::open(const fs::path& folder) {
   const bool canBeNamed = ::access("/proc/self/fd", X_OK) == 0;
   errno = EOPNOTSUPP;
@@ -90,8 +90,8 @@ void Replacement::open(const fs::path& folder) {
   if (!file_.isOpen()) throwSystemError(documentPath_);
 }
 
-/// Refuses a place that holds no file, or one that is not to be written.
-void Replacement::takePlace() {
+/// Gives the temporary file the mode and owner of the old one. Throws if that is not a writable regular file.
+void Replacement::adoptAttributes() {
   struct stat old {};
   if (::stat(target_.c_str(), &old) != 0) {
     if (errno != ENOENT || ::fchmod(file_.get(), modeOfNewFiles()) != 0) throwSystemError(documentPath_);
@@ -99,10 +99,10 @@ void Replacement::takePlace() {
   }
   if (S_ISDIR(old.st_mode)) throwSystemError(documentPath_, EISDIR);
   if (!S_ISREG(old.st_mode)) throw FileError(documentPath_, "is not a regular file");
-  // The mark is the author's word, and it counts for the system's administrator too.
+  // access() alone would let root write a file that its owner has made read-only.
   const bool markedReadOnly = (old.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0;
   if (markedReadOnly || ::access(target_.c_str(), W_OK) != 0) throw FileError(documentPath_, "is read-only");
-  // Only an administrator can keep a foreign owner; for others the file becomes theirs.
+  // Only root can keep another owner. For other users the file becomes theirs.
   if (::fchown(file_.get(), old.st_uid, old.st_gid) != 0) errno = 0;
   if (::fchmod(file_.get(), old.st_mode & 07777) != 0) throwSystemError(documentPath_);
 }
@@ -119,7 +119,7 @@ void Replacement::flushDevice(std::set<dev_t>& flushed) {
   flushed.insert(status.st_dev);
 }
 
-/// Gives a file without a name one of its own, which only a renaming can turn into that of another file.
+/// Gives a nameless file a temporary name, since linkat() cannot replace an existing file.
 void Replacement::nameIn(const fs::path& folder) {
   const auto self = "/proc/self/fd/" + std::to_string(file_.get());
   for (unsigned attempt = 0;; ++attempt) {

@@ -6,8 +6,8 @@
 
 namespace nimbrel {
 
-/// An item. Nearly everything stands three times, for its states 1 Normal, 2 Mouse Over and 3 Mouse Click.
-/// A new object holds empty texts and zeros until `SetDefaultValues` or a reader fills it.
+/// An item. Most properties exist three times, for the states 1 Normal, 2 Mouse Over and 3 Mouse Click.
+/// A new object has empty texts and zeros until `SetDefaultValues` or a reader sets them.
 struct ItemObj {
   SharedText ItemName1;                  ///< text of the item in state 1
   SharedText ItemName2;                  ///< text of the item in state 2
@@ -69,12 +69,12 @@ struct ItemObj {
   SharedText JavascriptCommand1;         ///< script command of state 1
   SharedText JavascriptCommand2;         ///< script command of state 2
   SharedText JavascriptCommand3;         ///< script command of state 3
-  SharedText URL;                        ///< address that the item leads to
+  SharedText URL;                        ///< address that the item opens
   SharedText TargetFrame;                ///< frame or window in which the address opens
-  float HasSubmenu = 0;  ///< not zero: flagged in the file; the tree alone tells whether there is one
+  float HasSubmenu = 0;  ///< stored as a flag; whether there is a submenu follows from the tree alone
 
-  // Calculated by each compile, never stored, copied or compared: the numbers of shared styles as text
-  // (empty: none) and of images in the compiled menu (from 1, 0: none).
+  // Calculated by each compile; not stored, copied or compared. Numbers of styles in the compiled menu as
+  // text (empty: no style), and of images (from 1; 0: no image).
   SharedText ItemStyleID1;
   SharedText ItemStyleID2;
   SharedText ItemStyleID3;

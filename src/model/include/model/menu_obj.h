@@ -6,13 +6,13 @@
 
 namespace nimbrel {
 
-/// The main menu, its title and its container, the box in which its items stand.
-/// A new object holds empty texts and zeros until `SetDefaultValues` or a reader fills it.
+/// The main menu: its position and behaviour, its title and its container, the box of its items.
+/// A new object has empty texts and zeros until `SetDefaultValues` or a reader sets them.
 struct MenuObj : TitledContainer {
   SharedText menuname;        ///< name of the main menu; its node text
   std::uint8_t MenuType = 0;  ///< layout of the main menu (vertical, horizontal, horizontal menubar)
-  std::uint8_t Movable = 0;   ///< the user of the page can drag the menu
-  std::uint8_t Drifty = 0;    ///< whether and on which scrolls the menu drifts
+  std::uint8_t Movable = 0;   ///< visitors of the page can drag the menu
+  std::uint8_t Drifty = 0;    ///< on which kinds of scrolling the menu moves with the page
   std::uint8_t CornerForPositioning = 0;   ///< edge or corner from which the position is measured
   float HorizontalDistanceFromCorner = 0;  ///< horizontal distance from that edge
   float VerticalDistanceFromCorner = 0;    ///< vertical distance from that edge

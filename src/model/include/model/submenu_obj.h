@@ -7,7 +7,7 @@
 namespace nimbrel {
 
 /// A submenu: when, where and how it opens, its title and its container.
-/// A new object holds empty texts and zeros until `SetDefaultValues` or a reader fills it.
+/// A new object has empty texts and zeros until `SetDefaultValues` or a reader sets them.
 struct SubmenuObj : TitledContainer {
   SharedText SubmenuName;             ///< name of the submenu; its node text
   std::uint8_t SubmenuWhen = 0;       ///< when the submenu opens
@@ -25,7 +25,7 @@ struct SubmenuObj : TitledContainer {
 
 // clang-format off
 inline constexpr auto submenuProperties = std::to_array<Property<SubmenuObj>>({
-    {V110, "SubmenuName",          &SubmenuObj::SubmenuName,          "0", FileForm::Marked},  // kept, see SubmenuType
+    {V110, "SubmenuName",          &SubmenuObj::SubmenuName,          "0", FileForm::Marked},  // Quirk: see SubmenuType
     {V110, "DisplayNameAsTitle",   &SubmenuObj::DisplayNameAsTitle,   1, StyleOfClass | StyleOfMenu},
     {V200, "SubmenuWhen",          &SubmenuObj::SubmenuWhen,          0, StyleOfClass},
     {V200, "SubmenuWhere",         &SubmenuObj::SubmenuWhere,         -4, StyleOfClass},
@@ -33,7 +33,7 @@ inline constexpr auto submenuProperties = std::to_array<Property<SubmenuObj>>({
     {V200, "OpenDirection",        &SubmenuObj::OpenDirection,        0, StyleOfClass},
     {V200, "UnfoldDirection",      &SubmenuObj::UnfoldDirection,      0, StyleOfClass},
     {V200, "SubmenuAlignment",     &SubmenuObj::SubmenuAlignment,     0, StyleOfClass},
-    {V120, "SubmenuType",          &SubmenuObj::SubmenuType,          NoDefault{}},  // kept: its default goes to SubmenuName
+    {V120, "SubmenuType",          &SubmenuObj::SubmenuType,          NoDefault{}},  // Quirk: its default goes to SubmenuName
     {V110, "TitleImage",           &SubmenuObj::TitleImage,           notSet, FileForm::Escaped, NoStyle, &SubmenuObj::TitleImageNo},
     {V110, "TitleImageAlignment",  &SubmenuObj::TitleImageAlignment,  0, StyleOfClass | StyleOfMenu},
     {V110, "TitleTextAlignment",   &SubmenuObj::TitleTextAlignment,   1, StyleOfClass | StyleOfMenu},

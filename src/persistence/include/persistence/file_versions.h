@@ -31,7 +31,7 @@ inline constexpr auto fileFormats = std::to_array<FileFormat>({
 /// The version that is written.
 inline constexpr const FileFormat& currentFormat = fileFormats.back();
 
-/// Return the version with that magic, or nullptr if there is none.
+/// Return the row with that magic, or nullptr if there is none.
 constexpr const FileFormat* formatWith(std::string_view FileFormat::*column, std::string_view magic) {
   const auto* found = std::ranges::find(fileFormats, magic, column);
   return magic.empty() || found == fileFormats.end() ? nullptr : found;

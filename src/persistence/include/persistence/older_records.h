@@ -6,8 +6,8 @@
 #include "model/element.h"
 #include "persistence/file_handle.h"
 
-/// The records of file versions without closing markers. Properties that a version lacks stay as they are in a
-/// new object, empty and zero.
+/// The records of file versions without closing markers. Properties that a version lacks stay as they are in
+/// a new object, empty and zero.
 namespace nimbrel {
 
 /// How submenus open. These versions store it once, in the main menu's record; each submenu record after it
@@ -18,7 +18,7 @@ struct SubmenuCarryOver {
   std::uint8_t bcSubmenusHow = 0;
 };
 
-/// Reads the values of one record, which the element is to be new for. An image that begins with "*" has that
+/// Reads the values of one record into a new element. An image that begins with "*" has that
 /// character replaced by `FPath`. Throws `FileError` if a value cannot be converted; the values before it are
 /// then in the element.
 void readOlderRecord(FileHandle& file, FileVersion version, std::string_view FPath,

@@ -19,18 +19,16 @@ class RecordReader {
   RecordReader(FileHandle& file, const FileFormat& format, std::string_view FPath,
                SubmenuCarryOver& carryOver);
 
-  /// Reads all values that the file's version stores for the element's class, and in a version with end marks
-  /// everything up to the closing marker. The element is to be new: properties that the version lacks stay as
-  /// they are, or in a version with end marks get their defaults. Throws `FileError` if a value cannot be
-  /// converted.
+  /// Reads the values that the file's version has for the class of a new element. In a version with end marks
+  /// it also skips everything up to the closing marker, and sets properties newer than the version to their
+  /// defaults; for other versions see `readOlderRecord`. Throws `FileError` if a value cannot be converted.
   void ReadPropertiesFromFile(Element& element);
 
  private:
   template <class E>
   struct Value {
     const Property<E>* property;
-    std::string_view
-        asItStood;  ///< text of the last record's value with its comma; empty: parse the next one
+    std::string_view source;  ///< text of the last record's value with its comma; empty: parse the next one
   };
 
   template <class E>

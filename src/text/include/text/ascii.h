@@ -4,10 +4,10 @@
 #include <string>
 #include <string_view>
 
-/// What is known of a byte without a locale: the letters and digits of ASCII alone.
+/// Character functions without a locale. Only ASCII letters and digits are recognized.
 namespace nimbrel {
 
-/// Ends each line of every file we write.
+/// The line end of all files that Nimbrel writes.
 inline constexpr std::string_view lineEnd = "\r\n";
 
 constexpr bool isDigit(char c) { return c >= '0' && c <= '9'; }
