@@ -1,10 +1,9 @@
 #include "gallery/style_file.h"
 
-#include <fstream>
 #include <gmock/gmock.h>
-#include <iterator>
 
 #include "platform/memory/memory_file_system.h"
+#include "support/bytes_of.h"
 
 namespace nimbrel {
 namespace {
@@ -31,7 +30,7 @@ class StyleFile : public testing::Test {
   MenuStyle style;
 };
 
-TEST_F(StyleFile, ComesBackWithTheLookAndItsPictures) {
+TEST_F(StyleFile, IsReadBackWithItsPictures) {
   menu.BGImage = "C:\\pics\\a.gif";
   menu.BGColor = "#123456";
   menu.menuname = "content";
@@ -47,7 +46,7 @@ TEST_F(StyleFile, ComesBackWithTheLookAndItsPictures) {
   EXPECT_EQ(style.submenu.BGImage, "C:\\p\\gallery\\Blue-images\\a.gif");
   EXPECT_EQ(style.submenu.BGColor, "#123456");
   EXPECT_EQ(style.item.HasSubmenuImage2, "C:\\p\\gallery\\Blue-images\\b.gif");
-  EXPECT_EQ(style.item.ItemImage1, "n") << "content is no look";
+  EXPECT_EQ(style.item.ItemImage1, "n") << "not part of a style";
   EXPECT_THAT(text("Blue"), testing::Not(HasSubstr("content")));
   EXPECT_TRUE(report.findings.empty());
 
@@ -56,7 +55,7 @@ TEST_F(StyleFile, ComesBackWithTheLookAndItsPictures) {
   EXPECT_TRUE(report.findings.empty());
 }
 
-TEST_F(StyleFile, WithoutPicturesHasNoFolderAndOneThatIsMissingIsTold) {
+TEST_F(StyleFile, WithoutPicturesHasNoFolderAndReportsAMissingPicture) {
   save("Plain");
   EXPECT_THAT(text("Plain"), testing::StartsWith("nbs200\r\n 0 \r\n"));
   EXPECT_FALSE(files.isFolder("C:\\p\\gallery\\Plain-images"));
@@ -67,21 +66,18 @@ TEST_F(StyleFile, WithoutPicturesHasNoFolderAndOneThatIsMissingIsTold) {
   EXPECT_THAT(text("Plain"), HasSubstr("Plain-images\\gone.gif"));
 }
 
-TEST_F(StyleFile, ReadsOlderOnesAndRefusesOthers) {
+TEST_F(StyleFile, IsReadInOlderVersionsButNotInOtherFormats) {
   save("New");
   files.files["C:\\p\\gallery\\Foreign.nbs"] = "foo,bar";
-  files.files["C:\\p\\gallery\\Empty.nbs"] = "";
   EXPECT_FALSE(ReadStyleFile(files, "C:\\p", "Foreign", carryOver, style));
-  EXPECT_FALSE(ReadStyleFile(files, "C:\\p", "Empty", carryOver, style));
   files.files["C:\\p\\gallery\\Cut.nbs"] = text("New").substr(0, text("New").size() - 20);
   EXPECT_THROW(ReadStyleFile(files, "C:\\p", "Cut", carryOver, style), FileError);
-  EXPECT_EQ(style.submenu.BGColor, "#C0C0C0") << "what was read stays";
+  EXPECT_EQ(style.submenu.BGColor, "#C0C0C0") << "the record read before the error stays";
 
-  std::ifstream old(NIMBREL_TEST_DATA "/golden/styles/nbs120.nbs", std::ios::binary);
-  files.files["C:\\p\\gallery\\Old.nbs"] = {std::istreambuf_iterator<char>(old), {}};
+  files.files["C:\\p\\gallery\\Old.nbs"] = bytesOf(NIMBREL_TEST_DATA "/golden/styles/nbs120.nbs");
   carryOver.bcSubmenusHow = 2;
   ASSERT_TRUE(ReadStyleFile(files, "C:\\p", "Old", carryOver, style));
-  EXPECT_EQ(style.submenu.SubmenuHow, 2);  // kept: what the last older menu file left
+  EXPECT_EQ(style.submenu.SubmenuHow, 2);  // Quirk: from the last older menu file
   EXPECT_EQ(style.submenu.BorderColor, "BorderColor 90");
   EXPECT_EQ(style.item.BGImage3, "C:\\p\\gallery\\BGImage3, 176");
 }

@@ -8,8 +8,8 @@
 namespace nimbrel {
 namespace {
 
-/// The keys of all nodes, each as a line. Nodes with elements have the keys of those, and the counter is past
-/// all of them.
+/// The keys of all nodes, one per line. Checks that the elements have the same keys, and that the counter is
+/// greater than all of them.
 std::string keysOf(const Document& document) {
   std::string keys;
   std::size_t elements = 0;
@@ -23,8 +23,8 @@ std::string keysOf(const Document& document) {
   return keys;
 }
 
-// Beside each file stands what saving makes of it, and what is noted on the way if anything is.
-TEST(MenuFileReader, ReadsEveryFormAndNotesWhatIsOdd) {
+// Next to each file are the bytes that saving gives, and the expected notes if any.
+TEST(MenuFileReader, ReadsEveryFormAndNotesOddities) {
   for (const auto& folder : {casesIn("older"), casesIn("rewritten")}) {
     EXPECT_GE(folder.size(), 3U);
     for (const auto& path : folder) {
@@ -40,7 +40,7 @@ TEST(MenuFileReader, ReadsEveryFormAndNotesWhatIsOdd) {
   }
 }
 
-// Values that stand as in the record ahead are passed over, but not those of which there is something to note.
+// Values equal to those of the record before are skipped, but not if they cause a note.
 TEST(MenuFileReader, NotesAnOddValueEachTime) {
   Document document;
   BuildDefaultDocument(document);
@@ -53,8 +53,8 @@ TEST(MenuFileReader, NotesAnOddValueEachTime) {
   EXPECT_EQ(notes.size(), 9U) << "three names of three items";
 }
 
-// Beside each file stands the message, and behind that the keys of the nodes that were read by then.
-TEST(MenuFileReader, StopsAtWhatIsBrokenAndKeepsTheNodesSoFar) {
+// Next to each file is the expected message, followed by the keys of the nodes read before the error.
+TEST(MenuFileReader, StopsAtErrorsAndKeepsTheNodesReadSoFar) {
   const auto cases = casesIn("broken");
   EXPECT_FALSE(cases.empty());
   for (auto path : cases) {
@@ -72,8 +72,8 @@ TEST(MenuFileReader, StopsAtWhatIsBrokenAndKeepsTheNodesSoFar) {
   }
 }
 
-// Wherever a file is cut off, whole records stay and nothing else.
-TEST(MenuFileReader, TakesAFileThatIsCutOffAnywhere) {
+// The complete records of the file stay.
+TEST(MenuFileReader, ReadsAFileThatIsTruncatedAnywhere) {
   const auto bytes = bytesOf(goldenMenuFiles / "worked-example.nbr");
   for (std::size_t size = 0; size < bytes.size(); ++size) {
     Document document;
@@ -86,7 +86,7 @@ TEST(MenuFileReader, TakesAFileThatIsCutOffAnywhere) {
   }
 }
 
-TEST(MenuFileReader, LoadsAFileInPlaceOfTheDocument) {
+TEST(MenuFileReader, ReplacesTheDocumentByTheFile) {
   MemoryFileSystem files;
   files.files = {{"C:\\menus\\a.nbr", bytesOf(goldenMenuFiles / "worked-example.nbr")},
                  {"C:\\menus\\page.html", "<html>"}};
@@ -107,8 +107,8 @@ TEST(MenuFileReader, LoadsAFileInPlaceOfTheDocument) {
   EXPECT_EQ(document.settings, CompileSettings{});
 }
 
-// An older version says how submenus open in the main menu, so that what is read next opens the same way.
-TEST(MenuFileReader, LeavesTheWayOfOpeningOfOlderVersionsToWhatIsReadNext) {
+// Older versions store how submenus open with the main menu. A style read afterwards uses it too.
+TEST(MenuFileReader, KeepsHowSubmenusOpenInOlderVersionsForTheNextFile) {
   SubmenuCarryOver carryOver;
   Document document;
   Findings notes;
@@ -117,11 +117,11 @@ TEST(MenuFileReader, LeavesTheWayOfOpeningOfOlderVersionsToWhatIsReadNext) {
     return std::tuple(carryOver.bcSubmenusWhen, carryOver.bcSubmenusWhere, carryOver.bcSubmenusHow);
   };
   EXPECT_EQ(load("older/nbr110/read.nbr"), std::tuple(1, -2.5, 7));
-  EXPECT_EQ(load("worked-example.nbr"), std::tuple(1, -2.5, 7)) << "the current version carries nothing over";
+  EXPECT_EQ(load("worked-example.nbr"), std::tuple(1, -2.5, 7)) << "the current version does not change it";
   EXPECT_EQ(load("older/nbr120/read.nbr"), std::tuple(0, 3, 1));
 }
 
-TEST(MenuFileReader, NestsAsDeepAsTheCounterAllows) {
+TEST(MenuFileReader, ReadsTheDeepestPossibleTree) {
   std::string bytes = "nbr110\r\n0,!!,X0\r\n";
   for (int i = 1; i < 32767; ++i) bytes += "X" + std::to_string(i - 1) + ",!!,X" + std::to_string(i) + "\r\n";
   const Document document = readBytes(bytes);

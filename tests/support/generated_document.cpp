@@ -13,7 +13,7 @@ class Chance {
  public:
   explicit Chance(unsigned seed) : engine_(seed) {}
 
-  /// A number from 0 to `end` - 1, by our own reckoning: distributions differ between libraries.
+  /// A number from 0 to `end` - 1. Standard distributions differ between libraries.
   std::size_t below(std::size_t end) { return engine_() % end; }
   bool oneIn(std::size_t n) { return below(n) == 0; }
 
@@ -21,7 +21,7 @@ class Chance {
   std::mt19937 engine_;
 };
 
-constexpr char escape = '\xB3';  // comes back from a file as a comma
+constexpr char escape = '\xB3';  // read from a file as a comma
 
 std::string anyText(Chance& chance, std::size_t longest) {
   std::string text(chance.below(longest + 1), ' ');
@@ -32,14 +32,15 @@ std::string anyText(Chance& chance, std::size_t longest) {
   return text;
 }
 
-/// Less what only a value between marks keeps: outer blanks and a quote ahead; a star ahead stands for a folder.
+/// Removes what only marked values can contain: outer blanks and a quote at the start. A star would mean a
+/// folder.
 std::string bare(std::string text) {
   text.erase(0, text.find_first_not_of(" \"*"));
   text.erase(text.find_last_not_of(' ') + 1);
   return text;
 }
 
-/// Less commas, too, which only escaped values keep.
+/// A text without commas too, which only escaped values can contain.
 std::string rawText(Chance& chance, std::size_t longest) {
   std::string text = anyText(chance, longest);
   std::erase(text, ',');

@@ -1,15 +1,12 @@
 #include "text/numbers.h"
 
-#include <cmath>
-#include <cstring>
 #include <gtest/gtest.h>
 #include <limits>
-#include <random>
 
 namespace nimbrel {
 namespace {
 
-TEST(GeneralForm, HasSevenDigitsAndAnExponentOnlyAtTheEnds) {
+TEST(GeneralForm, HasSevenDigitsAndAnExponentOnlyForVeryLargeAndSmallNumbers) {
   using Limits = std::numeric_limits<float>;
   for (const auto& [value, text] :
        std::vector<std::pair<float, const char*>>{{-0.0F, "0"},
@@ -30,22 +27,7 @@ TEST(GeneralForm, HasSevenDigitsAndAnExponentOnlyAtTheEnds) {
   EXPECT_EQ(printedForm(-5), "-5 ");
 }
 
-// A document that is written, read and written again must not change any more.
-TEST(GeneralForm, IsStableAfterOneWayThroughText) {
-  std::mt19937 engine(1);
-  for (int i = 0; i < 50'000; ++i) {
-    const auto bits = static_cast<std::uint32_t>(engine());
-    float value = 0;
-    std::memcpy(&value, &bits, sizeof value);
-    if (!std::isfinite(value)) continue;
-    const auto text = generalForm(value);
-    const auto back = parseSingle(text);
-    ASSERT_TRUE(back) << text;
-    ASSERT_EQ(generalForm(*back), text);
-  }
-}
-
-TEST(ParseSingle, TakesNumberTextsAsAWholeAndNothingElse) {
+TEST(ParseSingle, AcceptsOnlyCompleteNumbers) {
   for (const auto& [text, value] : std::vector<std::pair<const char*, float>>{
            {" 1.5 ", 1.5F}, {"+.5", 0.5F}, {"-4.", -4}, {"1E+03", 1000}, {"1e-7", 1e-7F}, {"1e-99", 0}}) {
     EXPECT_EQ(parseSingle(text), value) << text;
@@ -73,7 +55,7 @@ TEST(ParseByteAndInteger, RoundTiesToEvenAndStayInRange) {
   EXPECT_FALSE(parseInteger("12px"));
 }
 
-TEST(ParseBoolean, TakesTheWordsInAnyCaseAndNumbers) {
+TEST(ParseBoolean, AcceptsTheWordsInAnyCaseAndNumbers) {
   for (const auto* text : {"True", "TRUE", "-1", " 0.5 "}) EXPECT_EQ(parseBoolean(text), true) << text;
   for (const auto* text : {"fALSE", "0", "-0"}) EXPECT_EQ(parseBoolean(text), false) << text;
   for (const auto* text : {"", "yes", "Truer", "n"}) EXPECT_FALSE(parseBoolean(text)) << text;

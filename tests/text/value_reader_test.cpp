@@ -14,7 +14,7 @@ std::vector<std::string> valuesOf(std::string_view text) {
   return values;
 }
 
-TEST(ValueReader, PartsAtCommasAndEveryKindOfLineEnd) {
+TEST(ValueReader, SplitsAtCommasAndAllKindsOfLineEnds) {
   using Values = std::vector<std::string>;
   for (const auto& [text, values] : std::vector<std::pair<const char*, Values>>{
            {"", {}},
@@ -51,7 +51,7 @@ TEST(ValueReader, KnowsTheLineOfTheLastValueAndTheEnd) {
   EXPECT_EQ(repeating.line(), 2U);
 }
 
-TEST(ValueReader, PassesOverAValueThatStandsAsAnEarlierOneButNotOneThatOnlyBeginsSo) {
+TEST(ValueReader, SkipsAValueThatIsEqualToAnEarlierOneButNotOneThatOnlyBeginsLikeIt) {
   for (const auto* text : {"n,n,rest of it", "1234567,1234567,rest of it", "12345678,12345678,rest of it",
                            ",,rest of it", "\"a, b\" ,\"a, b\" ,rest of it"}) {
     ValueReader reader(text);

@@ -6,7 +6,7 @@
 namespace nimbrel {
 namespace {
 
-TEST(Windows1252, MapsTheUpperHalfAndHoldsWhatTheSetLacksAsReference) {
+TEST(Windows1252, MapsTheUpperHalfAndStoresOtherCharactersAsReferences) {
   for (const auto& [oneByte, utf8] : std::vector<std::pair<std::string, std::string>>{
            {"a\x80\x99\xE4\xFF", "a€™äÿ"},
            {"\x81\x8D\x8F\x90\x9D", "\u0081\u008D\u008F\u0090\u009D"},
@@ -17,24 +17,24 @@ TEST(Windows1252, MapsTheUpperHalfAndHoldsWhatTheSetLacksAsReference) {
   }
 }
 
-TEST(Windows1252, LeavesReferencesThatItDoesNotWrite) {
+TEST(Windows1252, LeavesReferencesInOtherFormsUnchanged) {
   for (const auto* text : {"&#65;", "&#228;", "&#129;", "&#01052;", "&#x41C;", "&#1052", "&#;", "&amp;", "&#",
                            "&#1114112;", "&#55296;", "&#99999999999;"}) {
     EXPECT_EQ(toUtf8(text), text);
   }
 }
 
-TEST(Windows1252, TakesBrokenUtf8AsBytes) {
-  for (const auto* text : {"\xE4",                 // cut off
-                           "\xC0\xAF",             // longer than needed
+TEST(Windows1252, ReadsInvalidUtf8AsBytes) {
+  for (const auto* text : {"\xE4",                 // truncated
+                           "\xC0\xAF",             // overlong
                            "\xED\xA0\x80",         // a surrogate
-                           "\xF8\x90\x80\x80",     // no head of four bytes
-                           "\xF4\x90\x80\x80"}) {  // past the last character
+                           "\xF8\x90\x80\x80",     // not a valid first byte
+                           "\xF4\x90\x80\x80"}) {  // after the last code point
     EXPECT_EQ(fromUtf8(text), text);
   }
 }
 
-/// Texts of pieces that codecs mix up.
+/// A random sequence of texts that are easily confused.
 std::string tangle(std::mt19937& engine) {
   static const std::vector<std::string> pieces{
       "&",  "#",    "&#",       "1052",         "56448", "38", "92",    "47",     ";",
@@ -44,11 +44,11 @@ std::string tangle(std::mt19937& engine) {
   return text;
 }
 
-TEST(Windows1252, TextsAndHostNamesComeBackWhateverTheirBytes) {
+TEST(Windows1252, TextsAndHostNamesWithAnyBytesSurviveARoundTrip) {
   EXPECT_EQ(nameFromHost("Gr\u00F6\u00DFe"),
             "Gr\xF6\xDF"
             "e");
-  EXPECT_EQ(nameFromHost("a\\b").find('\\'), std::string::npos) << "would part a path in document form";
+  EXPECT_EQ(nameFromHost("a\\b").find('\\'), std::string::npos) << "would be a separator in document form";
   std::mt19937 engine(1);
   for (int i = 0; i < 20'000; ++i) {
     const auto text = tangle(engine);
