@@ -4,6 +4,7 @@
 #include "gallery/style_picking.h"
 #include "platform/posix/host_paths.h"
 #include "platform/posix/program_folder.h"
+#include "text/ascii.h"
 #include "text/windows1252.h"
 
 namespace nimbrel {
@@ -43,8 +44,7 @@ ExitStatus styleCreateCommand(const Console& console, FileSystem& files,
   const auto style = nameFromHost(name);
   if (const auto* refusal = refusalOfStyleName(fromUtf8(name)))
     return refuse(console, fromHostPath(name), *refusal);
-  if (style.find_first_not_of(' ') == std::string::npos)
-    return refuse(console, "", {"", "a style needs a name"});
+  if (trimmed(style).empty()) return refuse(console, "", {"", "a style needs a name"});
   input.load(files);
   const Node* root = input.document.tvTreeView.root();
   const auto* menu = root == nullptr ? nullptr : input.document.get<MenuObj>(*root);

@@ -78,7 +78,7 @@ void frmGallery::readSelected() {
   } catch (const FileError& error) {
     ports_.asker.noteFailure(error.finding());
     const bool wasOpened = error.finding().place.line != 0;
-    StyleInvalid = !wasOpened;  // else it is shown as far as it was read
+    StyleInvalid = !wasOpened;  // a style that is only partly readable is shown
     isWhole_ = false;
   }
 }
@@ -86,7 +86,7 @@ void frmGallery::readSelected() {
 void frmGallery::cboStyle_Click() {
   readSelected();
   Frame1.enabled = !StyleInvalid;
-  btnApply.enabled = !StyleInvalid && isWhole_;  // half a look would wipe out a whole one
+  btnApply.enabled = !StyleInvalid && isWhole_;  // part of a style would overwrite a complete one
   if (StyleInvalid) {
     navigate(WebBrowser, state_.programFolder + "\\invalidstyle.html");
     return;
@@ -120,7 +120,7 @@ void frmGallery::CreatePreviewFile() {
 
 void frmGallery::WebBrowser_DocumentComplete() { Timer1.value = true; }
 
-/// Runs on until the next style is chosen; where nothing is left to remove that does no harm.
+/// The timer runs until the next style is selected. Later ticks find no files to remove.
 void frmGallery::Timer1_Timer() {
   StepReport report;
   FileSteps steps(ports_.files, report);
@@ -149,7 +149,7 @@ void frmGallery::btnDeleteStyle_Click() {
     removeStyle(ports_.files, state_.programFolder, cboStyle.text, report);
     noteFailures(report);
   }
-  FillStyleList();  // kept: also where nothing was deleted, which shows the first style again
+  FillStyleList();  // Quirk: even if nothing was deleted, which selects the first style
   Form_Activate();
 }
 

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "persistence/property_line.h"
+#include "persistence/record_reader.h"
 #include "text/ascii.h"
 #include "text/numbers.h"
 #include "text/paths.h"
@@ -11,23 +12,14 @@
 namespace nimbrel {
 namespace {
 
-constexpr std::string_view currentTag = "nbs200";
 constexpr std::string_view suffix = ".nbs";
 constexpr Message badName{"Create Style",
                           "The Style Name cannot contain any of the following characters:\r\n"
                           "\\ / : * ? \" < > |"};
 
-enum class Records { None, Version11, Version12, Version20 };
-
-Records recordsOf(std::string_view tag) {
-  if (tag == "nbs110") return Records::Version11;
-  if (tag == "nbs120") return Records::Version12;
-  return tag == currentTag ? Records::Version20 : Records::None;
-}
-
 std::string imagesFolder(const std::string& name) { return name + "-images"; }
 
-/// The pictures that belong to a look, in the order in which they are saved.
+/// The pictures of a style in the order of the file.
 std::vector<SharedText*> lookImages(MenuStyle& style) {
   auto& item = style.item;
   return {&style.submenu.BGImage, &item.BGImage1,         &item.BGImage2,        &item.BGImage3,
@@ -47,20 +39,19 @@ void prefixImages(E& element, const std::string& folder) {
   }
 }
 
-/// The list of pictures says nothing that the properties do not say. Its count ends at a blank, and the first picture
-/// follows in the same value.
+/// Skips the list of pictures, which the properties have too. The count ends at a blank, and the first
+/// picture follows in the same value.
 void passImageList(FileHandle& file) {
   const auto first = file.next();
   const auto count = parseInteger(first.substr(0, first.find(' ')));
-  if (!count) file.fail("the number of pictures is no number");
+  if (!count) file.fail("the number of pictures is not a number");
   for (std::int32_t i = 1; i < *count; ++i) file.next();
   if (*count > 0) file.passLineEnd();
 }
 
-/// Reads one record of `folder` into an element of its class. What was read ahead of a fault stays.
+/// Reads one record. `target` gets the element with full image paths, also if the reading stops.
 template <class E>
-void readRecord(FileHandle& file, Records version, RecordReader20& reader, SubmenuCarryOver& carryOver,
-                const std::string& folder, E& target) {
+void readRecord(FileHandle& file, RecordReader& reader, const std::string& folder, E& target) {
   file.beginRecord();
   Element element = E{};
   const auto take = [&] {
@@ -68,11 +59,7 @@ void readRecord(FileHandle& file, Records version, RecordReader20& reader, Subme
     prefixImages(target, folder);
   };
   try {
-    switch (version) {
-      case Records::Version11: ReadPropertiesFromFile11(file, "", carryOver, element); break;
-      case Records::Version12: ReadPropertiesFromFile12(file, "", carryOver, element); break;
-      default: reader.ReadPropertiesFromFile20(element); break;
-    }
+    reader.ReadPropertiesFromFile(element);
   } catch (const FileError&) {
     take();
     throw;
@@ -81,7 +68,7 @@ void readRecord(FileHandle& file, Records version, RecordReader20& reader, Subme
 }
 
 std::string styleFileText(const MenuStyle& style, const std::vector<std::string>& images) {
-  std::string text(currentTag);
+  std::string text(currentFormat.styleMagic);
   text += lineEnd;
   text += printedForm(static_cast<std::int32_t>(images.size()));
   for (const auto& image : images) text += image + ',';
@@ -117,14 +104,14 @@ bool ReadStyleFile(const FileSystem& files, const std::string& programFolder, st
   const auto bytes = files.read(path);
   Findings notes;
   FileHandle file(path, bytes, notes);
-  const auto version = file.atEnd() ? Records::None : recordsOf(file.next());
-  if (version == Records::None) return false;
+  const auto* format = file.atEnd() ? nullptr : formatOfStyleFile(file.next());
+  if (format == nullptr) return false;
 
   passImageList(file);
   const auto folder = galleryFolder(programFolder);
-  RecordReader20 reader(file, "");
-  readRecord(file, version, reader, carryOver, folder, style.submenu);
-  readRecord(file, version, reader, carryOver, folder, style.item);
+  RecordReader reader(file, *format, "", carryOver);
+  readRecord(file, reader, folder, style.submenu);
+  readRecord(file, reader, folder, style.item);
   return true;
 }
 
@@ -157,7 +144,7 @@ void SaveStyle(FileSystem& files, const std::string& programFolder, const std::s
     images.push_back(folder + "\\dot.gif");
     steps.copy(programFolder + "\\dot.gif", gallery + '\\' + images.back());
   }
-  // kept: the pictures of a replaced style stay behind, and their folder with them.
+  // Quirk: the pictures of a replaced style and their folder are not removed.
   if (images.empty() && files.filesIn(wholeFolder).empty()) steps.removeFolder(wholeFolder);
   steps.generate(styleFilePath(programFolder, name), styleFileText(style, images));
 }

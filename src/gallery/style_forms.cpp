@@ -2,6 +2,7 @@
 
 #include "gallery/style_file.h"
 #include "platform/settings.h"
+#include "text/ascii.h"
 
 namespace nimbrel {
 namespace {
@@ -41,9 +42,7 @@ frmSaveStyle::frmSaveStyle(Ports& ports, ProgramState& state)
   txtStyleName_Change();
 }
 
-void frmSaveStyle::txtStyleName_Change() {
-  btnOk.enabled = txtStyleName.text.find_first_not_of(' ') != std::string::npos;
-}
+void frmSaveStyle::txtStyleName_Change() { btnOk.enabled = !trimmed(txtStyleName.text).empty(); }
 
 void frmSaveStyle::btnOk_Click() {
   const auto& style = txtStyleName.text;
@@ -62,7 +61,7 @@ void frmSaveStyle::btnOk_Click() {
          .defaultButton = BoxButton::No});
     if (answer != BoxButton::Yes) return;
   }
-  state_.StyleName = style;  // blanks around it stay
+  state_.StyleName = style;  // not trimmed
   Close();
 }
 

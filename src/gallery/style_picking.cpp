@@ -8,16 +8,12 @@ constexpr Message nothingPicked{"Cannot apply style",
 constexpr Message containerOnItem{"Cannot apply style", "You cannot apply a submenu style to an item"};
 constexpr Message itemOnSubmenu{"Cannot apply style", "You cannot apply an item style to a submenu"};
 
-void clearMarks(ItemObj& item) {
-  item.HasSubmenuImage1 = item.HasSubmenuImage2 = item.HasSubmenuImage3 = notSet;
-}
-
-void dress(Document& document, const Node& node, const MenuStyle& style) {
+void apply(Document& document, const Node& node, const MenuStyle& style) {
   auto* element = document.element(node);
   if (element == nullptr) return;
   if (auto* item = std::get_if<ItemObj>(element)) {
     CopyStyleValuesFromObject(*item, style.item);
-    if (node.Child() == nullptr) clearMarks(*item);
+    if (node.Child() == nullptr) clearSubmenuImages(*item);
   } else if (auto* submenu = std::get_if<SubmenuObj>(element)) {
     CopyStyleValuesFromObject(*submenu, style.submenu);
   } else {
@@ -60,13 +56,13 @@ void ApplyStyle(Document& document, Node& node, StyleScope scope, const MenuStyl
     case StyleScope::Menu: {
       const Node* root = document.tvTreeView.root();
       for (const Node* each = root; each != nullptr; each = following(each, root))
-        dress(document, *each, style);
+        apply(document, *each, style);
       break;
     }
     case StyleScope::Submenu:
-      dress(document, node, style);
+      apply(document, node, style);
       for (const Node* child = node.Child(); child != nullptr; child = child->Next())
-        dress(document, *child, style);
+        apply(document, *child, style);
       break;
     case StyleScope::Item:
       if (auto* item = document.get<ItemObj>(node)) CopyStyleValuesFromObject(*item, style.item);

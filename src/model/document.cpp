@@ -4,6 +4,12 @@
 
 namespace nimbrel {
 
+void Document::clear() {
+  NextKeyNumber = 0;
+  ElementColl.clear();
+  tvTreeView.clear();
+}
+
 bool Document::operator==(const Document& other) const {
   return NextKeyNumber == other.NextKeyNumber && settings == other.settings &&
          tvTreeView == other.tvTreeView && ElementColl.size() == other.ElementColl.size() &&

@@ -10,14 +10,7 @@ namespace {
 
 template <class E>
 void setDefaults(E& element) {
-  eachProperty<E>([&](const Property<E>& property, auto field) {
-    using Value = std::remove_reference_t<decltype(element.*field)>;
-    if constexpr (std::is_same_v<Value, SharedText>) {
-      element.*field = std::get<std::string_view>(property.initial);
-    } else if (const auto* number = std::get_if<float>(&property.initial)) {
-      element.*field = static_cast<Value>(*number);
-    }
-  });
+  for (const Property<E>& property : E::properties()) setDefault(element, property);
 }
 
 template <class E>
@@ -28,9 +21,9 @@ E copyOfProperties(const E& element) {
 }
 
 template <class Target, class Source>
-constexpr bool offersWhatTravels(Style style) {
+constexpr bool hasAllOf(Style style) {
   for (const auto& property : Target::properties()) {
-    // By name: the sanitizers of GCC allow no comparison of a row's address in here.
+    // Compare names: with sanitizers, GCC cannot compare the addresses of rows in a constant expression.
     const auto& offered = Source::properties();
     if ((property.style & style) != 0 &&
         std::ranges::find(offered, property.name, &Property<Source>::name) == offered.end()) {
@@ -40,10 +33,10 @@ constexpr bool offersWhatTravels(Style style) {
   return true;
 }
 
-/// Sets the target's properties that travel with `style` from the source's of the same name.
+/// Copies the properties that are part of `style` from the source's properties of the same name.
 template <Style style, class Target, class Source>
 void copyStyle(Target& target, const Source& source) {
-  static_assert(offersWhatTravels<Target, Source>(style));
+  static_assert(hasAllOf<Target, Source>(style));
   eachProperty<Target>([&](const Property<Target>& property, auto field) {
     if ((property.style & style) == 0) return;
     using Value = std::remove_reference_t<decltype(target.*field)>;
@@ -72,14 +65,14 @@ std::optional<Element> newElement(Kind kind) {
 
 void SetDefaultValues(MenuObj& element) { setDefaults(element); }
 
-// kept: the zero meant for `SubmenuType` goes to `SubmenuName`, which ends as "0"; the type stays as it was.
+// Quirk: the zero meant for `SubmenuType` goes to `SubmenuName`, which becomes "0". The type does not change.
 void SetDefaultValues(SubmenuObj& element) { setDefaults(element); }
 
 void SetDefaultValues(ItemObj& element) { setDefaults(element); }
 
 MenuObj clone(const MenuObj& element) {
   MenuObj copy = copyOfProperties(element);
-  // kept: three properties take the title's display, and uniform widths are not copied.
+  // Quirk: three properties get the value of `DisplayNameAsTitle`, and `UniformItemWidths` is not copied.
   copy.Collapsable = copy.MenuHow = copy.UnfoldDirection = element.DisplayNameAsTitle;
   copy.UniformItemWidths = 0;
   return copy;
@@ -89,7 +82,7 @@ SubmenuObj clone(const SubmenuObj& element) { return copyOfProperties(element); 
 
 ItemObj clone(const ItemObj& element) {
   ItemObj copy = copyOfProperties(element);
-  // kept: a copied item has its Mouse Click font for Mouse Over too.
+  // Quirk: the copy has the Mouse Click font for Mouse Over too.
   copy.FontFamily2 = element.FontFamily3;
   return copy;
 }
@@ -134,6 +127,14 @@ void setImageNo(Element& element, int slot, float number) {
         if (const auto* property = imageSlot<E>(slot)) object.*(property->imageNo) = number;
       },
       element);
+}
+
+void setNames(ItemObj& item, const SharedText& name) {
+  item.ItemName1 = item.ItemName2 = item.ItemName3 = name;
+}
+
+void clearSubmenuImages(ItemObj& item) {
+  item.HasSubmenuImage1 = item.HasSubmenuImage2 = item.HasSubmenuImage3 = notSet;
 }
 
 SharedText NodeText(const Element& element) {

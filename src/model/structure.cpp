@@ -1,6 +1,5 @@
 #include "model/structure.h"
 
-#include <limits>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -14,7 +13,7 @@ constexpr Message hasSubmenu{"Cannot create submenu",
                              "A submenu already exists for the selected item. You\r"
                              "may select the existing submenu and add items to it"};
 
-/// Enters element and node together, under one key.
+/// Adds an element and its node under one key.
 Node& enter(Document& document, std::string key, Element element, Node* relative, Relationship relationship) {
   auto text = NodeText(element);
   Node& node = relative == nullptr ? document.tvTreeView.addRoot(key, std::move(text))
@@ -24,8 +23,8 @@ Node& enter(Document& document, std::string key, Element element, Node* relative
   return node;
 }
 
-/// Dresses a new submenu as the container of its item: a main menu or a submenu.
-void dress(Document& document, SubmenuObj& submenu, const Node* container) {
+/// Gives a new submenu the style of the main menu or submenu that contains its item.
+void copyStyleOfContext(Document& document, SubmenuObj& submenu, const Node* container) {
   if (container == nullptr) return;
   if (const auto* menu = document.get<MenuObj>(*container)) {
     CopyStyleValuesFromMenuObject(submenu, *menu);
@@ -35,8 +34,8 @@ void dress(Document& document, SubmenuObj& submenu, const Node* container) {
   }
 }
 
-/// Dresses a new item as the one ahead of it, else as the one that owns its submenu.
-void dress(Document& document, ItemObj& item, const Node& node) {
+/// Gives a new item the style of the item before it, or else of the item that owns its submenu.
+void copyStyleOfContext(Document& document, ItemObj& item, const Node& node) {
   const Node* like = nullptr;
   if (const Node* parent = node.Parent()) {
     if (parent->Children() > 1) {
@@ -47,15 +46,18 @@ void dress(Document& document, ItemObj& item, const Node& node) {
   }
   const auto* source = like == nullptr ? nullptr : document.get<ItemObj>(*like);
   if (source != nullptr) CopyStyleValuesFromObject(item, *source);
-  item.HasSubmenuImage1 = item.HasSubmenuImage2 = item.HasSubmenuImage3 = notSet;
+  clearSubmenuImages(item);
 }
 
 }  // namespace
 
-void throwUsedUp() { throw std::overflow_error("the document has used up its 32767 key numbers"); }
+void throwUsedUp() {
+  throw std::overflow_error("the document has used up its " + std::to_string(Document::largestKeyNumber) +
+                            " key numbers");
+}
 
 std::string nextKeyNumber(const Document& document) {
-  if (document.NextKeyNumber == std::numeric_limits<std::int16_t>::max()) throwUsedUp();
+  if (document.NextKeyNumber == Document::largestKeyNumber) throwUsedUp();
   return std::to_string(document.NextKeyNumber);
 }
 
@@ -78,7 +80,7 @@ Node* AddSubmenu(Document& document, std::string_view parentKey) {
   SubmenuObj submenu;
   SetDefaultValues(submenu);
   submenu.SubmenuName = "Submenu" + number;
-  dress(document, submenu, parent->Parent());
+  copyStyleOfContext(document, submenu, parent->Parent());
   return &enter(document, "S" + number, std::move(submenu), parent, Relationship::Child);
 }
 
@@ -88,11 +90,11 @@ Node* AddItem(Document& document, std::string_view selectedKey) {
   const auto number = nextKeyNumber(document);
   ItemObj item;
   SetDefaultValues(item);
-  item.ItemName1 = item.ItemName2 = item.ItemName3 = "Item" + number;
+  setNames(item, "Item" + number);
   if (kindOf(selectedKey) == Kind::Item && selected->Parent() == nullptr) return nullptr;
   const auto relationship = kindOf(selectedKey) == Kind::Item ? Relationship::Next : Relationship::Child;
   Node& node = enter(document, "I" + number, std::move(item), selected, relationship);
-  dress(document, *document.get<ItemObj>(node), node);
+  copyStyleOfContext(document, *document.get<ItemObj>(node), node);
   return &node;
 }
 
@@ -102,13 +104,11 @@ void RemoveSubtree(Document& document, std::string_view key) {
   for (const Node* node = top; node != nullptr; node = following(node, top)) {
     document.ElementColl.remove(node->Key);
   }
-  document.tvTreeView.remove(top->Key);  // the key may have lain in what is gone
+  document.tvTreeView.remove(top->Key);  // `key` may be a view of a removed element's key
 }
 
 void BuildDefaultDocument(Document& document) {
-  document.NextKeyNumber = 0;
-  document.ElementColl.clear();
-  document.tvTreeView.clear();
+  document.clear();
   const Node* selected = &AddMainMenu(document);
   for (int i = 0; i < 3; ++i) {
     selected = AddItem(document, selected->Key);

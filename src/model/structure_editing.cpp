@@ -1,6 +1,5 @@
 #include "model/structure_editing.h"
 
-#include <limits>
 #include <stdexcept>
 #include <unordered_map>
 #include <utility>
@@ -20,7 +19,7 @@ constexpr Message secondSubmenu{"Cannot paste",
 
 bool isContainer(std::string_view key) { return kindOf(key) == Kind::Menu || kindOf(key) == Kind::Submenu; }
 
-/// Enters a copy of one clipboard node into the document under a new key.
+/// Adds a copy of one clipboard node to the document under a new key.
 Node& paste(Document& document, Node& target, Relationship relationship, const Node& source,
             const Clipboard& clipboard) {
   auto key = source.Key.substr(0, 1) + nextKeyNumber(document);
@@ -40,7 +39,7 @@ int nodesIn(const Node& top) {
 bool move(Document& document, Node& item, Node* neighbour, Relationship relationship) {
   if (neighbour == nullptr) return false;
   const int counter = document.NextKeyNumber + nodesIn(item);
-  if (counter > std::numeric_limits<std::int16_t>::max()) throwUsedUp();
+  if (counter > Document::largestKeyNumber) throwUsedUp();
   document.tvTreeView.move(item, *neighbour, relationship);
   document.NextKeyNumber = static_cast<std::int16_t>(counter);
   return true;
@@ -79,13 +78,13 @@ void CopySubtree(const Document& document, const Node& top, Clipboard& clipboard
 Node* PasteSubtree(Document& document, Node& target, const Clipboard& clipboard) {
   const Node* source = clipboard.tvCopyTree.root();
   if (source == nullptr) return nullptr;
-  const bool behind = kindOf(source->Key) == Kind::Item && kindOf(target.Key) == Kind::Item;
-  if (behind && target.Parent() == nullptr) return nullptr;
+  const bool after = kindOf(source->Key) == Kind::Item && kindOf(target.Key) == Kind::Item;
+  if (after && target.Parent() == nullptr) return nullptr;
   std::unordered_map<const Node*, Node*> pasted;
   for (const Node* node = source; node != nullptr; node = following(node, source)) {
     Node& made =
         node == source
-            ? paste(document, target, behind ? Relationship::Next : Relationship::Child, *node, clipboard)
+            ? paste(document, target, after ? Relationship::Next : Relationship::Child, *node, clipboard)
             : paste(document, *pasted.at(node->Parent()), Relationship::Child, *node, clipboard);
     pasted.emplace(node, &made);
   }

@@ -119,7 +119,7 @@ void Tree::place(Node& node, Node& relative, Relationship relationship) {
 void Tree::remove(std::string_view key) {
   Node* top = find(key);
   if (top == nullptr) return;
-  // Leaves first, without recursion: a file may nest as deep as it is long.
+  // Leaves first, without recursion: the depth of a file's tree is limited only by its size.
   for (Node* node = top;;) {
     while (node->firstChild_ != nullptr) node = node->firstChild_;
     Node* above = node == top ? nullptr : node->parent_;

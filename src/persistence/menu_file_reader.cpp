@@ -1,36 +1,17 @@
 #include <algorithm>
-#include <array>
 #include <charconv>
-#include <limits>
 #include <stdexcept>
 
 #include "persistence/menu_file.h"
 #include "persistence/menu_file_layout.h"
 #include "persistence/property_line.h"
+#include "persistence/record_reader.h"
 #include "text/numbers.h"
 #include "text/paths.h"
 #include "text/product.h"
 
 namespace nimbrel {
 namespace {
-
-enum class Records { Version11, Version12, Version20 };
-
-/// One version of the menu file: how many of the compile settings its header has, whether "[Menu Tree]" ends
-/// the header, and which records it has.
-struct Version {
-  std::string_view magic;
-  std::size_t settings;
-  bool hasTreeMark;
-  Records records;
-};
-
-constexpr auto versions = std::to_array<Version>({
-    {"nbr110", 0, false, Records::Version11},
-    {"nbr120", 0, false, Records::Version12},
-    {"nbr130", 2, false, Records::Version12},
-    {currentMagic, compileSettings.size(), true, Records::Version20},
-});
 
 void convert(FileHandle&, std::string_view, std::string_view value, std::string& field) { field = value; }
 
@@ -46,29 +27,25 @@ void convert(FileHandle& file, std::string_view name, std::string_view value, st
   field = *number;
 }
 
-void readHeader(FileHandle& file, const Version& version, CompileSettings& settings) {
+void readHeader(FileHandle& file, const FileFormat& format, CompileSettings& settings) {
   settings = {};
-  if (file.atEnd()) return;  // the magic line alone: a document without nodes
-  for (const CompileSetting& setting : std::span(compileSettings).first(version.settings)) {
+  if (file.atEnd()) return;  // only the magic: a document without nodes
+  for (const CompileSetting& setting : compileSettings) {
+    if (setting.since > format.version) continue;
     std::visit([&](auto field) { convert(file, setting.name, file.next(), settings.*field); }, setting.field);
   }
   // A later version's header may have more lines.
-  while (version.hasTreeMark && file.next() != treeMark) continue;
+  while (format.hasEndMarks && file.next() != treeMark) continue;
 }
 
 /// Reads the node records of one file.
 class NodeReader {
  public:
-  NodeReader(FileHandle& file, const Version& version, std::string_view folder, SubmenuCarryOver& carryOver,
+  NodeReader(FileHandle& file, const FileFormat& format, std::string_view folder, SubmenuCarryOver& carryOver,
              Document& document)
-      : file_(file),
-        records_(version.records),
-        folder_(folder),
-        carryOver_(carryOver),
-        document_(document),
-        reader20_(file, folder) {}
+      : file_(file), document_(document), records_(file, format, folder, carryOver) {}
 
-  /// Reads one node and its element, which enter the document together or not at all.
+  /// Reads one node and its element. If this fails, neither is in the document.
   void read() {
     file_.beginRecord();
     const auto parentKey = file_.next();
@@ -78,9 +55,9 @@ class NodeReader {
     Node* parent = parentOf(parentKey);
     auto element = newElement(kindOf(key));
     if (element) {
-      readRecord(*element);
+      records_.ReadPropertiesFromFile(*element);
     } else {
-      file_.note("key " + quoted(key) + " is of no known kind: a node without an element");
+      file_.note("key " + quoted(key) + " is of an unknown kind: the node has no element");
     }
     try {
       if (element) document_.ElementColl.add(key, std::move(*element));
@@ -92,27 +69,20 @@ class NodeReader {
   }
 
  private:
-  void readRecord(Element& element) {
-    switch (records_) {
-      case Records::Version11: ReadPropertiesFromFile11(file_, folder_, carryOver_, element); break;
-      case Records::Version12: ReadPropertiesFromFile12(file_, folder_, carryOver_, element); break;
-      case Records::Version20: reader20_.ReadPropertiesFromFile20(element); break;
-    }
-  }
-
   std::int16_t numberOf(std::string_view key) const {
     std::int16_t number = -1;
     const auto digits = key.substr(std::min<std::size_t>(key.size(), 1));
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
     if (error != std::errc{} || end != digits.data() + digits.size() || digits.front() == '-') {
-      file_.fail("key " + quoted(key) + " is not a letter and a number up to 32767");
+      file_.fail("key " + quoted(key) + " is not a letter and a number up to " +
+                 std::to_string(Document::largestKeyNumber));
     }
     return number;
   }
 
   Node* parentOf(std::string_view key) {
     if (key == rootParent) return nullptr;
-    // Most nodes hang from the one that the node ahead of them hangs from.
+    // Most nodes have the same parent as the node before.
     if (lastParent_ == nullptr || lastParent_->Key != key) lastParent_ = document_.tvTreeView.find(key);
     if (lastParent_ == nullptr) file_.fail("parent " + quoted(key) + " is not in the tree");
     return lastParent_;
@@ -127,23 +97,14 @@ class NodeReader {
   }
 
   FileHandle& file_;
-  Records records_;
-  std::string_view folder_;
-  SubmenuCarryOver& carryOver_;
   Document& document_;
-  RecordReader20 reader20_;
+  RecordReader records_;
   Node* lastParent_ = nullptr;
 };
 
-/// Makes the counter greater than every number in use, as far as it goes.
+/// Makes the counter greater than every number in use, up to its limit.
 void stepCounter(Document& document) {
-  if (document.NextKeyNumber < std::numeric_limits<std::int16_t>::max()) ++document.NextKeyNumber;
-}
-
-void clear(Document& document) {
-  document.NextKeyNumber = 0;
-  document.ElementColl.clear();
-  document.tvTreeView.clear();
+  if (document.NextKeyNumber < Document::largestKeyNumber) ++document.NextKeyNumber;
 }
 
 }  // namespace
@@ -153,21 +114,21 @@ NotAMenuFile::NotAMenuFile(std::string path)
 
 void readMenuFile(std::string_view bytes, const std::string& path, std::string_view folder,
                   SubmenuCarryOver& carryOver, Document& document, Findings& notes) {
-  clear(document);
+  document.clear();
   FileHandle file(path, bytes, notes);
   const auto magic = file.atEnd() ? std::string_view{} : file.next();
-  const auto version = std::ranges::find(versions, magic, &Version::magic);
-  if (version == versions.end()) throw NotAMenuFile(path);
+  const auto* format = formatOfMenuFile(magic);
+  if (format == nullptr) throw NotAMenuFile(path);
 
-  readHeader(file, *version, document.settings);
-  constexpr std::size_t usualRecord = 300;  // bytes; a guess that is off costs little
+  readHeader(file, *format, document.settings);
+  constexpr std::size_t usualRecord = 300;  // bytes, an estimate
   document.tvTreeView.reserve(bytes.size() / usualRecord);
   document.ElementColl.reserve(bytes.size() / usualRecord);
-  NodeReader nodes(file, *version, folder, carryOver, document);
+  NodeReader nodes(file, *format, folder, carryOver, document);
   try {
     while (!file.atEnd()) nodes.read();
   } catch (const FileError&) {
-    stepCounter(document);  // what was read can be worked on: its keys are taken
+    stepCounter(document);  // the author can go on with the nodes read so far
     throw;
   }
   stepCounter(document);
@@ -175,7 +136,7 @@ void readMenuFile(std::string_view bytes, const std::string& path, std::string_v
 
 void LoadMenuFile(const FileSystem& files, std::string_view folder, std::string_view fileName,
                   SubmenuCarryOver& carryOver, Document& document, Findings& notes) {
-  clear(document);
+  document.clear();
   const auto path = joinPath(folder, fileName);
   const auto bytes = files.read(path);
   readMenuFile(bytes, path, folder, carryOver, document, notes);

@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "persistence/file_versions.h"
 #include "persistence/menu_file.h"
 #include "persistence/menu_file_layout.h"
 #include "persistence/property_line.h"
@@ -9,8 +10,8 @@
 namespace nimbrel {
 namespace {
 
-/// A comma would end the value at the reader and shift all behind it; in quotes it stays whole. Where both come
-/// together, or a line breaks, a likeness is written: else the file could not be read again.
+/// A comma would end the value and shift all later ones, so such a value is quoted. Quotes in it become "'"
+/// and line breaks blanks, since the format cannot express them.
 std::string lineOf(std::string value) {
   if (value.find_first_of(",\r\n") == std::string::npos) return value;
   std::ranges::replace(value, '"', '\'');
@@ -25,7 +26,7 @@ void WriteNode(std::string& out, const Document& document, const Node& node) {
   out.append(node.Parent() == nullptr ? printedForm(0) : node.Parent()->Key).append(lineEnd);
   appendMarked(out, node.Text);
   out.append(lineEnd).append(node.Key).append(lineEnd);
-  // A foreign node without an element is written as it was read, without a property line.
+  // A node of an unknown kind has no element and gets no property line.
   if (const Element* element = document.element(node)) {
     appendParameterString(out, *element);
     out += lineEnd;
@@ -35,14 +36,14 @@ void WriteNode(std::string& out, const Document& document, const Node& node) {
 }  // namespace
 
 std::string menuFileText(const Document& document) {
-  std::string out(currentMagic);
+  std::string out(currentFormat.menuMagic);
   out += lineEnd;
   for (const CompileSetting& setting : compileSettings) {
     std::visit([&](auto field) { out.append(lineOf(document.settings.*field)).append(lineEnd); },
                setting.field);
   }
   out.append(treeMark).append(lineEnd);
-  // kept: a second root, which only a foreign file brings, is not written.
+  // Quirk: further roots, which only a file can bring, are not written.
   const Node* root = document.tvTreeView.root();
   for (const Node* node = root; node != nullptr; node = following(node, root))
     WriteNode(out, document, *node);

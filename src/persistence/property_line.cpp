@@ -27,7 +27,7 @@ void append(std::string& out, FileForm form, const SharedText& value) {
   switch (form) {
     case FileForm::Marked: appendMarked(out, value); break;
     case FileForm::Escaped: appendEscaped(out, value); break;
-    default: out += value;  // kept: a comma in a raw value stands as it is and shifts what is read behind it
+    default: out += value;  // Quirk: a comma in a raw value is not escaped and shifts later values
   }
 }
 
@@ -46,7 +46,7 @@ Number converted(FileHandle& file, std::string_view name, std::string_view value
                  std::optional<Number> number, std::string_view expected) {
   if (!number) {
     file.fail(std::string(name) + ": " + quoted(value) + " is not " + std::string(expected) +
-              " (a comma or line break in a value ahead of it shifts the rest)");
+              " (a comma or line break in an earlier value shifts all later ones)");
   }
   return *number;
 }
@@ -79,16 +79,6 @@ void read(FileHandle& file, std::string_view, const Property<E>& property, float
   } else {
     field = converted(file, property.name, value, parseSingle(value), "a number");
   }
-}
-
-void skipToMarker(FileHandle& file, std::string_view marker) {
-  std::size_t dropped = 0;
-  while (file.next() != marker) ++dropped;
-  if (dropped == 0) return;
-  file.note(
-      std::to_string(dropped) +
-      " more values than are known: written by a later version, or a comma in a font, font size, colour or "
-      "border style has shifted the values behind it");
 }
 
 }  // namespace
@@ -144,24 +134,5 @@ void readProperty(FileHandle& file, std::string_view FPath, const Property<E>& p
 template void readProperty(FileHandle&, std::string_view, const Property<MenuObj>&, MenuObj&);
 template void readProperty(FileHandle&, std::string_view, const Property<SubmenuObj>&, SubmenuObj&);
 template void readProperty(FileHandle&, std::string_view, const Property<ItemObj>&, ItemObj&);
-
-void RecordReader20::ReadPropertiesFromFile20(Element& element) {
-  std::visit(
-      [this]<class E>(E& object) {
-        auto& last = std::get<LastRecord<E>>(last_);
-        std::size_t i = 0;
-        for (const auto& property : E::properties()) {
-          auto& asItStood = last.values[i++];
-          if (file_.skip(asItStood)) continue;
-          const auto notes = file_.notes();
-          readProperty(file_, FPath_, property, last.element);
-          // A value of which there is something to note is looked at each time.
-          asItStood = file_.notes() == notes ? file_.lastAsItStood() : std::string_view{};
-        }
-        object = last.element;
-      },
-      element);
-  skipToMarker(file_, closingMarker(kindOf(element)));
-}
 
 }  // namespace nimbrel

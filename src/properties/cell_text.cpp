@@ -13,12 +13,6 @@
 namespace nimbrel {
 namespace {
 
-std::string_view trim(std::string_view text) {
-  const auto first = text.find_first_not_of(' ');
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
 const SharedText* textOf(const PropertyValue& value) { return std::get_if<SharedText>(&value); }
 
 double numberOf(const PropertyValue& value) {
@@ -34,12 +28,12 @@ SharedText plainText(const PropertyValue& value) {
 
 SharedText trimmedText(const PropertyValue& value) {
   const auto text = plainText(value);
-  const auto trimmed = trim(text);
-  return trimmed.size() == text.view().size() ? text : SharedText(trimmed);
+  const auto inner = trimmed(text);
+  return inner.size() == text.view().size() ? text : SharedText(inner);
 }
 
 SharedText listText(const ChoiceList& choices, PropertyValue& value) {
-  if (const auto* text = textOf(value); text != nullptr && trim(*text).empty()) return {};
+  if (const auto* text = textOf(value); text != nullptr && trimmed(*text).empty()) return {};
   const auto& stored = choices.StoredValues;
   auto found = std::ranges::find_if(stored, [&](const auto& entry) { return sameValue(entry, value); });
   if (found == stored.end()) value = *--found;
@@ -49,7 +43,7 @@ SharedText listText(const ChoiceList& choices, PropertyValue& value) {
 /// Three digits become six by noughts ahead of them, as do all others that are too few.
 PropertyValue parseColour(const CellRules& rules, std::string_view text) {
   constexpr std::size_t digitCount = 6;
-  text = trim(text);
+  text = trimmed(text);
   if (!text.starts_with('#') || text.size() > digitCount + 1) return rules.BlankValue;
   text.remove_prefix(1);
   std::string digits(digitCount - text.size(), '0');
@@ -106,8 +100,8 @@ PropertyValue ParseCellText(const CellRules& rules, std::string_view text, const
     }
     default: break;
   }
-  const auto trimmed = trim(text);
-  return rules.BlankText == trimmed ? rules.BlankValue : SharedText(trimmed);
+  const auto inner = trimmed(text);
+  return rules.BlankText == inner ? rules.BlankValue : SharedText(inner);
 }
 
 double Val(std::string_view text) {

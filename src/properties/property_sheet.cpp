@@ -37,11 +37,6 @@ ChoiceList choiceList(std::span<const Choice> choices) {
   return list;
 }
 
-std::string trimmed(std::string_view text) {
-  const auto first = std::min(text.find_first_not_of(' '), text.size());
-  return std::string(text.substr(first, text.find_last_not_of(' ') + 1 - first));
-}
-
 }  // namespace
 
 PropertySheet::PropertySheet(const SheetTable& table, Ports& ports, ProgramState& state,

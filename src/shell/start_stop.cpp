@@ -4,6 +4,7 @@
 
 #include "platform/settings.h"
 #include "shell/main_window.h"
+#include "text/ascii.h"
 #include "text/numbers.h"
 #include "text/paths.h"
 #include "text/product.h"
@@ -41,12 +42,6 @@ constexpr std::array storedGeometry{
     StoredGeometry{settings::MainWidth, &Geometry::width},
     StoredGeometry{settings::MainHeight, &Geometry::height},
 };
-
-std::string_view trimmed(std::string_view text) {
-  const auto first = text.find_first_not_of(' ');
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
 
 }  // namespace
 

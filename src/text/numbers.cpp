@@ -13,16 +13,10 @@ namespace {
 
 constexpr int significantDigits = 7;
 
-std::string_view trimBlanks(std::string_view text) {
-  const auto first = text.find_first_not_of(' ');
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
-/// from_chars, less what it takes beyond a number text: words such as "inf" and "nan".
+/// Like from_chars, but rejects words such as "inf" and "nan".
 template <class T>
 std::optional<T> parseReal(std::string_view text) {
-  text = trimBlanks(text);
+  text = trimmed(text);
   if (!text.empty() && text.front() == '+') {
     text.remove_prefix(1);
     if (!text.empty() && text.front() == '-') return std::nullopt;
@@ -34,7 +28,7 @@ std::optional<T> parseReal(std::string_view text) {
   T value{};
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
   if (end != text.data() + text.size()) return std::nullopt;
-  // Too small for its type is zero, too large is no value.
+  // A number too small for the type is zero, one too large is an error.
   constexpr auto none = std::string_view::npos;
   const bool hasNegativeExponent = text.find("e-") != none || text.find("E-") != none;
   if (error == std::errc::result_out_of_range && hasNegativeExponent) return T{0};
@@ -65,7 +59,7 @@ void appendGeneral(std::string& out, float value) {
     out.append(buffer.begin(), std::to_chars(buffer.begin(), buffer.end(), static_cast<int>(value)).ptr);
     return;
   }
-  // "d.dddddde-xx" holds the digits rounded and the exponent that belongs to them.
+  // "d.dddddde-xx" has the rounded digits and their exponent.
   const auto end = std::to_chars(buffer.begin(), buffer.end(), std::abs(value), std::chars_format::scientific,
                                  significantDigits - 1)
                        .ptr;

@@ -9,14 +9,15 @@
 namespace nimbrel {
 namespace {
 
-/// The bytes that end a value, by byte.
+/// Which bytes end a value.
 constexpr auto endsValue = [] {
   std::array<bool, 256> ends{};
   ends[','] = ends['\r'] = ends['\n'] = true;
   return ends;
 }();
 
-/// Eight bytes at once: the top bit is set in the first byte that is `wanted`, and in none ahead of it.
+/// The lowest bit set in the result is the top bit of the first of eight bytes that equals `wanted`. Zero if
+/// none does.
 constexpr std::uint64_t holding(std::uint64_t bytes, char wanted) {
   constexpr std::uint64_t ones = 0x0101010101010101;
   constexpr std::uint64_t topBits = 0x8080808080808080;
@@ -58,24 +59,24 @@ bool ValueReader::next(std::string_view& value) {
   }
   value = text_.substr(begin, end - begin);
   const bool endsInComma = position_ < size && text_[position_] == ',';
-  lastAsItStood_ = text_.substr(first, endsInComma ? position_ + 1 - first : 0);
+  lastSource_ = text_.substr(first, endsInComma ? position_ + 1 - first : 0);
   consumeDelimiter();
   return true;
 }
 
-bool ValueReader::skip(std::string_view asItStood) {
+bool ValueReader::skip(std::string_view source) {
   constexpr std::size_t word = sizeof(std::uint64_t);
-  const std::size_t size = asItStood.size();
+  const std::size_t size = source.size();
   if (size == 0 || text_.size() - position_ < std::max(size, word)) return false;
   const char* here = text_.data() + position_;
-  // Most values are shorter than a word. Both places have a whole one ahead of them in the text.
+  // Most values are shorter than a word, and the text has a whole word from both places on.
   if (size <= word && std::endian::native == std::endian::little) {
     std::uint64_t a = 0;
     std::uint64_t b = 0;
     std::memcpy(&a, here, word);
-    std::memcpy(&b, asItStood.data(), word);
+    std::memcpy(&b, source.data(), word);
     if ((a ^ b) << (8 * (word - size)) != 0) return false;
-  } else if (std::memcmp(here, asItStood.data(), size) != 0) {
+  } else if (std::memcmp(here, source.data(), size) != 0) {
     return false;
   }
   position_ += size;

@@ -11,7 +11,7 @@
 namespace nimbrel {
 namespace {
 
-/// The characters of bytes 128 to 159; the rest of the set is as in Latin-1.
+/// The characters of bytes 128 to 159. All other bytes are as in Latin-1.
 constexpr std::array<char16_t, 32> upperControls{
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,  //
     0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,  //
@@ -19,7 +19,7 @@ constexpr std::array<char16_t, 32> upperControls{
     0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178,
 };
 
-// A host name's byte that is no UTF-8 is held as the lone surrogate of that byte, which no text can hold.
+// A byte of a host name that is not valid UTF-8 becomes a lone surrogate, which valid text never contains.
 constexpr char32_t strayByte = 0xDC00;
 constexpr char32_t firstStray = strayByte + 0x80;
 constexpr char32_t lastStray = strayByte + 0xFF;
@@ -58,7 +58,7 @@ struct Decoded {
   std::size_t size;
 };
 
-/// The character at the head of `text`, none where its bytes are no UTF-8.
+/// The first character of `text`, or nullopt if its bytes are not valid UTF-8.
 std::optional<Decoded> decodeUtf8(std::string_view text) {
   const auto byte = [&](std::size_t i) { return static_cast<std::uint8_t>(text[i]); };
   const char32_t lead = byte(0);
@@ -79,7 +79,7 @@ void appendReference(std::string& out, char32_t c) {
   out.append("&#").append(std::to_string(static_cast<std::uint32_t>(c))).append(1, ';');
 }
 
-/// The decimal reference at the head of `text`, without leading zeros.
+/// The decimal reference at the start of `text`, or nullopt. References with leading zeros do not count.
 std::optional<Decoded> decodeReference(std::string_view text) {
   if (!text.starts_with("&#") || text.size() < 4 || !isDigit(text[2]) || text[2] == '0') return std::nullopt;
   std::uint32_t number = 0;
@@ -88,7 +88,7 @@ std::optional<Decoded> decodeReference(std::string_view text) {
   return Decoded{number, static_cast<std::size_t>(end - text.data()) + 1};
 }
 
-/// Whether the reference is one that `fromUtf8` writes: of a character that the set lacks.
+/// Whether `fromUtf8` writes this character as a reference because the set lacks it.
 bool isOurs(char32_t c) { return c <= 0x10FFFF && !isSurrogate(c) && !byteOf(c); }
 
 bool isOursInNames(char32_t c) {

@@ -35,8 +35,8 @@ class DesktopRun {
   void write(const QString& name, const QByteArray& bytes) const;
   QByteArray read(const QString& name) const;
 
-  /// What is done with the windows that will wait for an answer, one after the other. A window that nothing is told
-  /// for is closed by Escape, and counted.
+  /// What is done with the windows that will wait for an answer, one after the other. A window that nothing
+  /// is told for is closed by Escape, and counted.
   void then(std::function<void(QWidget&)> step) { steps_.push_back(std::move(step)); }
   /// The same for the form or message box of that title or name.
   void thenPress(const char* button);

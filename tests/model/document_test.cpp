@@ -7,7 +7,7 @@
 namespace nimbrel {
 namespace {
 
-TEST(Document, IsCopiedWholeAndDiffersInAnyPart) {
+TEST(Document, IsCopiedCompletelyAndComparesAllParts) {
   Document document = generatedDocument(1, 40);
   constexpr std::array<void (*)(Document&), 6> changes{
       [](Document& d) { d.tvTreeView.root()->Text = "x"; },

@@ -6,7 +6,7 @@
 
 namespace nimbrel {
 
-/// A node with what follows and hangs from it, in one line: "M0(I1 I2(S4(I5)) I3)".
+/// The keys of a node, its descendants and the siblings after it: "M0(I1 I2(S4(I5)) I3)".
 inline std::string shape(const Node* node) {
   std::string text;
   for (; node != nullptr; node = node->Next()) {
@@ -18,8 +18,8 @@ inline std::string shape(const Node* node) {
 
 inline std::string shape(const Tree& tree) { return shape(tree.root()); }
 
-/// Each text is its property's name, each number the property's position in the table, from 1; with another
-/// `offset` every one is another.
+/// An element in which each text is the name of its property and each number the position of its property in
+/// the table, from 1. Another `offset` gives other values.
 template <class E>
 E withDistinctValues(std::uint8_t offset = 0) {
   E element;

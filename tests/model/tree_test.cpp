@@ -18,7 +18,7 @@ Tree sample() {
   return tree;
 }
 
-TEST(Tree, AddsBehindAheadAndBelow) {
+TEST(Tree, AddsNodesAfterBeforeAndBelowOthers) {
   Tree tree = sample();
   tree.add(*tree.find("I1"), Relationship::Next, "I5", "");
   tree.add(*tree.find("I1"), Relationship::Previous, "I6", "");
@@ -32,12 +32,12 @@ TEST(Tree, AddsBehindAheadAndBelow) {
     EXPECT_EQ(tree.find(key)->FirstSibling()->Key, first);
     EXPECT_EQ(tree.find(key)->LastSibling()->Key, last);
   }
-  EXPECT_EQ(tree.at(4)->Key, "S3") << "positions are in the order of adding";
+  EXPECT_EQ(tree.at(4)->Key, "S3") << "positions are in order of insertion";
   EXPECT_THROW(tree.addRoot("I4", ""), std::invalid_argument);
   EXPECT_THROW(tree.add(*tree.root(), Relationship::Child, "I4", ""), std::invalid_argument);
 }
 
-TEST(Tree, RemovesANodeWithWhatHangsFromIt) {
+TEST(Tree, RemovesANodeWithItsDescendants) {
   Tree tree = sample();
   tree.addRoot("M5", "");
   for (const auto& key : {std::string("M5"), tree.find("I1")->Key, std::string("I99")}) tree.remove(key);
@@ -45,12 +45,12 @@ TEST(Tree, RemovesANodeWithWhatHangsFromIt) {
   EXPECT_EQ(tree.size(), 2U);
   EXPECT_EQ(tree.root()->Children(), 1U);
   EXPECT_EQ(tree.find("S3"), nullptr);
-  tree.remove(tree.root()->Key);  // the key lies in what goes
+  tree.remove(tree.root()->Key);  // a view of the removed key
   EXPECT_TRUE(tree.empty());
   EXPECT_EQ(tree.root(), nullptr);
 }
 
-TEST(Tree, CopiesStandAlone) {
+TEST(Tree, CopiesAreIndependent) {
   Tree tree = sample();
   Tree copy = tree;
   tree.remove("I1");
@@ -58,11 +58,11 @@ TEST(Tree, CopiesStandAlone) {
   EXPECT_EQ(copy.find("I4")->Parent(), copy.find("S3"));
   const Tree moved = std::move(copy);
   EXPECT_EQ(moved, sample());
-  EXPECT_TRUE(copy.empty());  // NOLINT(bugprone-use-after-move): a moved tree is promised to be empty
+  EXPECT_TRUE(copy.empty());  // NOLINT(bugprone-use-after-move): moving guarantees an empty tree
   EXPECT_EQ(copy.root(), nullptr);
 }
 
-TEST(Tree, EqualityTellsAnotherParentInTheSameWalk) {
+TEST(Tree, EqualityComparesParentsToo) {
   Tree flat = sample();
   flat.remove("I4");
   EXPECT_FALSE(flat == sample());
@@ -70,7 +70,7 @@ TEST(Tree, EqualityTellsAnotherParentInTheSameWalk) {
   EXPECT_FALSE(flat == sample());
 }
 
-// A file may nest as deep as it is long.
+// The depth of a tree from a file is limited only by its size.
 TEST(Tree, NestsDeeplyWithoutRecursion) {
   constexpr int levels = 50'000;
   Tree tree;

@@ -2,14 +2,13 @@
 
 #include "menu_files.h"
 #include "model/structure.h"
-#include "platform/memory/memory_file_system.h"
 #include "support/generated_document.h"
 
 namespace nimbrel {
 namespace {
 
-/// The keys of all nodes, each as a line. Nodes with elements have the keys of those, and the counter is past
-/// all of them.
+/// The keys of all nodes, one per line. Checks that the elements have the same keys, and that the counter is
+/// greater than all of them.
 std::string keysOf(const Document& document) {
   std::string keys;
   std::size_t elements = 0;
@@ -23,8 +22,8 @@ std::string keysOf(const Document& document) {
   return keys;
 }
 
-// Beside each file stands what saving makes of it, and what is noted on the way if anything is.
-TEST(MenuFileReader, ReadsEveryFormAndNotesWhatIsOdd) {
+// Next to each file are the bytes that saving gives, and the expected notes if any.
+TEST(MenuFileReader, ReadsEveryFormAndNotesOddities) {
   for (const auto& folder : {casesIn("older"), casesIn("rewritten")}) {
     EXPECT_GE(folder.size(), 3U);
     for (const auto& path : folder) {
@@ -40,7 +39,7 @@ TEST(MenuFileReader, ReadsEveryFormAndNotesWhatIsOdd) {
   }
 }
 
-// Values that stand as in the record ahead are passed over, but not those of which there is something to note.
+// Values equal to those of the record before are skipped, but not if they cause a note.
 TEST(MenuFileReader, NotesAnOddValueEachTime) {
   Document document;
   BuildDefaultDocument(document);
@@ -53,8 +52,8 @@ TEST(MenuFileReader, NotesAnOddValueEachTime) {
   EXPECT_EQ(notes.size(), 9U) << "three names of three items";
 }
 
-// Beside each file stands the message, and behind that the keys of the nodes that were read by then.
-TEST(MenuFileReader, StopsAtWhatIsBrokenAndKeepsTheNodesSoFar) {
+// Next to each file is the expected message, followed by the keys of the nodes read before the error.
+TEST(MenuFileReader, StopsAtErrorsAndKeepsTheNodesReadSoFar) {
   const auto cases = casesIn("broken");
   EXPECT_FALSE(cases.empty());
   for (auto path : cases) {
@@ -72,8 +71,8 @@ TEST(MenuFileReader, StopsAtWhatIsBrokenAndKeepsTheNodesSoFar) {
   }
 }
 
-// Wherever a file is cut off, whole records stay and nothing else.
-TEST(MenuFileReader, TakesAFileThatIsCutOffAnywhere) {
+// The complete records of the file stay.
+TEST(MenuFileReader, ReadsAFileThatIsTruncatedAnywhere) {
   const auto bytes = bytesOf(goldenMenuFiles / "worked-example.nbr");
   for (std::size_t size = 0; size < bytes.size(); ++size) {
     Document document;
@@ -84,50 +83,6 @@ TEST(MenuFileReader, TakesAFileThatIsCutOffAnywhere) {
     }
     EXPECT_TRUE(std::string_view("M0\nI1\nS2\nI3\n").starts_with(keysOf(document))) << size;
   }
-}
-
-TEST(MenuFileReader, LoadsAFileInPlaceOfTheDocument) {
-  MemoryFileSystem files;
-  files.files = {{"C:\\menus\\a.nbr", bytesOf(goldenMenuFiles / "worked-example.nbr")},
-                 {"C:\\menus\\page.html", "<html>"}};
-  Document document = generatedDocument(1, 5);
-  const auto settings = document.settings;
-  const auto load = [&](std::string_view name) {
-    SubmenuCarryOver carryOver;
-    Findings notes;
-    LoadMenuFile(files, "C:\\menus", name, carryOver, document, notes);
-  };
-  EXPECT_THROW(load("page.html"), NotAMenuFile);
-  EXPECT_TRUE(document.tvTreeView.empty() && document.ElementColl.empty());
-  EXPECT_EQ(document.settings, settings);
-  EXPECT_THROW(load("missing.nbr"), FileError);
-  load("a.nbr");
-  EXPECT_EQ(keysOf(document), "M0\nI1\nS2\nI3\n");
-  EXPECT_EQ(document.NextKeyNumber, 4);
-  EXPECT_EQ(document.settings, CompileSettings{});
-}
-
-// An older version says how submenus open in the main menu, so that what is read next opens the same way.
-TEST(MenuFileReader, LeavesTheWayOfOpeningOfOlderVersionsToWhatIsReadNext) {
-  SubmenuCarryOver carryOver;
-  Document document;
-  Findings notes;
-  const auto load = [&](const std::string& name) {
-    readMenuFile(bytesOf(goldenMenuFiles / name), name, "", carryOver, document, notes);
-    return std::tuple(carryOver.bcSubmenusWhen, carryOver.bcSubmenusWhere, carryOver.bcSubmenusHow);
-  };
-  EXPECT_EQ(load("older/nbr110/read.nbr"), std::tuple(1, -2.5, 7));
-  EXPECT_EQ(load("worked-example.nbr"), std::tuple(1, -2.5, 7)) << "the current version carries nothing over";
-  EXPECT_EQ(load("older/nbr120/read.nbr"), std::tuple(0, 3, 1));
-}
-
-TEST(MenuFileReader, NestsAsDeepAsTheCounterAllows) {
-  std::string bytes = "nbr110\r\n0,!!,X0\r\n";
-  for (int i = 1; i < 32767; ++i) bytes += "X" + std::to_string(i - 1) + ",!!,X" + std::to_string(i) + "\r\n";
-  const Document document = readBytes(bytes);
-  EXPECT_EQ(document.tvTreeView.size(), 32767U);
-  EXPECT_EQ(document.NextKeyNumber, 32767);
-  EXPECT_TRUE(readBytes(menuFileText(document)) == document);
 }
 
 }  // namespace

@@ -6,18 +6,12 @@
 namespace nimbrel {
 namespace {
 
-TEST(HostPaths, TurnSeparatorsAndNames) {
-  EXPECT_EQ(toHostPath("\\home\\me\\Gr\xF6\xDF"
-                       "e.nbr"),
-            "/home/me/Größe.nbr");
-  EXPECT_EQ(fromHostPath("/home/me/Größe.nbr"),
-            "\\home\\me\\Gr\xF6\xDF"
-            "e.nbr");
-  EXPECT_EQ(toHostPath("C:\\site\\a.gif"), "C:/site/a.gif");
-  EXPECT_EQ(toHostPath(""), "");
+TEST(HostPaths, ConvertSeparatorsAndNames) {
+  EXPECT_EQ(toHostPath("\\home\\Gr\xF6.nbr"), "/home/Grö.nbr");
+  EXPECT_EQ(fromHostPath("/home/Grö.nbr"), "\\home\\Gr\xF6.nbr");
 }
 
-TEST(HostPaths, ComeBackWhateverTheNames) {
+TEST(HostPaths, SurviveARoundTripWithAnyNames) {
   for (const auto* path : {"/a\\b/c", "/Меню/&#1052;/m.js", "/\xE4\xFF/m.js", "//a/", "a"}) {
     EXPECT_EQ(toHostPath(fromHostPath(path)), path);
   }

@@ -3,7 +3,7 @@
 
 #include "platform/posix/program_folder.h"
 
-/// Stands in for a program wherever a test copies it to.
+/// A program that tests copy to a folder to start it there.
 int main(int count, char** words) try {
   std::puts(nimbrel::programFolder(count > 1 ? std::optional<std::string>(words[1]) : std::nullopt).c_str());
   return 0;

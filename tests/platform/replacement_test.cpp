@@ -43,24 +43,19 @@ class Replacing : public testing::Test {
   HostFileSystem files_;
 };
 
-TEST_F(Replacing, MakesANewFileWithTheUsualMode) {
-  const mode_t mask = ::umask(027);
-  replace("a", "bytes");
-  EXPECT_EQ(::umask(mask), 027U) << "the mask is looked at, not changed";
-  EXPECT_EQ(folder_.read("a"), "bytes");
-  EXPECT_EQ(mode("a"), 0640U);
-}
-
-TEST_F(Replacing, KeepsTheModeAndLeavesNothingElse) {
+TEST_F(Replacing, KeepsTheModeOrUsesTheUmask) {
   folder_.write("a", "a longer text than the new one");
   ::chmod((folder_ / "a").c_str(), 0604);
-  replace("a", "new");
-  EXPECT_EQ(folder_.read("a"), "new");
+  const mode_t mask = ::umask(027);
+  for (const auto* name : {"a", "b"}) replace(name, "new");
+  EXPECT_EQ(::umask(mask), 027U) << "the umask is not changed";
+  for (const auto* name : {"a", "b"}) EXPECT_EQ(folder_.read(name), "new");
   EXPECT_EQ(mode("a"), 0604U);
-  EXPECT_THAT(names(), ElementsAre("a"));
+  EXPECT_EQ(mode("b"), 0640U);
+  EXPECT_THAT(names(), ElementsAre("a", "b"));
 }
 
-TEST_F(Replacing, GoesToTheEndOfLinks) {
+TEST_F(Replacing, FollowsLinks) {
   fs::create_directory(folder_ / "site");
   folder_.write("site/a", "old");
   fs::create_symlink("site/a", folder_ / "near");
@@ -73,7 +68,7 @@ TEST_F(Replacing, GoesToTheEndOfLinks) {
   EXPECT_TRUE(fs::is_symlink(folder_ / "near") && fs::is_symlink(folder_ / "far"));
 }
 
-TEST_F(Replacing, IsRefusedWhereNoFileIsOrItIsReadOnly) {
+TEST_F(Replacing, IsRefusedForReadOnlyFilesAndOtherThanFiles) {
   folder_.write("read-only", "old");
   ::chmod((folder_ / "read-only").c_str(), 0444);
   fs::create_directory(folder_ / "folder");
@@ -86,42 +81,28 @@ TEST_F(Replacing, IsRefusedWhereNoFileIsOrItIsReadOnly) {
   EXPECT_THAT(names(), ElementsAre("circle", "folder", "pipe", "read-only"));
 }
 
-TEST_F(Replacing, ThatIsGivenUpLeavesTheOldFile) {
-  folder_.write("a", "old");
-  { Replacement given(fromHostPath((folder_ / "a").string()), "new"); }
-  EXPECT_EQ(folder_.read("a"), "old");
-  EXPECT_THAT(names(), ElementsAre("a"));
-}
-
-/// Runs `work` in a process of its own and gives its exit status, or minus the signal that ended it.
-template <class Work>
-int inChild(Work work) {
-  const pid_t child = ::fork();
-  if (child == 0) ::_exit(work());
-  int status = 0;
-  ::waitpid(child, &status, 0);
-  return WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
-}
-
 TEST_F(Replacing, OnAFullDiskLeavesTheOldFileAndNothingElse) {
   folder_.write("a", "old");
-  const int status = inChild([this] {
+  const pid_t child = ::fork();
+  if (child == 0) {
     ::signal(SIGXFSZ, SIG_IGN);
     const rlimit limit{100'000, 100'000};
     ::setrlimit(RLIMIT_FSIZE, &limit);
     try {
       replace("a", std::string(1'000'000, 'x'));
     } catch (const FileError& error) {
-      return error.finding().path.ends_with("\\a") ? 0 : 1;
+      ::_exit(error.finding().path.ends_with("\\a") ? 0 : 1);
     }
-    return 2;
-  });
+    ::_exit(2);
+  }
+  int status = 0;
+  ::waitpid(child, &status, 0);
   EXPECT_EQ(status, 0);
   EXPECT_EQ(folder_.read("a"), "old");
   EXPECT_THAT(names(), ElementsAre("a"));
 }
 
-TEST_F(Replacing, ThatIsKilledLeavesTheOldFileOrTheNewOneWhole) {
+TEST_F(Replacing, ThatIsKilledLeavesTheOldOrTheNewFile) {
   constexpr std::size_t size = 300'000;
   replace("a", std::string(size, 'a'));
   std::mt19937 engine(1);

@@ -1,14 +1,12 @@
 #pragma once
 
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-#include <string>
+
+#include "support/bytes_of.h"
 
 namespace nimbrel {
 
-/// A folder of the host's that is gone with its scope. Paths are the host's own.
+/// A temporary folder that is removed by the destructor. Paths are in the host's form.
 class TemporaryFolder {
  public:
   TemporaryFolder() {
@@ -27,10 +25,7 @@ class TemporaryFolder {
   void write(const std::string& name, const std::string& bytes) const {
     std::ofstream(path_ / name, std::ios::binary) << bytes;
   }
-  std::string read(const std::string& name) const {
-    std::ifstream file(path_ / name, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-  }
+  std::string read(const std::string& name) const { return bytesOf(path_ / name); }
 
  private:
   std::filesystem::path path_;

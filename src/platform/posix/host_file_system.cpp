@@ -7,21 +7,17 @@
 #include <filesystem>
 #include <set>
 #include <sys/stat.h>
-#include <system_error>
 #include <unistd.h>
 #include <utility>
 
 #include "platform/posix/host_paths.h"
 #include "platform/posix/replacement.h"
+#include "platform/posix/system_error.h"
 
 namespace nimbrel {
 namespace {
 
 namespace fs = std::filesystem;
-
-[[noreturn]] void fail(std::string_view path, int error) {
-  throw FileError(std::string(path), std::generic_category().message(error));
-}
 
 }  // namespace
 
@@ -36,22 +32,22 @@ bool HostFileSystem::isFolder(std::string_view path) const {
 }
 
 std::string HostFileSystem::read(std::string_view path) const {
-  if (path.find('\0') != std::string_view::npos) throw FileError(std::string(path), "is no path");
-  // Not to block: a pipe without a writer must not hang the program ahead of the look at what it is.
+  requireUsable(path);
+  // O_NONBLOCK: opening a FIFO with no writer would block before fstat() can reject it.
   const Handle file(::open(toHostPath(path).c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
-  if (!file.isOpen()) fail(path, errno);
+  if (!file.isOpen()) throwSystemError(path);
   struct stat status {};
-  if (::fstat(file.get(), &status) != 0) fail(path, errno);
-  if (S_ISDIR(status.st_mode)) fail(path, EISDIR);
+  if (::fstat(file.get(), &status) != 0) throwSystemError(path);
+  if (S_ISDIR(status.st_mode)) throwSystemError(path, EISDIR);
   if (!S_ISREG(status.st_mode)) throw FileError(std::string(path), "is not a regular file");
-  if (std::cmp_greater(status.st_size, largestFile)) fail(path, EFBIG);
+  if (std::cmp_greater(status.st_size, largestFile)) throwSystemError(path, EFBIG);
 
   std::string bytes(static_cast<std::size_t>(status.st_size), '\0');
   std::size_t size = 0;
   while (size < bytes.size()) {
     const auto got = ::read(file.get(), bytes.data() + size, bytes.size() - size);
     if (got < 0 && errno == EINTR) continue;
-    if (got < 0) fail(path, errno);
+    if (got < 0) throwSystemError(path);
     if (got == 0) break;
     size += static_cast<std::size_t>(got);
   }
@@ -97,17 +93,17 @@ void HostFileSystem::copy(std::string_view from, std::string_view to) {
 }
 
 void HostFileSystem::remove(std::string_view path) {
-  if (::unlink(toHostPath(path).c_str()) != 0) fail(path, errno);
+  if (::unlink(toHostPath(path).c_str()) != 0) throwSystemError(path);
 }
 
 void HostFileSystem::makeFolder(std::string_view path) {
-  constexpr mode_t lessTheMask = 0777;
-  if (::mkdir(toHostPath(path).c_str(), lessTheMask) != 0 && !(errno == EEXIST && isFolder(path)))
-    fail(path, errno);
+  constexpr mode_t everyone = 0777;  // the umask applies
+  if (::mkdir(toHostPath(path).c_str(), everyone) != 0 && !(errno == EEXIST && isFolder(path)))
+    throwSystemError(path);
 }
 
 void HostFileSystem::removeFolder(std::string_view path) {
-  if (::rmdir(toHostPath(path).c_str()) != 0) fail(path, errno);
+  if (::rmdir(toHostPath(path).c_str()) != 0) throwSystemError(path);
 }
 
 std::vector<std::string> HostFileSystem::filesIn(std::string_view folder) const {

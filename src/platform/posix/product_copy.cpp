@@ -20,8 +20,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr const char* listName =
-    ".installed";  // a line of the version, then a line a file: its mark, blank, its path
+/// The version in the first line, then for each file a line with its hash, a blank and its path.
+constexpr const char* listName = ".installed";
 
 std::optional<std::string> contents(const fs::path& path) {
   std::ifstream file(path, std::ios::binary);
@@ -29,8 +29,8 @@ std::optional<std::string> contents(const fs::path& path) {
   return std::string(std::istreambuf_iterator<char>(file), {});
 }
 
-/// Tells two versions of a file apart; not made to withstand anyone's intent.
-std::string mark(const std::string& bytes) {
+/// A hash to detect changes. Not secure against forgery.
+std::string hashOf(const std::string& bytes) {
   std::uint64_t hash = 14'695'981'039'346'656'037U;
   for (const char byte : bytes) {
     hash ^= static_cast<unsigned char>(byte);
@@ -39,23 +39,23 @@ std::string mark(const std::string& bytes) {
   return std::to_string(hash);
 }
 
-using Marks = std::map<std::string, std::string>;  // by path below the folder
+using Hashes = std::map<std::string, std::string>;  // by path relative to the folder
 
-/// None where anything cannot be read: what is not seen must not be taken for gone.
-std::optional<Marks> marksOf(const fs::path& folder) {
-  Marks marks;
+/// Returns nullopt if any file cannot be read, because it must not be taken for deleted.
+std::optional<Hashes> hashesOf(const fs::path& folder) {
+  Hashes hashes;
   std::error_code error;
   for (fs::recursive_directory_iterator it(folder, error), end; !error && it != end; it.increment(error)) {
     if (!it->is_regular_file(error) || it->path().filename() == listName) continue;
     const auto bytes = contents(it->path());
     if (!bytes) return std::nullopt;
-    marks[it->path().lexically_relative(folder).string()] = mark(*bytes);
+    hashes[it->path().lexically_relative(folder).string()] = hashOf(*bytes);
   }
   if (error) return std::nullopt;
-  return marks;
+  return hashes;
 }
 
-/// One program at a time works on a copy. The lock is on the folder around it, and leaves nothing behind.
+/// Locks a copy against other processes. The lock is on its parent folder, so it needs no file.
 class Lock {
  public:
   explicit Lock(const fs::path& copy) : folder_(::open(copy.parent_path().c_str(), O_RDONLY | O_CLOEXEC)) {
@@ -71,26 +71,27 @@ class Lock {
   int folder_;
 };
 
-/// What was installed; the version is empty where no list tells.
+/// The contents of the list. `version` is empty if there is no list.
 struct Installed {
   std::string version;
-  Marks marks;
+  Hashes hashes;
 };
 
 Installed readList(const fs::path& copy) {
   std::ifstream list(copy / listName);
   Installed installed;
   std::getline(list, installed.version);
-  for (std::string one, path; list >> one && std::getline(list.ignore(), path);) installed.marks[path] = one;
+  for (std::string hash, path; list >> hash && std::getline(list.ignore(), path);)
+    installed.hashes[path] = hash;
   return installed;
 }
 
-bool writeList(const fs::path& copy, const Marks& marks) {
+bool writeList(const fs::path& copy, const Hashes& hashes) {
   const fs::path unfinished = copy / (std::string(listName) + ".new");
   {
     std::ofstream list(unfinished);
     list << productBuild << '\n';
-    for (const auto& [path, one] : marks) list << one << ' ' << path << '\n';
+    for (const auto& [path, hash] : hashes) list << hash << ' ' << path << '\n';
     if (!list.flush()) return false;
   }
   std::error_code error;
@@ -98,7 +99,7 @@ bool writeList(const fs::path& copy, const Marks& marks) {
   return !error;
 }
 
-/// In place of an older one, whole or not at all.
+/// Copies a file over an older one atomically.
 bool replaceFile(const fs::path& from, const fs::path& to) {
   std::error_code error;
   const fs::path unfinished = to.string() + ".new";
@@ -108,7 +109,7 @@ bool replaceFile(const fs::path& from, const fs::path& to) {
   return !error;
 }
 
-std::error_code makeWhole(const fs::path& product, const Marks& installed, const fs::path& copy) {
+std::error_code makeWhole(const fs::path& product, const Hashes& installed, const fs::path& copy) {
   std::error_code error;
   const fs::path unfinished = copy.string() + ".new";
   fs::remove_all(unfinished, error);
@@ -120,10 +121,10 @@ std::error_code makeWhole(const fs::path& product, const Marks& installed, const
   return error;
 }
 
-/// Brings what is missing.
-std::error_code complete(const fs::path& product, const Marks& installed, const fs::path& copy) {
+/// Adds the missing files.
+std::error_code complete(const fs::path& product, const Hashes& installed, const fs::path& copy) {
   bool isWhole = true;
-  for (const auto& [path, one] : installed) {
+  for (const auto& [path, hash] : installed) {
     std::error_code error;
     if (!fs::exists(copy / path, error)) isWhole &= replaceFile(product / path, copy / path);
   }
@@ -137,8 +138,8 @@ void makeProductCopy(const fs::path& product, const fs::path& copy) {
   std::error_code error;
   fs::create_directories(copy.parent_path(), error);
   const Lock lock(copy);
-  if (fs::is_directory(copy / "libraries", error)) return;  // another program was first
-  const auto installed = marksOf(product);
+  if (fs::is_directory(copy / "libraries", error)) return;  // another process has created it
+  const auto installed = hashesOf(product);
   if (!installed) {
     error = std::make_error_code(std::errc::io_error);
   } else {
@@ -153,9 +154,9 @@ void updateProductCopy(const fs::path& product, const fs::path& copy) {
   const Lock lock(copy);
   const auto old = readList(copy);
   if (old.version == productBuild) return;
-  const auto& before = old.marks;
-  const auto seenProduct = marksOf(product);
-  const auto seenCopy = marksOf(copy);
+  const auto& before = old.hashes;
+  const auto seenProduct = hashesOf(product);
+  const auto seenCopy = hashesOf(copy);
   if (!seenProduct || !seenCopy) return;
   const auto& installed = *seenProduct;
   const auto& own = *seenCopy;
@@ -165,11 +166,11 @@ void updateProductCopy(const fs::path& product, const fs::path& copy) {
     return was != before.end() && is != own.end() && was->second == is->second;
   };
   bool isWhole = true;
-  for (const auto& [path, one] : installed) {
+  for (const auto& [path, hash] : installed) {
     const bool isNew = !before.contains(path) && !own.contains(path);
     if (isNew || isUntouched(path)) isWhole &= replaceFile(product / path, copy / path);
   }
-  for (const auto& [path, one] : before) {
+  for (const auto& [path, hash] : before) {
     std::error_code error;
     if (!installed.contains(path) && isUntouched(path)) fs::remove(copy / path, error);
   }

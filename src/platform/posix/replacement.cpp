@@ -3,21 +3,17 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <system_error>
 #include <unistd.h>
 #include <utility>
 
 #include "platform/file_error.h"
 #include "platform/posix/host_paths.h"
+#include "platform/posix/system_error.h"
 
 namespace nimbrel {
 namespace {
 
 namespace fs = std::filesystem;
-
-[[noreturn]] void fail(const std::string& path) {
-  throw FileError(path, std::generic_category().message(errno));
-}
 
 bool writeAll(int descriptor, std::string_view bytes) {
   while (!bytes.empty()) {
@@ -35,7 +31,7 @@ mode_t modeOfNewFiles() {
   return 0666 & ~mask;
 }
 
-/// The file that a chain of links ends at, also where none stands there yet.
+/// Follows a chain of links. The last target need not exist.
 fs::path endOfLinks(fs::path path) {
   constexpr int longestChain = 40;
   for (int i = 0; i < longestChain; ++i) {
@@ -66,21 +62,21 @@ bool Handle::close() { return !isOpen() || ::close(std::exchange(descriptor_, -1
 
 Replacement::Replacement(std::string_view documentPath)
     : documentPath_(documentPath), target_(endOfLinks(toHostPath(documentPath))) {
-  if (documentPath.find('\0') != std::string_view::npos) throw FileError(documentPath_, "is no path");
+  requireUsable(documentPath);
 }
 
-// From here on the object stands, so that its end takes away what a failing step leaves.
+// The delegated constructor has completed, so if a step throws, the destructor removes the temporary file.
 Replacement::Replacement(std::string_view documentPath, std::string_view bytes) : Replacement(documentPath) {
   open(folderOf(target_));
-  takePlace();
-  if (!writeAll(file_.get(), bytes)) fail(documentPath_);
+  adoptAttributes();
+  if (!writeAll(file_.get(), bytes)) throwSystemError(documentPath_);
 }
 
 Replacement::~Replacement() {
   if (file_.isOpen() && !name_.empty()) ::unlink(name_.c_str());
 }
 
-/// Without a name, so that not even a kill leaves anything behind; with one where the system knows no other.
+/// Prefers a file without a name, of which nothing remains even if the process is killed.
 void Replacement::open(const fs::path& folder) {
   const bool canBeNamed = ::access("/proc/self/fd", X_OK) == 0;
   errno = EOPNOTSUPP;
@@ -88,42 +84,42 @@ void Replacement::open(const fs::path& folder) {
     file_ = Handle(::open(folder.c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, S_IRUSR | S_IWUSR));
   }
   if (file_.isOpen()) return;
-  if (errno != EOPNOTSUPP && errno != EISDIR && errno != EINVAL) fail(documentPath_);
+  if (errno != EOPNOTSUPP && errno != EISDIR && errno != EINVAL) throwSystemError(documentPath_);
   name_ = (folder / ".nimbrel-XXXXXX").string();
   file_ = Handle(::mkostemp(name_.data(), O_CLOEXEC));
-  if (!file_.isOpen()) fail(documentPath_);
+  if (!file_.isOpen()) throwSystemError(documentPath_);
 }
 
-/// Refuses a place that holds no file, or one that is not to be written.
-void Replacement::takePlace() {
+/// Gives the temporary file the mode and owner of the old one. Throws if that is not a writable regular file.
+void Replacement::adoptAttributes() {
   struct stat old {};
   if (::stat(target_.c_str(), &old) != 0) {
-    if (errno != ENOENT || ::fchmod(file_.get(), modeOfNewFiles()) != 0) fail(documentPath_);
+    if (errno != ENOENT || ::fchmod(file_.get(), modeOfNewFiles()) != 0) throwSystemError(documentPath_);
     return;
   }
-  if (S_ISDIR(old.st_mode)) errno = EISDIR, fail(documentPath_);
+  if (S_ISDIR(old.st_mode)) throwSystemError(documentPath_, EISDIR);
   if (!S_ISREG(old.st_mode)) throw FileError(documentPath_, "is not a regular file");
-  // The mark is the author's word, and it counts for the system's administrator too.
+  // access() alone would let root write a file that its owner has made read-only.
   const bool markedReadOnly = (old.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0;
   if (markedReadOnly || ::access(target_.c_str(), W_OK) != 0) throw FileError(documentPath_, "is read-only");
-  // Only an administrator can keep a foreign owner; for others the file becomes theirs.
+  // Only root can keep another owner. For other users the file becomes theirs.
   if (::fchown(file_.get(), old.st_uid, old.st_gid) != 0) errno = 0;
-  if (::fchmod(file_.get(), old.st_mode & 07777) != 0) fail(documentPath_);
+  if (::fchmod(file_.get(), old.st_mode & 07777) != 0) throwSystemError(documentPath_);
 }
 
 void Replacement::flush() {
-  if (::fdatasync(file_.get()) != 0) fail(documentPath_);
+  if (::fdatasync(file_.get()) != 0) throwSystemError(documentPath_);
 }
 
 void Replacement::flushDevice(std::set<dev_t>& flushed) {
   struct stat status {};
-  if (::fstat(file_.get(), &status) != 0) fail(documentPath_);
+  if (::fstat(file_.get(), &status) != 0) throwSystemError(documentPath_);
   if (flushed.contains(status.st_dev)) return;
-  if (::syncfs(file_.get()) != 0) fail(documentPath_);
+  if (::syncfs(file_.get()) != 0) throwSystemError(documentPath_);
   flushed.insert(status.st_dev);
 }
 
-/// Gives a file without a name one of its own, which only a renaming can turn into that of another file.
+/// Gives a nameless file a temporary name, since linkat() cannot replace an existing file.
 void Replacement::nameIn(const fs::path& folder) {
   const auto self = "/proc/self/fd/" + std::to_string(file_.get());
   for (unsigned attempt = 0;; ++attempt) {
@@ -133,15 +129,15 @@ void Replacement::nameIn(const fs::path& folder) {
       name_ = path;
       return;
     }
-    if (errno != EEXIST) fail(documentPath_);
+    if (errno != EEXIST) throwSystemError(documentPath_);
   }
 }
 
 void Replacement::commit() {
   if (name_.empty()) nameIn(folderOf(target_));
-  if (::rename(name_.c_str(), target_.c_str()) != 0) fail(documentPath_);
+  if (::rename(name_.c_str(), target_.c_str()) != 0) throwSystemError(documentPath_);
   name_.clear();
-  if (!file_.close()) fail(documentPath_);
+  if (!file_.close()) throwSystemError(documentPath_);
 }
 
 }  // namespace nimbrel

@@ -10,14 +10,14 @@
 
 namespace nimbrel {
 
-/// Shows the styles of the gallery on a sample menu, deletes them, and applies one to the document.
+/// The style gallery: shows each style on a sample menu, deletes styles, and applies one to the document.
 class frmGallery : public Form {
  public:
-  /// `selectedKind` is what the main tree has selected. `apply` dresses the document with the style on view.
+  /// `selectedKind` is the kind of the selected node. `apply` applies the shown style to the document.
   frmGallery(Ports& ports, ProgramState& state, SubmenuCarryOver& carryOver, Kind selectedKind,
              std::function<void(StyleScope, const MenuStyle&)> apply);
 
-  /// Each time it comes to the front.
+  /// Called each time the window is activated.
   void Form_Activate();
   void FillStyleList();
   void CreatePreviewFile();
@@ -56,7 +56,7 @@ class frmGallery : public Form {
   std::function<void(StyleScope, const MenuStyle&)> apply_;
   Document sample_ = BuildSampleMenu();
   MenuStyle style_;
-  bool isWhole_ = true;  ///< the style was read to its end
+  bool isWhole_ = true;  ///< the style was read completely
 };
 
 }  // namespace nimbrel

@@ -5,10 +5,10 @@
 
 namespace nimbrel {
 
-/// The menu on which the gallery shows a style: a main menu of three items, the second with a submenu of three.
+/// The menu that shows a style in the gallery: three items, of which the second has a submenu of three items.
 Document BuildSampleMenu();
 
-/// Dresses the sample. The picture that marks an item with a submenu shows on that one alone.
+/// Applies a style to the sample. Only the item with the submenu gets the images that mark it.
 void ApplyStyleToSample(Document& sample, const MenuStyle& style);
 
 }  // namespace nimbrel

@@ -9,37 +9,40 @@
 #include "persistence/older_records.h"
 #include "text/message.h"
 
-/// The style file (".nbs"): the look of a container and of an item, with the pictures that they use beside it.
+/// The style file (".nbs"): the look of menus and items. Its pictures are in a folder next to it.
 namespace nimbrel {
 
+/// A style. Only the properties that style copies include are used.
 struct MenuStyle {
   SubmenuObj submenu;
   ItemObj item;
 };
 
-/// The folder of all styles, the names of those in it, and the file of one.
+/// The folder of all styles, the names of the styles in it, and the path of one style. Paths are in document
+/// form.
 std::string galleryFolder(const std::string& programFolder);
 std::vector<std::string> styleNames(const FileSystem& files, const std::string& programFolder);
 std::string styleFilePath(const std::string& programFolder, std::string_view name);
 
-/// Reads a style; its pictures then have whole paths. False for a file of no known version. Throws `FileError`
-/// where the file breaks off; `style` holds what was read up to there.
+/// Reads a style. Its pictures get full paths. Returns false for a file of no known version. Throws
+/// `FileError` if the file cannot be read completely; `style` then has what could be read, and empty values
+/// for the rest.
 bool ReadStyleFile(const FileSystem& files, const std::string& programFolder, std::string_view name,
                    SubmenuCarryOver& carryOver, MenuStyle& style);
 
-/// The look of a menu and of its first item, as a style file holds it. A menu without items gives a default one.
+/// The style of a main menu and its first item. A part given as nullptr gets defaults.
 MenuStyle styleOfMenu(const MenuObj* menu, const ItemObj* firstItem);
 
-/// Writes a style into the gallery, in place of one of its name, with copies of its pictures. Steps that fail become
-/// findings, and the others are made.
+/// Writes a style with copies of its pictures to the gallery. Replaces a style of the same name. Steps that
+/// fail are added to `report`; the other steps are still done.
 void SaveStyle(FileSystem& files, const std::string& programFolder, const std::string& name, MenuStyle style,
                StepReport& report);
 
-/// Removes a style's file and its pictures; steps that fail become findings.
+/// Removes the file and the pictures of a style. Steps that fail are added to `report`.
 void removeStyle(FileSystem& files, const std::string& programFolder, const std::string& name,
                  StepReport& report);
 
-/// Why a style cannot have that name; none if it can.
+/// Returns why a style cannot have that name, or nullptr if it can.
 const Message* refusalOfStyleName(std::string_view name);
 
 }  // namespace nimbrel

@@ -6,7 +6,7 @@
 
 namespace nimbrel {
 
-/// Asks for the name of a new style; it goes into `StyleName`, which Cancel empties.
+/// Asks for the name of a new style and stores it in `StyleName`, which Cancel makes empty.
 class frmSaveStyle : public Form {
  public:
   frmSaveStyle(Ports& ports, ProgramState& state);
@@ -29,8 +29,8 @@ class frmSaveStyle : public Form {
   ProgramState& state_;
 };
 
-/// Tells, once a look was picked, where it can be applied: `frmPickStyleMenu`, `frmPickStyleSubmenu` or
-/// `frmPickStyleItem`.
+/// Shown after a style was picked, explains where it can be applied: `frmPickStyleMenu`,
+/// `frmPickStyleSubmenu` or `frmPickStyleItem`.
 class PickStyleHint : public Form {
  public:
   PickStyleHint(Ports& ports, Kind kind);

@@ -4,13 +4,14 @@
 #include "model/document.h"
 #include "text/message.h"
 
-/// Looks that travel from element to element, or from a style to the document. All change the document alone.
+/// Copying styles between elements, and from a style file to the document. Only the document is changed.
 namespace nimbrel {
 
-/// The look that was picked last. It outlives the document that it was taken from.
+/// The style picked last. Independent of the document it comes from.
 struct StylePicking {
-  float PickedStyleKind = 0;  ///< 0 none, 1 a container's, 2 an item's
-  /// kept: it never has defaults, so a main menu's look, which has no way of opening, brings a submenu zeros.
+  float PickedStyleKind = 0;  ///< 0 none, `containerStyle` or `itemStyle`
+  /// Quirk: starts with zeros, not defaults. The style of a main menu does not say how submenus open, so a
+  /// submenu gets zeros for that.
   SubmenuObj PickedSubmenu;
   ItemObj PickedItem;
 };
@@ -18,19 +19,22 @@ struct StylePicking {
 inline constexpr float containerStyle = 1;
 inline constexpr float itemStyle = 2;
 
+/// Stores the style of an element in `picking`.
 void PickStyle(const Element& element, StylePicking& picking);
 
-/// Why what was picked cannot be applied to a node of that key; none if it can. kept: an item's look on the main
-/// menu is not refused, and the main menu takes the container's that was picked before.
+/// Returns why the picked style cannot be applied to the node with that key, or nullptr if it can.
+/// Quirk: an item's style on the main menu is not refused; the main menu gets the container's style picked
+/// before.
 const Message* refusalOfPickedStyle(const StylePicking& picking, std::string_view key);
-/// Not for an element that is refused.
+/// Applies the picked style. `refusalOfPickedStyle` must not refuse the element.
 void ApplyPickedStyle(const StylePicking& picking, Element& element);
 
-/// Which elements take a style of the gallery.
+/// The elements that a style is applied to.
 enum class StyleScope { Menu, Submenu, Item };
 
-/// Dresses the whole tree, the submenu `node` with its items, or the item `node` alone. Items without a submenu
-/// lose the picture that marks one; kept: not if the item alone is dressed.
+/// Applies a style to the whole tree, to the submenu `node` and its items, or only to the item `node`. Items
+/// without a submenu lose the images that mark one.
+/// Quirk: with `StyleScope::Item` the item keeps these images.
 void ApplyStyle(Document& document, Node& node, StyleScope scope, const MenuStyle& style);
 
 }  // namespace nimbrel

@@ -13,7 +13,7 @@
 
 namespace nimbrel {
 
-/// What a key of the document stands for. A new one, by its letter, has no properties set.
+/// The properties of one node. A new element has empty texts and zeros, not the defaults.
 using Element = std::variant<MenuObj, SubmenuObj, ItemObj>;
 using Elements = KeyedList<Element>;
 
@@ -22,38 +22,39 @@ constexpr Kind kindOf(const Element& element) {
   return kinds[element.index()];
 }
 
-/// An empty element of a kind; none for `Kind::None`.
+/// A new element of a kind, or nullopt for `Kind::None`.
 std::optional<Element> newElement(Kind kind);
 
-/// Sets every stored property to its default; what a compile calculates stays.
+/// Set every stored property to its default. Values calculated by a compile stay.
 void SetDefaultValues(MenuObj& element);
 void SetDefaultValues(SubmenuObj& element);
 void SetDefaultValues(ItemObj& element);
 
-/// A copy of the stored properties, with the exceptions that stand beside each.
+/// Copy the stored properties, with the exceptions marked in the source.
 MenuObj clone(const MenuObj& element);
 SubmenuObj clone(const SubmenuObj& element);
 ItemObj clone(const ItemObj& element);
 Element clone(const Element& element);
 
-/// Copies the look, and between submenus the way of opening too. Content (names, images of the content,
-/// tooltips, scripts, addresses) never travels.
+/// Copy the style of one element to another: its look, and between submenus also how they open. Content
+/// (names, images in the content, tooltips, scripts, addresses) is not copied.
 void CopyStyleValuesFromObject(MenuObj& target, const MenuObj& CopyItem);
 void CopyStyleValuesFromObject(MenuObj& target, const SubmenuObj& CopyItem);
 void CopyStyleValuesFromObject(SubmenuObj& target, const SubmenuObj& CopyItem);
 void CopyStyleValuesFromObject(ItemObj& target, const ItemObj& CopyItem);
 void CopyStyleValuesFromMenuObject(SubmenuObj& target, const MenuObj& CopyItem);
 
-/// What `getImage` gives for a slot past the last.
+/// The result of `getImage` for a slot out of range.
 inline constexpr std::string_view noMoreImages = "nomoreimages";
 
-/// The path in an image slot, counted from 0 in table order.
+/// The path of the image in a slot, counted from 0 in table order.
 std::string_view getImage(const Element& element, int slot);
 
-/// Stores the number of the slot's image in the compiled menu; past the last slot it does nothing.
+/// Stores the number of a slot's image in the compiled menu. Does nothing for a slot out of range.
 void setImageNo(Element& element, int slot, float number);
 
-/// Calls `f(path, number)` for each image slot in order, with the number to be set, until `f` says false.
+/// Calls `f(path, number)` for each image slot in order until it returns false. `number` is a reference to
+/// set.
 template <class F>
 void eachImage(Element& element, F&& f) {
   std::visit(
@@ -65,7 +66,13 @@ void eachImage(Element& element, F&& f) {
       element);
 }
 
-/// The text of the element's node after an edit of its name.
+/// Gives an item one name for all of its states.
+void setNames(ItemObj& item, const SharedText& name);
+
+/// Removes the images that mark an item with a submenu.
+void clearSubmenuImages(ItemObj& item);
+
+/// The text that the node of this element shows.
 SharedText NodeText(const Element& element);
 
 }  // namespace nimbrel

@@ -6,8 +6,8 @@
 
 namespace nimbrel {
 
-/// An item. Nearly everything stands three times, for its states 1 Normal, 2 Mouse Over and 3 Mouse Click.
-/// A new object holds empty texts and zeros until `SetDefaultValues` or a reader fills it.
+/// An item. Most properties exist three times, for the states 1 Normal, 2 Mouse Over and 3 Mouse Click.
+/// A new object has empty texts and zeros until `SetDefaultValues` or a reader sets them.
 struct ItemObj {
   SharedText ItemName1;                  ///< text of the item in state 1
   SharedText ItemName2;                  ///< text of the item in state 2
@@ -69,12 +69,12 @@ struct ItemObj {
   SharedText JavascriptCommand1;         ///< script command of state 1
   SharedText JavascriptCommand2;         ///< script command of state 2
   SharedText JavascriptCommand3;         ///< script command of state 3
-  SharedText URL;                        ///< address that the item leads to
+  SharedText URL;                        ///< address that the item opens
   SharedText TargetFrame;                ///< frame or window in which the address opens
-  float HasSubmenu = 0;  ///< not zero: flagged in the file; the tree alone tells whether there is one
+  float HasSubmenu = 0;  ///< stored as a flag; whether there is a submenu follows from the tree alone
 
-  // Calculated by each compile, never stored, copied or compared: the numbers of shared styles as text
-  // (empty: none) and of images in the compiled menu (from 1, 0: none).
+  // Calculated by each compile; not stored, copied or compared. Numbers of styles in the compiled menu as
+  // text (empty: no style), and of images (from 1; 0: no image).
   SharedText ItemStyleID1;
   SharedText ItemStyleID2;
   SharedText ItemStyleID3;
@@ -96,72 +96,71 @@ struct ItemObj {
 
 // clang-format off
 inline constexpr auto itemProperties = std::to_array<Property<ItemObj>>({
-    {"ItemName1",           &ItemObj::ItemName1,           "Item", FileForm::Marked},
-    {"ItemName2",           &ItemObj::ItemName2,           "Item", FileForm::Marked},
-    {"ItemName3",           &ItemObj::ItemName3,           "Item", FileForm::Marked},
-    {"DisplayNameAsTitle1", &ItemObj::DisplayNameAsTitle1, 1, StyleOfClass},
-    {"DisplayNameAsTitle2", &ItemObj::DisplayNameAsTitle2, 1, StyleOfClass},
-    {"DisplayNameAsTitle3", &ItemObj::DisplayNameAsTitle3, 1, StyleOfClass},
-    {"ItemImage1",          &ItemObj::ItemImage1,          notSet, FileForm::Escaped, NoStyle, &ItemObj::ItemImage1No},
-    {"ItemImage2",          &ItemObj::ItemImage2,          notSet, FileForm::Escaped, NoStyle, &ItemObj::ItemImage2No},
-    {"ItemImage3",          &ItemObj::ItemImage3,          notSet, FileForm::Escaped, NoStyle, &ItemObj::ItemImage3No},
-    {"ImageAlignment1",     &ItemObj::ImageAlignment1,     0, StyleOfClass},
-    {"ImageAlignment2",     &ItemObj::ImageAlignment2,     0, StyleOfClass},
-    {"ImageAlignment3",     &ItemObj::ImageAlignment3,     0, StyleOfClass},
-    {"ItemAlignment1",      &ItemObj::ItemAlignment1,      1, StyleOfClass},
-    {"ItemAlignment2",      &ItemObj::ItemAlignment2,      1, StyleOfClass},
-    {"ItemAlignment3",      &ItemObj::ItemAlignment3,      1, StyleOfClass},
-    {"ItemTooltip",         &ItemObj::ItemTooltip,         "", FileForm::Escaped},
-    {"ItemCursor",          &ItemObj::ItemCursor,          1, StyleOfClass},
-    {"ItemPadding1",        &ItemObj::ItemPadding1,        0, StyleOfClass},
-    {"ItemPadding2",        &ItemObj::ItemPadding2,        0, StyleOfClass},
-    {"ItemPadding3",        &ItemObj::ItemPadding3,        0, StyleOfClass},
-    {"FontFamily1",         &ItemObj::FontFamily1,         "sans-serif", FileForm::Raw, StyleOfClass},
-    {"FontFamily2",         &ItemObj::FontFamily2,         "sans-serif", FileForm::Raw, StyleOfClass},
-    {"FontFamily3",         &ItemObj::FontFamily3,         "sans-serif", FileForm::Raw, StyleOfClass},
-    {"FontSize1",           &ItemObj::FontSize1,           "4mm", FileForm::Raw, StyleOfClass},
-    {"FontSize2",           &ItemObj::FontSize2,           "4mm", FileForm::Raw, StyleOfClass},
-    {"FontSize3",           &ItemObj::FontSize3,           "4mm", FileForm::Raw, StyleOfClass},
-    {"FontBold1",           &ItemObj::FontBold1,           0, StyleOfClass},
-    {"FontBold2",           &ItemObj::FontBold2,           0, StyleOfClass},
-    {"FontBold3",           &ItemObj::FontBold3,           0, StyleOfClass},
-    {"FontItalic1",         &ItemObj::FontItalic1,         0, StyleOfClass},
-    {"FontItalic2",         &ItemObj::FontItalic2,         0, StyleOfClass},
-    {"FontItalic3",         &ItemObj::FontItalic3,         0, StyleOfClass},
-    {"FontUnderlined1",     &ItemObj::FontUnderlined1,     0, StyleOfClass},
-    {"FontUnderlined2",     &ItemObj::FontUnderlined2,     0, StyleOfClass},
-    {"FontUnderlined3",     &ItemObj::FontUnderlined3,     0, StyleOfClass},
-    {"FontColor1",          &ItemObj::FontColor1,          "#000000", FileForm::Raw, StyleOfClass},
-    {"FontColor2",          &ItemObj::FontColor2,          "#FFFFFF", FileForm::Raw, StyleOfClass},
-    {"FontColor3",          &ItemObj::FontColor3,          "#FFFFFF", FileForm::Raw, StyleOfClass},
-    {"HasSubmenuImage1",    &ItemObj::HasSubmenuImage1,    notSet, FileForm::Escaped, StyleOfClass, &ItemObj::HasSubmenuImage1No},
-    {"HasSubmenuImage2",    &ItemObj::HasSubmenuImage2,    notSet, FileForm::Escaped, StyleOfClass, &ItemObj::HasSubmenuImage2No},
-    {"HasSubmenuImage3",    &ItemObj::HasSubmenuImage3,    notSet, FileForm::Escaped, StyleOfClass, &ItemObj::HasSubmenuImage3No},
-    {"BorderStyle1",        &ItemObj::BorderStyle1,        "none", FileForm::Raw, StyleOfClass},
-    {"BorderStyle2",        &ItemObj::BorderStyle2,        "none", FileForm::Raw, StyleOfClass},
-    {"BorderStyle3",        &ItemObj::BorderStyle3,        "none", FileForm::Raw, StyleOfClass},
-    {"BorderWidth1",        &ItemObj::BorderWidth1,        1, StyleOfClass},
-    {"BorderWidth2",        &ItemObj::BorderWidth2,        1, StyleOfClass},
-    {"BorderWidth3",        &ItemObj::BorderWidth3,        1, StyleOfClass},
-    {"BorderColor1",        &ItemObj::BorderColor1,        notSet, FileForm::Raw, StyleOfClass},
-    {"BorderColor2",        &ItemObj::BorderColor2,        notSet, FileForm::Raw, StyleOfClass},
-    {"BorderColor3",        &ItemObj::BorderColor3,        notSet, FileForm::Raw, StyleOfClass},
-    {"BGColor1",            &ItemObj::BGColor1,            notSet, FileForm::Raw, StyleOfClass},
-    {"BGColor2",            &ItemObj::BGColor2,            "#000080", FileForm::Raw, StyleOfClass},
-    {"BGColor3",            &ItemObj::BGColor3,            "#408080", FileForm::Raw, StyleOfClass},
-    {"BGImage1",            &ItemObj::BGImage1,            notSet, FileForm::Escaped, StyleOfClass, &ItemObj::BGImage1No},
-    {"BGImage2",            &ItemObj::BGImage2,            notSet, FileForm::Escaped, StyleOfClass, &ItemObj::BGImage2No},
-    {"BGImage3",            &ItemObj::BGImage3,            notSet, FileForm::Escaped, StyleOfClass, &ItemObj::BGImage3No},
-    {"StatusBarText",       &ItemObj::StatusBarText,       "", FileForm::Marked},
-    {"JavascriptCommand1",  &ItemObj::JavascriptCommand1,  notSet, FileForm::Escaped},
-    {"JavascriptCommand2",  &ItemObj::JavascriptCommand2,  notSet, FileForm::Escaped},
-    {"JavascriptCommand3",  &ItemObj::JavascriptCommand3,  notSet, FileForm::Escaped},
-    {"URL",                 &ItemObj::URL,                 notSet, FileForm::Escaped},
-    {"TargetFrame",         &ItemObj::TargetFrame,         notSet, FileForm::Escaped},
-    {"HasSubmenu",          &ItemObj::HasSubmenu,          0, NoStyle, FileForm::Flag},
+    {V110, "ItemName1",           &ItemObj::ItemName1,           "Item", FileForm::Marked},
+    {V110, "ItemName2",           &ItemObj::ItemName2,           "Item", FileForm::Marked},
+    {V110, "ItemName3",           &ItemObj::ItemName3,           "Item", FileForm::Marked},
+    {V110, "DisplayNameAsTitle1", &ItemObj::DisplayNameAsTitle1, 1, StyleOfClass},
+    {V110, "DisplayNameAsTitle2", &ItemObj::DisplayNameAsTitle2, 1, StyleOfClass},
+    {V110, "DisplayNameAsTitle3", &ItemObj::DisplayNameAsTitle3, 1, StyleOfClass},
+    {V110, "ItemImage1",          &ItemObj::ItemImage1,          notSet, FileForm::Escaped, NoStyle, &ItemObj::ItemImage1No},
+    {V110, "ItemImage2",          &ItemObj::ItemImage2,          notSet, FileForm::Escaped, NoStyle, &ItemObj::ItemImage2No},
+    {V110, "ItemImage3",          &ItemObj::ItemImage3,          notSet, FileForm::Escaped, NoStyle, &ItemObj::ItemImage3No},
+    {V110, "ImageAlignment1",     &ItemObj::ImageAlignment1,     0, StyleOfClass},
+    {V110, "ImageAlignment2",     &ItemObj::ImageAlignment2,     0, StyleOfClass},
+    {V110, "ImageAlignment3",     &ItemObj::ImageAlignment3,     0, StyleOfClass},
+    {V110, "ItemAlignment1",      &ItemObj::ItemAlignment1,      1, StyleOfClass},
+    {V110, "ItemAlignment2",      &ItemObj::ItemAlignment2,      1, StyleOfClass},
+    {V110, "ItemAlignment3",      &ItemObj::ItemAlignment3,      1, StyleOfClass},
+    {V200, "ItemTooltip",         &ItemObj::ItemTooltip,         "", FileForm::Escaped},
+    {V200, "ItemCursor",          &ItemObj::ItemCursor,          1, StyleOfClass},
+    {V200, "ItemPadding1",        &ItemObj::ItemPadding1,        0, StyleOfClass},
+    {V200, "ItemPadding2",        &ItemObj::ItemPadding2,        0, StyleOfClass},
+    {V200, "ItemPadding3",        &ItemObj::ItemPadding3,        0, StyleOfClass},
+    {V110, "FontFamily1",         &ItemObj::FontFamily1,         "sans-serif", FileForm::Raw, StyleOfClass},
+    {V110, "FontFamily2",         &ItemObj::FontFamily2,         "sans-serif", FileForm::Raw, StyleOfClass},
+    {V110, "FontFamily3",         &ItemObj::FontFamily3,         "sans-serif", FileForm::Raw, StyleOfClass},
+    {V110, "FontSize1",           &ItemObj::FontSize1,           "4mm", FileForm::Raw, StyleOfClass},
+    {V110, "FontSize2",           &ItemObj::FontSize2,           "4mm", FileForm::Raw, StyleOfClass},
+    {V110, "FontSize3",           &ItemObj::FontSize3,           "4mm", FileForm::Raw, StyleOfClass},
+    {V110, "FontBold1",           &ItemObj::FontBold1,           0, StyleOfClass},
+    {V110, "FontBold2",           &ItemObj::FontBold2,           0, StyleOfClass},
+    {V110, "FontBold3",           &ItemObj::FontBold3,           0, StyleOfClass},
+    {V110, "FontItalic1",         &ItemObj::FontItalic1,         0, StyleOfClass},
+    {V110, "FontItalic2",         &ItemObj::FontItalic2,         0, StyleOfClass},
+    {V110, "FontItalic3",         &ItemObj::FontItalic3,         0, StyleOfClass},
+    {V110, "FontUnderlined1",     &ItemObj::FontUnderlined1,     0, StyleOfClass},
+    {V110, "FontUnderlined2",     &ItemObj::FontUnderlined2,     0, StyleOfClass},
+    {V110, "FontUnderlined3",     &ItemObj::FontUnderlined3,     0, StyleOfClass},
+    {V110, "FontColor1",          &ItemObj::FontColor1,          "#000000", FileForm::Raw, StyleOfClass},
+    {V110, "FontColor2",          &ItemObj::FontColor2,          "#FFFFFF", FileForm::Raw, StyleOfClass},
+    {V110, "FontColor3",          &ItemObj::FontColor3,          "#FFFFFF", FileForm::Raw, StyleOfClass},
+    {V110, "HasSubmenuImage1",    &ItemObj::HasSubmenuImage1,    notSet, FileForm::Escaped, StyleOfClass, &ItemObj::HasSubmenuImage1No},
+    {V110, "HasSubmenuImage2",    &ItemObj::HasSubmenuImage2,    notSet, FileForm::Escaped, StyleOfClass, &ItemObj::HasSubmenuImage2No},
+    {V110, "HasSubmenuImage3",    &ItemObj::HasSubmenuImage3,    notSet, FileForm::Escaped, StyleOfClass, &ItemObj::HasSubmenuImage3No},
+    {V110, "BorderStyle1",        &ItemObj::BorderStyle1,        "none", FileForm::Raw, StyleOfClass},
+    {V110, "BorderStyle2",        &ItemObj::BorderStyle2,        "none", FileForm::Raw, StyleOfClass},
+    {V110, "BorderStyle3",        &ItemObj::BorderStyle3,        "none", FileForm::Raw, StyleOfClass},
+    {V110, "BorderWidth1",        &ItemObj::BorderWidth1,        1, StyleOfClass},
+    {V110, "BorderWidth2",        &ItemObj::BorderWidth2,        1, StyleOfClass},
+    {V110, "BorderWidth3",        &ItemObj::BorderWidth3,        1, StyleOfClass},
+    {V110, "BorderColor1",        &ItemObj::BorderColor1,        notSet, FileForm::Raw, StyleOfClass},
+    {V110, "BorderColor2",        &ItemObj::BorderColor2,        notSet, FileForm::Raw, StyleOfClass},
+    {V110, "BorderColor3",        &ItemObj::BorderColor3,        notSet, FileForm::Raw, StyleOfClass},
+    {V110, "BGColor1",            &ItemObj::BGColor1,            notSet, FileForm::Raw, StyleOfClass},
+    {V110, "BGColor2",            &ItemObj::BGColor2,            "#000080", FileForm::Raw, StyleOfClass},
+    {V110, "BGColor3",            &ItemObj::BGColor3,            "#408080", FileForm::Raw, StyleOfClass},
+    {V110, "BGImage1",            &ItemObj::BGImage1,            notSet, FileForm::Escaped, StyleOfClass, &ItemObj::BGImage1No},
+    {V110, "BGImage2",            &ItemObj::BGImage2,            notSet, FileForm::Escaped, StyleOfClass, &ItemObj::BGImage2No},
+    {V110, "BGImage3",            &ItemObj::BGImage3,            notSet, FileForm::Escaped, StyleOfClass, &ItemObj::BGImage3No},
+    {V110, "StatusBarText",       &ItemObj::StatusBarText,       "", FileForm::Marked},
+    {V200, "JavascriptCommand1",  &ItemObj::JavascriptCommand1,  notSet, FileForm::Escaped},
+    {V200, "JavascriptCommand2",  &ItemObj::JavascriptCommand2,  notSet, FileForm::Escaped},
+    {V120, "JavascriptCommand3",  &ItemObj::JavascriptCommand3,  notSet, FileForm::Escaped},
+    {V110, "URL",                 &ItemObj::URL,                 notSet, FileForm::Escaped},
+    {V110, "TargetFrame",         &ItemObj::TargetFrame,         notSet, FileForm::Escaped},
+    {V110, "HasSubmenu",          &ItemObj::HasSubmenu,          0, NoStyle, FileForm::Flag},
 });
 // clang-format on
-static_assert(itemProperties.size() == 63);
 
 constexpr std::span<const Property<ItemObj>> ItemObj::properties() { return itemProperties; }
 

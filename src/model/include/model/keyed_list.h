@@ -10,8 +10,8 @@
 
 namespace nimbrel {
 
-/// An ordered collection whose values are reached by key, hashed, and by position. The order is the order of
-/// adding. Values stay where they are in memory until they are removed.
+/// A collection in order of insertion with hashed lookup by key. Values keep their address until they are
+/// removed.
 template <class T>
 class KeyedList {
  public:
@@ -34,10 +34,10 @@ class KeyedList {
   auto begin() { return entries_.begin(); }
   auto end() { return entries_.end(); }
 
-  /// Makes room for so many in the index, which then need not grow on the way.
+  /// Reserves space in the index for `size` entries.
   void reserve(std::size_t size) { byKey_.reserve(size); }
 
-  /// Throws `std::invalid_argument` where the key is taken.
+  /// Adds a value at the end. Throws `std::invalid_argument` if the key exists.
   Entry& add(std::string key, T value) {
     entries_.emplace_back(std::move(key), std::move(value));
     const auto added = std::prev(entries_.end());
@@ -49,6 +49,7 @@ class KeyedList {
     return *added;
   }
 
+  /// The value with that key, or nullptr.
   T* find(std::string_view key) {
     const auto found = byKey_.find(key);
     return found == byKey_.end() ? nullptr : &found->second->second;
@@ -58,18 +59,18 @@ class KeyedList {
     return found == byKey_.end() ? nullptr : &found->second->second;
   }
 
-  /// The value at a position counted from 1, which takes as many steps; none past the last.
+  /// The value at a position, counted from 1, or nullptr if out of range. Takes time linear in the position.
   T* at(std::size_t position) {
     if (position < 1 || position > entries_.size()) return nullptr;
     return &std::next(entries_.begin(), static_cast<std::ptrdiff_t>(position - 1))->second;
   }
 
-  /// A key that is not there is no error.
+  /// Does nothing if the key does not exist.
   void remove(std::string_view key) {
     const auto found = byKey_.find(key);
     if (found == byKey_.end()) return;
     const auto entry = found->second;
-    byKey_.erase(found);  // ahead of the entry, whose key the index looks at
+    byKey_.erase(found);  // before the entry, which owns the key
     entries_.erase(entry);
   }
 
@@ -83,8 +84,8 @@ class KeyedList {
     for (auto entry = entries_.begin(); entry != entries_.end(); ++entry) byKey_.emplace(entry->first, entry);
   }
 
-  /// Keys are a letter and a number. Numbers that follow one another are neighbours here, so that a walk
-  /// through a large document does not jump about in the memory.
+  /// Keys are a letter and a number. Consecutive numbers get neighbouring buckets, so that a walk through a
+  /// large document uses the cache well.
   struct Hash {
     std::size_t operator()(std::string_view key) const {
       std::size_t hash = 0;
@@ -95,7 +96,7 @@ class KeyedList {
 
   std::list<Entry> entries_;
   std::unordered_map<std::string_view, typename std::list<Entry>::iterator, Hash>
-      byKey_;  // keys lie in entries_
+      byKey_;  // views of the keys in entries_
 };
 
 }  // namespace nimbrel

@@ -7,7 +7,7 @@
 namespace nimbrel {
 
 /// A submenu: when, where and how it opens, its title and its container.
-/// A new object holds empty texts and zeros until `SetDefaultValues` or a reader fills it.
+/// A new object has empty texts and zeros until `SetDefaultValues` or a reader sets them.
 struct SubmenuObj : TitledContainer {
   SharedText SubmenuName;             ///< name of the submenu; its node text
   std::uint8_t SubmenuWhen = 0;       ///< when the submenu opens
@@ -25,44 +25,43 @@ struct SubmenuObj : TitledContainer {
 
 // clang-format off
 inline constexpr auto submenuProperties = std::to_array<Property<SubmenuObj>>({
-    {"SubmenuName",          &SubmenuObj::SubmenuName,          "0", FileForm::Marked},  // kept, see SubmenuType
-    {"DisplayNameAsTitle",   &SubmenuObj::DisplayNameAsTitle,   1, StyleOfClass | StyleOfMenu},
-    {"SubmenuWhen",          &SubmenuObj::SubmenuWhen,          0, StyleOfClass},
-    {"SubmenuWhere",         &SubmenuObj::SubmenuWhere,         -4, StyleOfClass},
-    {"SubmenuHow",           &SubmenuObj::SubmenuHow,           2, StyleOfClass},
-    {"OpenDirection",        &SubmenuObj::OpenDirection,        0, StyleOfClass},
-    {"UnfoldDirection",      &SubmenuObj::UnfoldDirection,      0, StyleOfClass},
-    {"SubmenuAlignment",     &SubmenuObj::SubmenuAlignment,     0, StyleOfClass},
-    {"SubmenuType",          &SubmenuObj::SubmenuType,          NoDefault{}},  // kept: its default goes to SubmenuName
-    {"TitleImage",           &SubmenuObj::TitleImage,           notSet, FileForm::Escaped, NoStyle, &SubmenuObj::TitleImageNo},
-    {"TitleImageAlignment",  &SubmenuObj::TitleImageAlignment,  0, StyleOfClass | StyleOfMenu},
-    {"TitleTextAlignment",   &SubmenuObj::TitleTextAlignment,   1, StyleOfClass | StyleOfMenu},
-    {"TitleTooltip",         &SubmenuObj::TitleTooltip,         "", FileForm::Escaped},
-    {"TitleCursor",          &SubmenuObj::TitleCursor,          0, StyleOfClass | StyleOfMenu},
-    {"TitlePadding",         &SubmenuObj::TitlePadding,         0, StyleOfClass | StyleOfMenu},
-    {"TitleFontFamily",      &SubmenuObj::TitleFontFamily,      "sans-serif", FileForm::Raw, StyleOfClass | StyleOfMenu},
-    {"TitleFontSize",        &SubmenuObj::TitleFontSize,        "4mm", FileForm::Raw, StyleOfClass | StyleOfMenu},
-    {"TitleFontBold",        &SubmenuObj::TitleFontBold,        0, StyleOfClass | StyleOfMenu},
-    {"TitleFontItalic",      &SubmenuObj::TitleFontItalic,      0, StyleOfClass | StyleOfMenu},
-    {"TitleFontUnderlined",  &SubmenuObj::TitleFontUnderlined,  0, StyleOfClass | StyleOfMenu},
-    {"TitleFontColor",       &SubmenuObj::TitleFontColor,       "#FFFFFF", FileForm::Raw, StyleOfClass | StyleOfMenu},
-    {"TitleBGColor",         &SubmenuObj::TitleBGColor,         notSet, FileForm::Raw, StyleOfClass | StyleOfMenu},
-    {"TitleBorderStyle",     &SubmenuObj::TitleBorderStyle,     "solid", FileForm::Raw, StyleOfClass | StyleOfMenu},
-    {"TitleBorderWidth",     &SubmenuObj::TitleBorderWidth,     2, StyleOfClass | StyleOfMenu},
-    {"TitleBorderColor",     &SubmenuObj::TitleBorderColor,     "#5B5B5B", FileForm::Raw, StyleOfClass | StyleOfMenu},
-    {"BGColor",              &SubmenuObj::BGColor,              "#C0C0C0", FileForm::Raw, StyleOfClass | StyleOfMenu},
-    {"BGImage",              &SubmenuObj::BGImage,              notSet, FileForm::Escaped, StyleOfClass | StyleOfMenu, &SubmenuObj::BGImageNo},
-    {"BorderStyle",          &SubmenuObj::BorderStyle,          "outset", FileForm::Raw, StyleOfClass | StyleOfMenu},
-    {"BorderWidth",          &SubmenuObj::BorderWidth,          2, StyleOfClass | StyleOfMenu},
-    {"BorderColor",          &SubmenuObj::BorderColor,          "#C0C0C0", FileForm::Raw, StyleOfClass | StyleOfMenu},
-    {"DistanceBetweenItems", &SubmenuObj::DistanceBetweenItems, 0, StyleOfClass | StyleOfMenu},
-    {"UniformItemWidths",    &SubmenuObj::UniformItemWidths,    1, StyleOfClass | StyleOfMenu},
-    {"UniformItemHeights",   &SubmenuObj::UniformItemHeights,   0, StyleOfClass | StyleOfMenu},
-    {"JavascriptOnOpen",     &SubmenuObj::JavascriptOnOpen,     notSet, FileForm::Escaped},
-    {"JavascriptOnClose",    &SubmenuObj::JavascriptOnClose,    notSet, FileForm::Escaped},
+    {V110, "SubmenuName",          &SubmenuObj::SubmenuName,          "0", FileForm::Marked},  // Quirk: see SubmenuType
+    {V110, "DisplayNameAsTitle",   &SubmenuObj::DisplayNameAsTitle,   1, StyleOfClass | StyleOfMenu},
+    {V200, "SubmenuWhen",          &SubmenuObj::SubmenuWhen,          0, StyleOfClass},
+    {V200, "SubmenuWhere",         &SubmenuObj::SubmenuWhere,         -4, StyleOfClass},
+    {V200, "SubmenuHow",           &SubmenuObj::SubmenuHow,           2, StyleOfClass},
+    {V200, "OpenDirection",        &SubmenuObj::OpenDirection,        0, StyleOfClass},
+    {V200, "UnfoldDirection",      &SubmenuObj::UnfoldDirection,      0, StyleOfClass},
+    {V200, "SubmenuAlignment",     &SubmenuObj::SubmenuAlignment,     0, StyleOfClass},
+    {V120, "SubmenuType",          &SubmenuObj::SubmenuType,          NoDefault{}},  // Quirk: its default goes to SubmenuName
+    {V110, "TitleImage",           &SubmenuObj::TitleImage,           notSet, FileForm::Escaped, NoStyle, &SubmenuObj::TitleImageNo},
+    {V110, "TitleImageAlignment",  &SubmenuObj::TitleImageAlignment,  0, StyleOfClass | StyleOfMenu},
+    {V110, "TitleTextAlignment",   &SubmenuObj::TitleTextAlignment,   1, StyleOfClass | StyleOfMenu},
+    {V200, "TitleTooltip",         &SubmenuObj::TitleTooltip,         "", FileForm::Escaped},
+    {V200, "TitleCursor",          &SubmenuObj::TitleCursor,          0, StyleOfClass | StyleOfMenu},
+    {V200, "TitlePadding",         &SubmenuObj::TitlePadding,         0, StyleOfClass | StyleOfMenu},
+    {V110, "TitleFontFamily",      &SubmenuObj::TitleFontFamily,      "sans-serif", FileForm::Raw, StyleOfClass | StyleOfMenu},
+    {V110, "TitleFontSize",        &SubmenuObj::TitleFontSize,        "4mm", FileForm::Raw, StyleOfClass | StyleOfMenu},
+    {V110, "TitleFontBold",        &SubmenuObj::TitleFontBold,        0, StyleOfClass | StyleOfMenu},
+    {V110, "TitleFontItalic",      &SubmenuObj::TitleFontItalic,      0, StyleOfClass | StyleOfMenu},
+    {V110, "TitleFontUnderlined",  &SubmenuObj::TitleFontUnderlined,  0, StyleOfClass | StyleOfMenu},
+    {V110, "TitleFontColor",       &SubmenuObj::TitleFontColor,       "#FFFFFF", FileForm::Raw, StyleOfClass | StyleOfMenu},
+    {V110, "TitleBGColor",         &SubmenuObj::TitleBGColor,         notSet, FileForm::Raw, StyleOfClass | StyleOfMenu},
+    {V110, "TitleBorderStyle",     &SubmenuObj::TitleBorderStyle,     "solid", FileForm::Raw, StyleOfClass | StyleOfMenu},
+    {V110, "TitleBorderWidth",     &SubmenuObj::TitleBorderWidth,     2, StyleOfClass | StyleOfMenu},
+    {V110, "TitleBorderColor",     &SubmenuObj::TitleBorderColor,     "#5B5B5B", FileForm::Raw, StyleOfClass | StyleOfMenu},
+    {V110, "BGColor",              &SubmenuObj::BGColor,              "#C0C0C0", FileForm::Raw, StyleOfClass | StyleOfMenu},
+    {V110, "BGImage",              &SubmenuObj::BGImage,              notSet, FileForm::Escaped, StyleOfClass | StyleOfMenu, &SubmenuObj::BGImageNo},
+    {V110, "BorderStyle",          &SubmenuObj::BorderStyle,          "outset", FileForm::Raw, StyleOfClass | StyleOfMenu},
+    {V110, "BorderWidth",          &SubmenuObj::BorderWidth,          2, StyleOfClass | StyleOfMenu},
+    {V110, "BorderColor",          &SubmenuObj::BorderColor,          "#C0C0C0", FileForm::Raw, StyleOfClass | StyleOfMenu},
+    {V110, "DistanceBetweenItems", &SubmenuObj::DistanceBetweenItems, 0, StyleOfClass | StyleOfMenu},
+    {V120, "UniformItemWidths",    &SubmenuObj::UniformItemWidths,    1, StyleOfClass | StyleOfMenu},
+    {V110, "UniformItemHeights",   &SubmenuObj::UniformItemHeights,   0, StyleOfClass | StyleOfMenu},
+    {V200, "JavascriptOnOpen",     &SubmenuObj::JavascriptOnOpen,     notSet, FileForm::Escaped},
+    {V200, "JavascriptOnClose",    &SubmenuObj::JavascriptOnClose,    notSet, FileForm::Escaped},
 });
 // clang-format on
-static_assert(submenuProperties.size() == 35);
 
 constexpr std::span<const Property<SubmenuObj>> SubmenuObj::properties() { return submenuProperties; }
 

@@ -4,7 +4,7 @@
 
 namespace nimbrel {
 
-/// What main menu and submenu have in common: a title, and the box in which the items stand.
+/// The common part of main menus and submenus: a title, and the container, the box of the items.
 struct TitledContainer {
   std::uint8_t DisplayNameAsTitle = 0;   ///< what the title shows (name and image, image only, no title)
   std::uint8_t UnfoldDirection = 0;      ///< direction of unfolding
@@ -35,8 +35,8 @@ struct TitledContainer {
   SharedText JavascriptOnOpen;           ///< script run when the element opens
   SharedText JavascriptOnClose;          ///< script run when the element closes
 
-  // Calculated by each compile, never stored, copied or compared: the numbers of shared styles as text
-  // (empty: none) and of images in the compiled menu (from 1, 0: none).
+  // Calculated by each compile; not stored, copied or compared. Numbers of styles in the compiled menu as
+  // text (empty: no style), and of images (from 1; 0: no image).
   SharedText ContainerStyleID;
   SharedText TitleStyleID;
   float TitleImageNo = 0;

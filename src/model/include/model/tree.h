@@ -9,21 +9,21 @@
 
 namespace nimbrel {
 
-/// The kinds of element, told from the first letter of a key and by nothing else.
+/// The kinds of element. The first letter of a key alone decides the kind.
 enum class Kind : char { Menu = 'M', Submenu = 'S', Item = 'I', None = 0 };
 
 Kind kindOf(std::string_view key);
 
-/// Where a node is added, as seen from another.
+/// The place of a new node relative to another.
 enum class Relationship { Next = 2, Previous = 3, Child = 4 };
 
-/// One node of a tree. It lives, at one address, until it is removed.
+/// One node of a tree. It keeps its address until it is removed.
 class Node {
  public:
-  std::string Key;  ///< unique in the tree; only the tree sets it
-  SharedText Text;  ///< the label, which the menu file stores
+  std::string Key;  ///< unique in the tree; set only by the tree
+  SharedText Text;  ///< the label, stored in the menu file
 
-  /// The name of the node's picture: "item" for items, else "menu".
+  /// The name of the node's icon: "item" for items, else "menu".
   std::string_view Image() const { return kindOf(Key) == Kind::Item ? "item" : "menu"; }
 
   Node* Parent() const { return parent_; }
@@ -44,8 +44,8 @@ class Node {
   std::size_t children_ = 0;
 };
 
-/// Nodes with keys, in ordered levels. A well-formed document has one root; a file may bring more, which
-/// stand behind the first as its siblings.
+/// An ordered tree of nodes with keys. A well-formed document has one root. A file may bring more, which are
+/// siblings of the first.
 class Tree {
  public:
   Tree() = default;
@@ -58,25 +58,25 @@ class Tree {
   std::size_t size() const { return nodes_.size(); }
   bool empty() const { return nodes_.empty(); }
   void reserve(std::size_t size) { nodes_.reserve(size); }
-  /// The first root, none in an empty tree.
+  /// The first root, or nullptr in an empty tree.
   Node* root() const { return firstRoot_; }
   Node* find(std::string_view key);
   const Node* find(std::string_view key) const;
-  /// The node at a position counted from 1 in the order of adding; none past the last.
+  /// The node at a position, counted from 1 in order of insertion, or nullptr if out of range.
   Node* at(std::size_t position) { return nodes_.at(position); }
 
-  /// Adds a root behind those there are. Both throw `std::invalid_argument` where the key is taken.
+  /// Add a node: as the last root, or next to another. Throw `std::invalid_argument` if the key exists.
   Node& addRoot(std::string key, SharedText text);
   Node& add(Node& relative, Relationship relationship, std::string key, SharedText text);
 
-  /// Moves a node with whatever hangs from it to another place, which does not lie in it.
+  /// Moves a node with its descendants to another place. `relative` must not be one of them.
   void move(Node& node, Node& relative, Relationship relationship);
 
-  /// Removes the node and whatever hangs from it. A key that is not there is no error.
+  /// Removes a node and its descendants. Does nothing if the key does not exist.
   void remove(std::string_view key);
   void clear();
 
-  /// Equal keys and texts in equal places.
+  /// Compares keys, texts and places.
   bool operator==(const Tree& other) const;
 
  private:
@@ -90,11 +90,11 @@ class Tree {
   Node* lastRoot_ = nullptr;
 };
 
-/// The node behind `node` when a tree is walked depth first, a node ahead of its children; none behind the
-/// last. The walk stays among `top` and what hangs from it; without a `top` it goes through the whole tree.
+/// The node after `node` in pre-order, or nullptr after the last. The walk covers `top` and its descendants,
+/// or the whole tree if `top` is nullptr.
 Node* following(const Node* node, const Node* top = nullptr);
 
-/// The same, past what hangs from `node`.
+/// The same, but skips the descendants of `node`.
 Node* followingPastChildren(const Node* node, const Node* top = nullptr);
 
 }  // namespace nimbrel

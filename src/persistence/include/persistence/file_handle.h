@@ -10,31 +10,34 @@
 
 namespace nimbrel {
 
-/// A file open for reading value by value, which knows where it is: what it throws and notes bears the path,
-/// the record and the line.
+/// A file that is read value by value. Its errors and notes name the path, the record and the line of the
+/// value read last.
 class FileHandle {
  public:
-  /// The bytes are to outlive the handle and the values it gives; what it notes goes into `notes`.
+  /// `bytes` must outlive the handle and its values. Notes are appended to `notes`.
   FileHandle(std::string path, std::string_view bytes, Findings& notes)
       : path_(std::move(path)), values_(bytes), notes_(notes) {}
 
   /// The next value. Throws `FileError` at the end of the file.
   std::string_view next();
 
-  /// The text as one that others of the file share, if it was met of late.
+  /// Returns the text, sharing memory with an equal recent one. Valid until the next call.
   const SharedText& shared(std::string_view text);
 
-  /// As in the reader of values.
-  std::string_view lastAsItStood() const { return values_.lastAsItStood(); }
-  bool skip(std::string_view asItStood) { return values_.skip(asItStood); }
+  // See `ValueReader`.
+  std::string_view lastSource() const { return values_.lastSource(); }
+  bool skip(std::string_view source) { return values_.skip(source); }
   void passLineEnd() { values_.passLineEnd(); }
   bool atEnd() const { return values_.atEnd(); }
 
-  /// From here on errors tell of the next record.
+  /// Starts the next record, for the place in errors and notes.
   void beginRecord() { ++record_; }
 
+  /// Throws a `FileError` with this reason.
   [[noreturn]] void fail(const std::string& reason) const;
+  /// Adds a finding that does not stop the reading.
   void note(const std::string& reason);
+  /// The number of notes so far.
   std::size_t notes() const { return notes_.size(); }
 
  private:
@@ -49,7 +52,7 @@ class FileHandle {
   std::vector<SharedText> recent_ = std::vector<SharedText>(recentTexts);
 };
 
-/// A value as a message quotes it: short and without control characters.
+/// A value in double quotes for a message, shortened and without control characters.
 std::string quoted(std::string_view value);
 
 }  // namespace nimbrel

@@ -7,33 +7,34 @@
 #include "persistence/older_records.h"
 #include "platform/file_system.h"
 
-/// The menu file (".nbr"): the document as text of lines with CR LF, in the one-byte set.
+/// The menu file (".nbr"): a document as one-byte text. `docs/formats.md` describes it.
 namespace nimbrel {
 
-/// The first value of the file is of no version we know.
+/// Thrown if the first value of a file is not the magic of a known version.
 class NotAMenuFile : public FileError {
  public:
   explicit NotAMenuFile(std::string path);
 };
 
-/// Empties the document and reads the file into it: `folder`, a backslash, `fileName`, or the name alone
-/// where the folder is empty. Takes every version from "nbr110" on, and whatever structure the file says.
+/// Replaces the document by the menu file `fileName` in `folder` (empty: the name is the whole path). Reads
+/// all versions of `fileFormats`. Nodes may come in any order with parents first, and in any structure.
 ///
-/// What is only noted on the way goes into `notes`. Throws `FileError` with record, line and reason where the
-/// load stops; the nodes read so far are then in the document, each with its element. A file of no known
-/// version (`NotAMenuFile`) leaves an empty document with its settings as they were.
+/// Oddities that do not stop the reading are added to `notes`. Throws `FileError` with record, line and
+/// reason if the reading stops; the document then contains the nodes read so far, each with its element. For
+/// a file of no known version it throws `NotAMenuFile`; the document is then empty and its settings are
+/// unchanged.
 void LoadMenuFile(const FileSystem& files, std::string_view folder, std::string_view fileName,
                   SubmenuCarryOver& carryOver, Document& document, Findings& notes);
 
-/// The same from bytes that were read already; `path` is for the messages.
+/// The same for the bytes of a file. `path` is used in messages, `folder` for images that begin with "*".
 void readMenuFile(std::string_view bytes, const std::string& path, std::string_view folder,
                   SubmenuCarryOver& carryOver, Document& document, Findings& notes);
 
-/// Writes the document in the current version, replacing the file whole. Throws `FileError`; the old file
-/// then stands as it was.
+/// Writes the document in the current version and replaces the file as a whole. Throws `FileError`; the old
+/// file is then unchanged.
 void SaveMenuFile(FileSystem& files, std::string_view path, const Document& document);
 
-/// What `SaveMenuFile` writes.
+/// The bytes that `SaveMenuFile` writes.
 std::string menuFileText(const Document& document);
 
 }  // namespace nimbrel

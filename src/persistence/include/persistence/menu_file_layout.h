@@ -2,13 +2,13 @@
 
 #include <string_view>
 
-/// What reader and writer of the menu file agree upon beyond the tables.
+/// Fixed texts of the menu file, for reader and writer.
 namespace nimbrel {
 
-inline constexpr std::string_view currentMagic = "nbr200";
+/// Ends the header.
 inline constexpr std::string_view treeMark = "[Menu Tree]";
 
-/// Stands in place of a parent's key in the record of a root; the writer prints it with its blanks.
+/// The parent's key in the record of a root. The writer puts blanks around it.
 inline constexpr std::string_view rootParent = "0";
 
 }  // namespace nimbrel

@@ -6,22 +6,22 @@
 #include "model/element.h"
 #include "persistence/file_handle.h"
 
-/// The records of menu files and style files of earlier releases, which have fewer values and no closing
-/// marker. What a record does not carry stays as an object is created, empty and zero, not at its default.
+/// The records of file versions without closing markers. Properties that a version lacks stay as they are in
+/// a new object, empty and zero.
 namespace nimbrel {
 
-/// How submenus open, which earlier releases kept once, in the main menu's record, until the submenu records
-/// behind it have taken it over. Zero when the program starts.
+/// How submenus open. These versions store it once, in the main menu's record; each submenu record after it
+/// gets a copy. All zero when the program starts.
 struct SubmenuCarryOver {
   std::uint8_t bcSubmenusWhen = 0;
   float bcSubmenusWhere = 0;
   std::uint8_t bcSubmenusHow = 0;
 };
 
-/// Both throw `FileError` at a value that does not convert.
-void ReadPropertiesFromFile11(FileHandle& file, std::string_view FPath, SubmenuCarryOver& carryOver,
-                              Element& element);
-void ReadPropertiesFromFile12(FileHandle& file, std::string_view FPath, SubmenuCarryOver& carryOver,
-                              Element& element);
+/// Reads the values of one record into a new element. An image that begins with "*" has that
+/// character replaced by `FPath`. Throws `FileError` if a value cannot be converted; the values before it are
+/// then in the element.
+void readOlderRecord(FileHandle& file, FileVersion version, std::string_view FPath,
+                     SubmenuCarryOver& carryOver, Element& element);
 
 }  // namespace nimbrel

@@ -1,58 +1,34 @@
 #pragma once
 
-#include <array>
 #include <string>
 #include <string_view>
-#include <tuple>
 
 #include "model/element.h"
 #include "persistence/file_handle.h"
 
-/// The property line: the stored values of an element in table order, a comma behind each, then the closing
-/// marker of its class. Menu files and style files share it.
+/// The property line: the stored values of an element in table order, each with a comma after it, then the
+/// closing marker of its class. Used in menu files and style files.
 namespace nimbrel {
 
-/// Stands for a comma inside a marked or escaped value: the superscript three of Windows-1252.
+/// Replaces commas in marked and escaped values: the superscript three of Windows-1252.
 inline constexpr char escapedComma = '\xB3';
 
+/// The value that ends a property line; empty for `Kind::None`.
 std::string_view closingMarker(Kind kind);
 
-/// A text between "!" marks, its commas escaped, and back. `unmarked` fails at the place of the handle where
-/// there is nothing to strip; marks that are not "!" are noted.
+/// Write a text between "!" marks with escaped commas, and read it back. `unmarked` throws a `FileError` of
+/// `file` if the value is too short for marks, and notes marks other than "!". `name` is used in messages.
 void appendMarked(std::string& out, std::string_view text);
 SharedText unmarked(FileHandle& file, std::string_view name, std::string_view value);
 
-/// The property line, without a line end.
+/// The property line of an element, without a line end.
 void appendParameterString(std::string& out, const Element& element);
 std::string ParameterString(const Element& element);
 
-/// Reads one value into one property. An image that begins with "*" has that character replaced by `FPath`,
-/// the folder of the load. Throws `FileError` where a number does not convert.
+/// Reads the next value into one property. In an image that begins with "*", that character is replaced by
+/// `FPath`, the folder of the file. Throws `FileError` if the value cannot be converted.
 template <class E>
 void readProperty(FileHandle& file, std::string_view FPath, const Property<E>& property, E& element);
-
-/// Reads the records of the current version from one file. It keeps the last record of each class: most values
-/// say again what that one said, and are passed over.
-class RecordReader20 {
- public:
-  /// `FPath` is the folder of the load. Both are to outlive the reader.
-  RecordReader20(FileHandle& file, std::string_view FPath) : file_(file), FPath_(FPath) {}
-
-  /// Reads all values of the element's class and drops what follows up to its closing marker, so that a later
-  /// version's further values do no harm. Throws `FileError`.
-  void ReadPropertiesFromFile20(Element& element);
-
- private:
-  template <class E>
-  struct LastRecord {
-    E element;
-    std::array<std::string_view, E::properties().size()> values;  // as they stood, empty: not known
-  };
-
-  FileHandle& file_;
-  std::string_view FPath_;
-  std::tuple<LastRecord<MenuObj>, LastRecord<SubmenuObj>, LastRecord<ItemObj>> last_;
-};
 
 extern template void readProperty(FileHandle&, std::string_view, const Property<MenuObj>&, MenuObj&);
 extern template void readProperty(FileHandle&, std::string_view, const Property<SubmenuObj>&, SubmenuObj&);

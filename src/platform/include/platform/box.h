@@ -2,7 +2,7 @@
 
 namespace nimbrel {
 
-/// A place within a window, in twips.
+/// A rectangle in a window, in twips.
 struct Box {
   int left = 0;
   int top = 0;

@@ -7,7 +7,7 @@
 
 namespace nimbrel {
 
-/// Where in a file something stands; zero where that is not known. Both count from 1.
+/// A place in a file. Both count from 1; zero means unknown.
 struct Place {
   std::size_t record = 0;
   std::size_t line = 0;
@@ -15,7 +15,7 @@ struct Place {
   bool operator==(const Place&) const = default;
 };
 
-/// What was seen about a file: its path in document form, the place in it, and the reason in words.
+/// A problem with a file: its path in document form, the place in it, and the reason in words.
 struct Finding {
   std::string path;
   std::string reason;
@@ -23,14 +23,14 @@ struct Finding {
 
   bool operator==(const Finding&) const = default;
 
-  /// The reason with the place ahead of it: "record 3, line 19: ...".
+  /// The place and the reason: "record 3, line 19: ...".
   std::string text() const;
 };
 
-/// What is only noted goes into findings, and the work goes on.
+/// Problems that do not stop an operation are collected.
 using Findings = std::vector<Finding>;
 
-/// What stops the work on a file is thrown.
+/// Thrown for problems that end the processing of a file.
 class FileError : public std::exception {
  public:
   explicit FileError(Finding finding) : finding_(std::move(finding)), text_(finding_.text()) {}

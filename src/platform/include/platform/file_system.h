@@ -9,52 +9,52 @@
 
 namespace nimbrel {
 
-/// A file as it is to be.
+/// The new contents of a file.
 struct NewFile {
   std::string path;
   std::string bytes;
 };
 
-/// The file system. Paths are in document form, with backslashes. What fails throws `FileError` with the path
-/// and leaves what was there as it was.
+/// The file system. Paths are in document form, with backslashes. A call that fails throws `FileError` with
+/// the path and changes nothing.
 class FileSystem {
  public:
   virtual ~FileSystem() = default;
 
-  /// Whether a regular file stands there, links followed. A folder or an empty path is no file.
+  /// Whether the path is a regular file or a link to one. False for an empty path.
   virtual bool isFile(std::string_view path) const = 0;
   virtual bool isFolder(std::string_view path) const = 0;
 
-  /// The bytes of a regular file of at most `largestFile` bytes.
+  /// Returns the bytes of a regular file. Fails if it has more than `largestFile`.
   virtual std::string read(std::string_view path) const = 0;
 
-  /// Replaces the file whole, or makes it: whoever reads sees the old bytes or all of the new ones, whenever
-  /// this is cut off. The mode of an old file is kept, links are followed, and a file that is marked
-  /// read-only stays.
+  /// Creates the file or replaces it atomically: after a crash or power failure it has either its old bytes
+  /// or all of the new ones. Keeps the mode of an old file and follows links. Fails if the file is read-only.
   virtual void replace(std::string_view path, std::string_view bytes) = 0;
 
-  /// Replaces each file so, all with one wait for the disk. Those that fail are in the findings and stay as
-  /// they were; the others are replaced.
+  /// The same for many files, with only one wait for the disk. Returns the failures; those files are
+  /// unchanged.
   virtual Findings replaceAll(std::span<const NewFile> newFiles);
 
-  /// Replaces or makes a file that can be made again at will: as `replace`, but without a wait for the disk.
+  /// Like `replace`, but without waiting for the disk: for files that can be generated again.
   virtual void generate(std::string_view path, std::string_view bytes) = 0;
 
-  /// Generates `to` with the bytes of `from`. A file copied to itself stays as it is.
+  /// Generates `to` with the bytes of `from`. Does nothing if both are the same file.
   virtual void copy(std::string_view from, std::string_view to) = 0;
 
+  /// Removes a file. Fails for a folder.
   virtual void remove(std::string_view path) = 0;
 
-  /// Makes one level; its parent is to be there. A folder that is there already is no error.
+  /// Creates a folder in an existing one. Does nothing if it exists.
   virtual void makeFolder(std::string_view path) = 0;
 
-  /// Removes a folder in which nothing is left.
+  /// Removes an empty folder.
   virtual void removeFolder(std::string_view path) = 0;
 
-  /// The names of the files in a folder, in the order of their bytes; none if there is no such folder.
+  /// Returns the names of the files in a folder, in byte order. Empty if there is no such folder.
   virtual std::vector<std::string> filesIn(std::string_view folder) const = 0;
 
-  /// No file that the program reads is near this size; a larger one is refused before it fills the memory.
+  /// In bytes. Far more than any file of ours, but not enough to exhaust the memory.
   static constexpr std::size_t largestFile = std::size_t{1} << 30;
 };
 

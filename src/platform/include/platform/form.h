@@ -7,10 +7,10 @@
 #include <string_view>
 #include <vector>
 
-/// A window of the program without its drawing. A form decides everything: what its controls say, which of them
-/// can be used, and what their events do. Whoever shows it (the desktop program, `nbrc play`) reads the controls
-/// by name and hands what the author does to `Form`'s own functions. Texts are one-byte text, paths in document
-/// form.
+/// Dialogs without a toolkit. A form contains all logic: the state of its controls and the functions that run
+/// on their events. The front end (the desktop program, `nbrc play`, a test) finds the controls by name,
+/// shows them, and reports the author's actions by calling the functions of `Form`. Texts are one-byte text,
+/// paths in document form.
 namespace nimbrel {
 
 enum class ControlKind : std::uint8_t {
@@ -18,45 +18,47 @@ enum class ControlKind : std::uint8_t {
   Button,   ///< `text` is its caption
   Option,   ///< one of a group: setting it clears the others
   Check,    ///< `value` is its check mark
-  Text,     ///< `text` is what stands in it
-  List,     ///< `list` are its entries, `selected` those chosen; `text` the first of them
-  Folder,   ///< `text` is the folder that is open
-  Tabs,     ///< `list` are the captions, `text` the one in front
-  Frame,    ///< holds others
-  Browser,  ///< `text` is the page it shows
+  Text,     ///< `text` is its content
+  List,     ///< `list` has the entries, `selected` their selected positions, `text` the first selected entry
+  Folder,   ///< `text` is the open folder
+  Tabs,     ///< `list` has the captions, `text` is that of the current tab
+  Frame,    ///< contains other controls
+  Browser,  ///< `text` is the path or address of the page
   Timer,    ///< runs while `value` is set
 };
 
 class Form;
 
-/// One control of a form. A control that is disabled or hidden cannot be used.
+/// One control of a form.
 struct Control {
-  /// Enters itself in the form, which it is to be a member of.
+  /// Adds the control to `form`, of which it must be a member.
   Control(Form& form, std::string_view name, ControlKind kind, std::string_view text = {});
   Control(const Control&) = delete;
   Control& operator=(const Control&) = delete;
   ~Control() = default;
 
+  /// Whether the author can use it: enabled and visible, and its frame is usable.
   bool usable() const { return enabled && visible && (frame == nullptr || frame->usable()); }
 
   const std::string_view name;
   const ControlKind kind;
   std::string text;
   std::vector<std::string> list;
-  std::vector<std::size_t> selected;  ///< of a list, from 0
-  bool manyAtOnce = false;            ///< of a list: several entries can be chosen
+  std::vector<std::size_t> selected;  ///< for a list: positions, from 0
+  bool manyAtOnce = false;            ///< for a list: several entries can be selected
   bool enabled = true;
   bool visible = true;
   bool value = false;
-  const Control* frame = nullptr;  ///< what it stands in: where that cannot be used, it cannot either
-  int group = 0;                   ///< of options: which belong together
-  int interval = 0;                ///< of a timer, milliseconds
-  std::size_t visits = 0;          ///< of a browser: how many pages it was sent to
+  const Control* frame = nullptr;  ///< the frame that contains it, or nullptr
+  int group = 0;                   ///< for an option: options with the same number belong together
+  int interval = 0;                ///< for a timer: milliseconds
+  std::size_t visits = 0;          ///< for a browser: the number of pages it has been sent to
 
-  /// What its use does: a click; another text, entry, folder or tab; the tick; the loaded page.
+  /// Called after the author's action: a click or another text, entry, folder or tab. For a timer: on each
+  /// tick. For a browser: when a page has loaded.
   std::function<void()> event;
   std::function<void()> doubleClick;
-  /// Of a browser whose page lasts no longer than its loading: makes it anew.
+  /// For a browser whose page is deleted after loading: creates the page again.
   std::function<void()> reload;
 };
 
@@ -70,28 +72,30 @@ class Form {
   const std::string_view name;
   std::string caption;
   bool isOpen = false;
-  std::size_t shows = 0;  ///< of one that stands beside others: how often it was to come to the front
-  /// The button that the Escape key stands for; empty if there is none.
+  std::size_t shows = 0;  ///< for a modeless form: incremented to bring it to the front
+  /// The name of the button that the Escape key clicks; empty if there is none.
   std::string_view cancelButton;
-  /// What is to take the focus, all of its text selected. Whoever shows the form sees to it and clears this.
+  /// A control that is to get the focus, with its text selected. The front end does so and resets this to
+  /// nullptr.
   const Control* toFocus = nullptr;
 
   const std::vector<Control*>& controls() const { return controls_; }
+  /// The control with that name, or nullptr.
   Control* find(std::string_view controlName) const;
 
-  /// The author's doing. What cannot be used, or is so already, raises no event.
+  // Actions of the author. No event is raised if the control is not usable or already has that state.
   void click(Control& control);
   void enter(Control& control, std::string_view text);
   void check(Control& control, bool value);
-  /// Chooses the entries of these positions in a list, or the tab.
+  /// Selects entries of a list, or a tab, by position. Positions out of range are ignored.
   void choose(Control& control, std::vector<std::size_t> positions);
 
-  /// Sets an option and clears the others of its group; no event.
+  /// Sets an option and clears the others of its group, without an event.
   void setOption(Control& option);
-  /// Sends a browser to a page.
+  /// Sends a browser to a path or address.
   static void navigate(Control& browser, std::string_view page);
 
-  /// The close box. A form may refuse, or hide itself.
+  /// Called by the close box of the window. A form may refuse to close, or hide itself instead.
   virtual void QueryClose() { Close(); }
   void Close() { isOpen = false; }
 

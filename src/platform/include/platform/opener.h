@@ -4,12 +4,12 @@
 
 namespace nimbrel {
 
-/// The system's way to open a document or an address with the program that is meant for it.
+/// Opens documents and addresses with the system's default program.
 class Opener {
  public:
   virtual ~Opener() = default;
 
-  /// Whether it could be opened is not told.
+  /// Does not report failures.
   virtual void ShellExecuteA(std::string_view verb, std::string_view file, std::string_view parameters,
                              std::string_view folder, int showCommand) = 0;
 };

@@ -17,22 +17,22 @@ class HelpSystem {
  public:
   virtual ~HelpSystem() = default;
 
-  /// Opens a topic by its number, the contents or the search. False with no help file there.
+  // Open a topic by number, the contents or the search. Return false if there is no help file.
   virtual bool openTopic(int topic) = 0;
   virtual bool openContents() = 0;
   virtual bool openSearch() = 0;
 };
 
-/// Where the system keeps which program opens which type of file. Failures are ignored.
+/// The system's registration of file types. Failures are ignored.
 class ClassesRoot {
  public:
   virtual ~ClassesRoot() = default;
   virtual void CreateClassKey(std::string_view key) = 0;
-  /// An empty value name is the key's own value.
+  /// Sets a value of a key. An empty `valueName` is the default value.
   virtual void SetClassValue(std::string_view key, std::string_view valueName, std::string_view value) = 0;
 };
 
-/// The system as the program sees it, one of each.
+/// All ports together. Borrowed; they must outlive the users of this struct.
 struct Ports {
   FileSystem& files;
   Asker& asker;
@@ -40,8 +40,8 @@ struct Ports {
   Opener& opener;
   HelpSystem& help;
   ClassesRoot& classes;
-  std::vector<std::string> fonts;  ///< families that are installed
-  std::function<double()> random;  ///< at least 0 and below 1
+  std::vector<std::string> fonts;  ///< installed font families
+  std::function<double()> random;  ///< returns a number from 0 to below 1
 };
 
 }  // namespace nimbrel

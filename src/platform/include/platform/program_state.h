@@ -4,28 +4,27 @@
 
 namespace nimbrel {
 
-/// What the main window keeps beside the document and every form may read and write.
+/// State of the main window other than the document, which every form may read and change.
 struct ProgramState {
-  std::string programFolder;  ///< where the program lies, without a closing backslash
+  std::string programFolder;  ///< the folder of the program's files, without a trailing backslash
 
-  std::string
-      FilePath;  ///< folder of the open menu file, empty for a new document; file choosers start there
-  std::string FileTitle;  ///< its name, empty for a new document
-  bool IsDirty = false;   ///< the document has changes that are not saved
+  std::string FilePath;  ///< folder of the open menu file, where file dialogs start; empty for a new document
+  std::string FileTitle;  ///< name of the open menu file, empty for a new document
+  bool IsDirty = false;   ///< the document has unsaved changes
 
-  std::string WebPagePath;  ///< of the last preview, like the two below; nothing reads them
+  std::string WebPagePath;  ///< of the last preview, like the next two; never read
   std::string WebPageName;
   std::string altURL;
-  bool MultipleSelection = false;    ///< nothing sets it
-  bool nbrUseSharedBorders = false;  ///< nothing reads it
+  bool MultipleSelection = false;    ///< never set
+  bool nbrUseSharedBorders = false;  ///< never read
 
-  std::string StyleName;       ///< handed from the style form to the saving of the style
-  std::string tmpFontSize;     ///< handed to the font size form and back
-  std::string LastWebPageDir;  ///< folder last used for linking, until the program ends
+  std::string StyleName;       ///< result of the style form: the name of the style to save
+  std::string tmpFontSize;     ///< argument and result of the font size form
+  std::string LastWebPageDir;  ///< folder last used for linking in this session
 
   bool BlackPreview = false;                ///< the preview has a dark background
-  bool isPreviewWindowLoaded = false;       ///< the preview window lives, shown or hidden
-  bool isLiveExamplesWindowLoaded = false;  ///< so does the viewer of examples
+  bool isPreviewWindowLoaded = false;       ///< the preview window exists, shown or hidden
+  bool isLiveExamplesWindowLoaded = false;  ///< the viewer of examples exists, shown or hidden
 };
 
 }  // namespace nimbrel

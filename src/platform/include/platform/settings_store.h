@@ -6,12 +6,12 @@
 
 namespace nimbrel {
 
-/// What the program keeps for its user between two runs: texts under a section and a key.
+/// The user's settings, kept between runs: texts under a section and a key.
 class SettingsStore {
  public:
   virtual ~SettingsStore() = default;
 
-  /// The default for a key that is not there.
+  /// Returns the stored text, or `standard` if there is none.
   virtual std::string GetSetting(std::string_view section, std::string_view key,
                                  std::string_view standard) const = 0;
   virtual void SaveSetting(std::string_view section, std::string_view key, std::string_view value) = 0;

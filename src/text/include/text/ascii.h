@@ -4,10 +4,10 @@
 #include <string>
 #include <string_view>
 
-/// What is known of a byte without a locale: the letters and digits of ASCII alone.
+/// Character functions without a locale. Only ASCII letters and digits are recognized.
 namespace nimbrel {
 
-/// Ends each line of every file we write.
+/// The line end of all files that Nimbrel writes.
 inline constexpr std::string_view lineEnd = "\r\n";
 
 constexpr bool isDigit(char c) { return c >= '0' && c <= '9'; }
@@ -22,6 +22,12 @@ inline std::string lowered(std::string_view text) {
   std::string result(text);
   std::ranges::transform(result, result.begin(), toLower);
   return result;
+}
+
+/// The text without the blanks (byte 32) at both ends. Tabs and byte 160 stay.
+constexpr std::string_view trimmed(std::string_view text) {
+  const auto first = std::min(text.find_first_not_of(' '), text.size());
+  return text.substr(first, text.find_last_not_of(' ') + 1 - first);
 }
 
 }  // namespace nimbrel

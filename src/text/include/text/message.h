@@ -4,7 +4,7 @@
 
 namespace nimbrel {
 
-/// What the author is told, word for word, when a command refuses or reports.
+/// A fixed text for a message box.
 struct Message {
   std::string_view title;
   std::string_view text;

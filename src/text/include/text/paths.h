@@ -3,19 +3,19 @@
 #include <string>
 #include <string_view>
 
-/// Names in paths of the document form, which have backslashes on every system.
+/// Parts of paths in document form, which have backslashes on every system.
 namespace nimbrel {
 
-/// What follows the last backslash; a bare file name is its own name.
+/// The part after the last backslash, or the whole path if there is none.
 std::string_view fileName(std::string_view path);
 
-/// What stands ahead of the last backslash, empty if there is none.
+/// The part before the last backslash, empty if there is none.
 std::string_view folderName(std::string_view path);
 
-/// `folder`, a backslash, `name`; the name alone where the folder is empty.
+/// `folder`, a backslash and `name`; only the name if the folder is empty.
 std::string joinPath(std::string_view folder, std::string_view name);
 
-/// Where the picture at `path` goes in `folder`: under its own name.
+/// The path of a copy, in `folder`, of the picture at `path`.
 std::string GalleryImagePath(std::string_view path, std::string_view folder);
 
 }  // namespace nimbrel

@@ -8,13 +8,13 @@
 
 namespace nimbrel {
 
-/// An immutable one-byte text that its copies share. A document says the same few things ("n", "sans-serif",
-/// "#FFFFFF") a million times; a copy here is a pointer, so that elements are small and cheap to copy.
-/// Not for use by several threads at once.
+/// An immutable one-byte text with a reference count. A document repeats a few texts ("n", "sans-serif",
+/// "#FFFFFF") a million times; a copy is one pointer, so elements are small and cheap to copy.
+/// Not thread-safe.
 class SharedText {
  public:
   SharedText() = default;
-  // NOLINTBEGIN(google-explicit-constructor): a text is its bytes
+  // NOLINTBEGIN(google-explicit-constructor): converts without loss
   SharedText(std::string_view text);
   SharedText(const std::string& text) : SharedText(std::string_view(text)) {}
   SharedText(const char* text) : SharedText(std::string_view(text)) {}
@@ -45,7 +45,7 @@ class SharedText {
   friend bool operator==(const SharedText& a, const char* b) noexcept { return a.view() == b; }
 
  private:
-  /// Lies directly ahead of the bytes.
+  /// The header of the allocation; the bytes follow it.
   struct Shared {
     std::uint32_t owners;
     std::uint32_t size;
@@ -54,7 +54,7 @@ class SharedText {
 
   void release() noexcept;
 
-  Shared* shared_ = nullptr;  // none: the empty text
+  Shared* shared_ = nullptr;  // nullptr: the empty text
 };
 
 }  // namespace nimbrel

@@ -7,8 +7,8 @@
 
 namespace nimbrel {
 
-/// A hash for texts of a few bytes, such as keys: their first and last eight bytes and their size. Texts that
-/// differ only between those collide, so that it is not for long ones.
+/// A hash for short texts such as keys. It uses the first and last eight bytes and the size, so longer texts
+/// that differ only between them collide.
 inline std::size_t shortHash(std::string_view text) {
   constexpr std::size_t word = sizeof(std::uint64_t);
   std::uint64_t first = 0;

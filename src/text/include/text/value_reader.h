@@ -5,35 +5,35 @@
 
 namespace nimbrel {
 
-/// Reads one-byte text value by value, as comma-separated input:
-/// - blanks and tabs ahead of a value are skipped; an empty line is an empty value;
-/// - a value that begins with a double quote is what stands up to the next one, and what follows that up to
-///   the comma or line end is dropped;
-/// - any other value runs up to the comma or line end, less the blanks (byte 32) behind it;
-/// - the comma or line end goes with the value; a line end is CR, LF or CR LF and ends every value.
-/// Values are views into the text, which is to outlive them.
+/// Reads comma-separated values from one-byte text:
+/// - Blanks and tabs before a value are skipped. An empty line is an empty value.
+/// - A value that begins with a double quote ends at the next one. Text between that and the comma or line
+///   end is dropped.
+/// - Any other value ends at the comma or line end, without trailing blanks (byte 32).
+/// - The comma or line end is consumed with its value. A line end is CR, LF or CR LF and ends every value.
+///   Values are views of the text, which must outlive them.
 class ValueReader {
  public:
   explicit ValueReader(std::string_view text) : text_(text) {}
 
-  /// Gives the next value; false where nothing but blanks is left. A last value needs no line end.
+  /// Reads the next value. Returns false if only blanks are left. The last value needs no line end.
   bool next(std::string_view& value);
 
-  /// The value read last as it stood there, with its comma; empty if a line end or the end of the text ended
-  /// it.
-  std::string_view lastAsItStood() const { return lastAsItStood_; }
+  /// The source text of the value read last, with its comma. Empty if the value ended at a line end or at the
+  /// end of the text.
+  std::string_view lastSource() const { return lastSource_; }
 
-  /// Passes over the next value if it stands there as an earlier one of the same text stood; it then says the
-  /// same. The empty view never does.
-  bool skip(std::string_view asItStood);
+  /// Skips the next value if its source text is `source`, a result of `lastSource()`; the two values are then
+  /// equal. Returns whether it skipped a value. The empty view never matches.
+  bool skip(std::string_view source);
 
-  /// Passes over a line end that stands right here, behind a comma, and is no empty value.
+  /// Skips a line end directly after a comma, which would otherwise be read as an empty value.
   void passLineEnd();
 
-  /// Whether blanks, tabs and line ends alone are left.
+  /// Whether only blanks, tabs and line ends are left.
   bool atEnd() const;
 
-  /// The line, from 1, on which the value read last began.
+  /// The line, from 1, on which the value read last begins.
   std::size_t line() const { return line_; }
 
  private:
@@ -41,7 +41,7 @@ class ValueReader {
   void consumeDelimiter();
 
   std::string_view text_;
-  std::string_view lastAsItStood_;
+  std::string_view lastSource_;
   std::size_t position_ = 0;
   std::size_t line_ = 1;
   std::size_t nextLine_ = 1;

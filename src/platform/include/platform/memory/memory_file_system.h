@@ -8,7 +8,7 @@
 
 namespace nimbrel {
 
-/// A file system in memory. Every folder that holds something exists; others are made.
+/// A file system in memory. A folder exists if it was created or a file in it exists.
 class MemoryFileSystem : public FileSystem {
  public:
   bool isFile(std::string_view path) const override;
@@ -22,18 +22,18 @@ class MemoryFileSystem : public FileSystem {
   void removeFolder(std::string_view path) override;
   std::vector<std::string> filesIn(std::string_view folder) const override;
 
-  /// All files by path, for a test to fill and to look at.
+  /// All files by path. Tests fill and check it.
   std::map<std::string, std::string, std::less<>> files;
   std::set<std::string, std::less<>> folders;
 
-  /// Asked ahead of each call that changes something; when it says so the call fails and changes nothing.
+  /// Called before each change. If it returns true, the call fails and changes nothing.
   std::function<bool()> failsNow;
 
  private:
   void failIfAsked(std::string_view path) const;
 };
 
-/// A disk that fails at the call of the given number, counted from 0, and at each one after it.
+/// For `failsNow`: fails from the given call on, counted from 0.
 inline std::function<bool()> failingFrom(int call) {
   return [call, made = 0]() mutable { return made++ >= call; };
 }

@@ -3,13 +3,13 @@
 #include <string>
 #include <string_view>
 
-/// Between the document's form of a path (backslashes, one-byte text) and this system's own.
+/// Conversion between paths in document form (backslashes, one-byte text) and in the host's form.
 namespace nimbrel {
 
 std::string toHostPath(std::string_view documentPath);
 std::string fromHostPath(std::string_view hostPath);
 
-/// The path from the root without "." and ".." steps; links are not looked at. An empty path stays empty.
+/// Makes a path absolute and removes "." and ".." without resolving links. An empty path stays empty.
 std::string absoluteHostPath(std::string_view hostPath);
 
 }  // namespace nimbrel

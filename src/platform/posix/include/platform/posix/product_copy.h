@@ -4,16 +4,16 @@
 
 namespace nimbrel {
 
-/// A user's own copy of the installed product files, in which the author may change, add and delete. The copy keeps
-/// a list of the files as they were installed, by which it can tell what is the author's work.
+// Each user has a copy of the installed product files and may change, add and delete files in it. A list in
+// the copy records the files as installed, which shows what the user has changed.
 
-/// Makes the copy, all or nothing: the folder takes its name once it is whole. A folder that stands there without
-/// the product's libraries keeps what it holds and gets what it lacks. Throws `FileError`.
+/// Creates the copy, complete or not at all. If the folder exists without the product's libraries, its files
+/// stay and missing ones are added. Throws `FileError`.
 void makeProductCopy(const std::filesystem::path& product, const std::filesystem::path& copy);
 
-/// Brings a copy up to date with another version of the product. What the author has changed or deleted stays so;
-/// what was never touched is replaced, or goes where the product has it no longer. Does nothing where the versions
-/// are the same, or where not all of either can be read; a file that cannot be written is left for the next time.
+/// Updates a copy to another version of the product. Files that the user has changed or deleted stay so;
+/// unchanged files are replaced, or removed if the product has dropped them. Does nothing if the versions are
+/// equal or if any file cannot be read. A file that cannot be written is tried again at the next start.
 void updateProductCopy(const std::filesystem::path& product, const std::filesystem::path& copy);
 
 }  // namespace nimbrel

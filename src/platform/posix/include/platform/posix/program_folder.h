@@ -5,10 +5,10 @@
 
 namespace nimbrel {
 
-/// The program's folder, which holds `libraries`, `dot.gif` and what else lies beside the program, as a host
-/// path: `asked` if there is one; else the environment's NIMBREL_HOME; else the folder of the executable if
-/// it holds `libraries`; else the per-user folder, which the first call fills from the installed product
-/// files and a newer version brings up to date. Throws `FileError` where it cannot be filled.
+/// Returns the folder of the program's files (`libraries`, `dot.gif`, the gallery and so on) as a host path:
+/// `asked` if given; else the environment variable NIMBREL_HOME; else the folder of the executable if it
+/// contains `libraries`; else the user's copy of the installed files, which is created or updated first.
+/// Throws `FileError` if it cannot be created.
 std::string programFolder(const std::optional<std::string>& asked);
 
 }  // namespace nimbrel

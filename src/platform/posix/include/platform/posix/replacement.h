@@ -8,7 +8,7 @@
 
 namespace nimbrel {
 
-/// An open file, closed with its scope.
+/// A file descriptor with an owner.
 class Handle {
  public:
   explicit Handle(int descriptor = -1) : descriptor_(descriptor) {}
@@ -17,19 +17,19 @@ class Handle {
   ~Handle();
   int get() const { return descriptor_; }
   bool isOpen() const { return descriptor_ >= 0; }
-  /// Closes now, since the last of what was written may fail only then.
+  /// Closes the file. Returns false if that fails, as the last write may be reported only then.
   bool close();
 
  private:
   int descriptor_;
 };
 
-/// New bytes on their way to the place of a file: written beside it, in time on the disk, renamed over it.
-/// Until then, and if anything fails, the old file stands and nothing is left behind. Each step throws
-/// `FileError` with the path in document form.
+/// Replaces a file atomically: the new bytes are written to a temporary file in the same folder, which is
+/// then renamed. Before `commit()`, or if a step fails, the old file is unchanged and the temporary file is
+/// removed. All steps throw `FileError` with the path in document form.
 class Replacement {
  public:
-  /// Writes the bytes, with the mode and owner of the file that will go.
+  /// Writes the temporary file, with the mode and owner of the old file.
   Replacement(std::string_view documentPath, std::string_view bytes);
   Replacement(const Replacement&) = delete;
   Replacement& operator=(const Replacement&) = delete;
@@ -38,22 +38,22 @@ class Replacement {
   /// Waits until the bytes are on the disk.
   void flush();
 
-  /// The same for all files that were written so far to this one's device, unless that is in `flushed`. For
-  /// many files one such wait is far shorter than one for each.
+  /// Flushes the whole device of this file, unless it is in `flushed`, and adds it there. For many files this
+  /// is much faster than a flush for each.
   void flushDevice(std::set<dev_t>& flushed);
 
-  /// Puts the new file in the old one's place.
+  /// Renames the temporary file to the path of the old one.
   void commit();
 
  private:
   explicit Replacement(std::string_view documentPath);
   void open(const std::filesystem::path& folder);
-  void takePlace();
+  void adoptAttributes();
   void nameIn(const std::filesystem::path& folder);
 
   std::string documentPath_;
   std::filesystem::path target_;
-  std::string name_;  // of the file while it has one of its own
+  std::string name_;  // of the temporary file, empty while it has none
   Handle file_;
 };
 
