@@ -1,0 +1,4 @@
+import { runIn } from './support/suite.mjs';
+import { suites } from './suites.mjs';
+
+runIn('Firefox', suites);

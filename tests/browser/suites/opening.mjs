@@ -1,0 +1,213 @@
+// Where, when and how submenus and popups open and close.
+import assert from 'node:assert/strict';
+import { cpSync } from 'node:fs';
+import { join } from 'node:path';
+import { eventually } from '../support/browsers.mjs';
+import { bin, nbrc } from '../support/menu_file.mjs';
+import { pageOf } from '../support/site.mjs';
+import { opener, plainMenu, suite } from '../support/suite.mjs';
+
+const onClick = { SubmenuWhen: 1 };
+const near = (actual, expected, what) => assert.ok(Math.abs(actual - expected) <= 1, `${what}: ${actual} for ${expected}`);
+const unfolds = (name, SubmenuHow, UnfoldDirection, OpenDirection = 1) => (
+  opener(name, [`in ${name}`], { ...onClick, SubmenuHow, UnfoldDirection, OpenDirection }));
+const logged = (name) => ({ JavascriptOnOpen: `log.push('${name} opens')`, JavascriptOnClose: `log.push('${name} closes')` });
+const popup = { Collapsable: 1, HorizontalDistanceFromCorner: 600, VerticalDistanceFromCorner: 400 };
+
+// Replaces the page's clock by one that the test moves.
+const clock = `<script>
+  let now = 1000000;
+  const timers = [];
+  Date.now = () => now;
+  setTimeout = (call, delay) => timers.push({ call, at: now + delay });
+  clearTimeout = (number) => { delete timers[number - 1]; };
+  const pass = (time) => {
+    now += time;
+    timers.forEach(({ call, at }, n) => { if (at <= now) { delete timers[n]; call(); } });
+  };
+</script>`;
+
+export default suite('opening and closing', (site) => {
+  site.menu('own', plainMenu({ HorizontalDistanceFromCorner: 450 }, [opener('opens', ['one', 'two'],
+    { ...onClick, OpenDirection: 2, SubmenuWhere: 7, SubmenuAlignment: 2, SubmenuType: 1 }, { ItemPadding: 30 })]));
+
+  const chain = ['wide at the right edge', 'r1', 'r2'].reduceRight((inner, name) => opener(name, [inner], onClick), 'end');
+  site.menu('right', plainMenu({ CornerForPositioning: 1, HorizontalDistanceFromCorner: 0 }, [chain]), ['edges.html']);
+  site.menu('middle', plainMenu({ HorizontalDistanceFromCorner: 400 }, [opener('wide', ['W'.repeat(55)], onClick),
+    opener('tall', Array.from({ length: 60 }, (_, n) => `${n}`), onClick)]), ['edges.html']);
+
+  site.page('rtl.html', pageOf('', ' dir="rtl"'));
+  site.menu('rtl', plainMenu({}, [unfolds('mirrored', 1, 1)]));
+  site.menu('unfolding', plainMenu({ MenuType: 1, VerticalDistanceFromCorner: 500 },
+    [unfolds('at once', 0, 1), unfolds('uncovered', 1, 0), unfolds('pushed', 2, 0, 2), unfolds('fixed', 2, 1)]));
+  site.menu('main', plainMenu({ ...popup, MenuHow: 2, UnfoldDirection: 4 }, ['one', 'two']), ['unfolding.html']);
+
+  site.page('times.html', pageOf(clock));
+  const high = (ItemName) => ({ ItemName, ItemPadding: 10 });
+  site.menu('times', plainMenu(logged('main'), [
+    opener('hover', ['in hover', 'more', 'and more', 'last'].map(high), logged('hover')),
+    opener('other', ['in other'], {}, high('other')), opener('click', ['in click'], onClick), 'plain',
+  ]), ['times.html']);
+  site.menu('sticky', plainMenu({ StickySubmenus: 1, HorizontalDistanceFromCorner: 500 },
+    [opener('sticks', ['in sticks'])]), ['times.html']);
+
+  const at = (top) => `style="position:absolute;left:200px;top:${top}px"`;
+  site.page('popups.html', pageOf('<script>Date.now = () => 1000000;</script>' +
+    `<a href="#" ${at(300)} onmouseover="nbrShowMenu('pop')">over</a>` +
+    `<button ${at(500)} onclick="nbrShowMenu('stay')">press</button>`));
+  site.menu('pop', plainMenu({ ...popup, ...logged('pop') }, ['plain', opener('opens', ['inner'])]), ['popups.html']);
+  site.menu('stay', plainMenu({ ...popup, StickySubmenus: 1 }, ['stays']), ['popups.html']);
+
+  for (const part of ['libraries', 'dot.gif', 'preview-back.jpg']) cpSync(join(bin, part), site.path(part), { recursive: true });
+  nbrc('--home', site.folder, 'preview', site.path('pop.nbr'));
+}, (visit, addressOf, browserName) => {
+  visit('a submenu has its own side, distance, alignment and layout', 'own.html', async (visitor) => {
+    await visitor.click('opens');
+    const [{ box: column }, { box: beside, items: [left, right] }] = await visitor.panels();
+    assert.deepEqual([beside.right, beside.bottom].map(Math.round), [column.left - 7, column.bottom].map(Math.round));
+    assert.ok(left.box.right <= right.box.left);
+    assert.deepEqual(await visitor.look('one', '.list', 'aria-orientation'), ['horizontal']);
+  });
+
+  visit('at the edges of the window Auto changes the side of a whole chain, moves panels in and scrolls them', 'edges.html', async (visitor) => {
+    const opens = async (menu, ...names) => {
+      for (const name of names) await visitor.click(name);
+      return (await visitor.panels()).filter((panel) => panel.menu === menu).map(({ box }) => box);
+    };
+    const right = await opens('right', 'wide at the right edge', 'r1', 'r2');
+    for (const n of [1, 2, 3]) near(right[n].right, right[n - 1].left, `level ${n}`);
+    near((await opens('middle', 'wide'))[1].right, 1000, 'moved in');
+    const [, tall] = await opens('middle', 'tall');
+    assert.deepEqual([tall.top, tall.bottom], [0, 700]);
+    await visitor.hover('3');
+    await visitor.page.mouse.wheel({ deltaY: 5000 });
+    await eventually(async () => near((await visitor.box('59')).bottom, 700, 'scrolled'));
+  });
+
+  // How a panel looks when it begins to unfold: the covered edge (0 top, 1 right, 2 bottom, 3 left), and its shift in
+  // panel widths and heights. Opens a popup of that name, or the submenu of an item.
+  const start = (visitor, name) => visitor.run((name) => {
+    nbrShowMenu(name);
+    partOf(name)?.click();
+    const panel = all('.panel').find((panel) => panel.getAnimations().length);
+    if (!panel) return null;
+    const [animation] = panel.getAnimations();
+    animation.pause();
+    animation.currentTime = 0;
+    const from = boxOf(panel);
+    const covered = getComputedStyle(panel).clipPath.replace('inset(', '').split(' ').findIndex((part) => part.startsWith('100%'));
+    animation.finish();
+    const to = boxOf(panel);
+    return [covered, Math.round((from.left - to.left) / to.width), Math.round((from.top - to.top) / to.height)];
+  }, name);
+
+  visit('panels unfold towards their side', 'unfolding.html', async (visitor) => {
+    assert.equal(await start(visitor, 'at once'), null);
+    assert.deepEqual(await start(visitor, 'uncovered'), [2, 0, 0]);
+    assert.deepEqual(await start(visitor, 'pushed'), [2, 0, 1]);
+    assert.deepEqual(await start(visitor, 'fixed'), [3, -1, 0]);
+    assert.deepEqual(await start(visitor, 'main'), [2, 0, 1]);
+    await visitor.page.goto(addressOf('rtl.html'));
+    assert.deepEqual(await start(visitor, 'mirrored'), [3, 0, 0]);
+  });
+
+  // WebDriver BiDi cannot emulate media features in Firefox.
+  if (browserName === 'Chromium') {
+    visit('with reduced motion nothing unfolds', 'unfolding.html', async (visitor) => {
+      for (const name of ['fixed', 'main']) assert.equal(await start(visitor, name), null);
+    }, { prepare: (page) => page.emulateMediaFeatures([{ name: 'prefers-reduced-motion', value: 'reduce' }]) });
+  }
+
+  // Steps are [method, argument, milliseconds to let pass, the panels that are then open].
+  const inTime = async (visitor, ...steps) => {
+    for (const [method, argument, time, wanted] of steps) {
+      await visitor[method](argument);
+      await visitor.run((time) => new Promise(requestAnimationFrame).then(() => pass(time)), time);
+      assert.equal(await visitor.opened(), wanted, `${method} ${argument}, ${time} ms`);
+    }
+  };
+  const [closed, open] = ['hover/sticks', 'hover/in hover/sticks'];
+  const away = [800, 600];
+
+  visit('resting opens and leaving closes after a delay, a press opens at once', 'times.html', async (visitor) => {
+    await inTime(visitor, ['hover', 'hover', 119, closed], ['hover', 'hover', 1, open], ['hover', away, 500, closed]);
+    await visitor.logs('main opens', 'hover opens', 'hover closes');
+    await inTime(visitor,
+      ['hover', 'hover', 120, open],
+      ['click', 'hover', 0, open], // too early to close
+      ['hover', 'plain', 120, closed],
+      ['hover', 'hover', 120, open],
+      ['hover', 'hover', 501, open],
+      ['click', 'hover', 0, closed],
+      ['hover', 'click', 1000, closed]);
+    await visitor.page.mouse.down();
+    await visitor.shows('hover/in click/sticks');
+    await visitor.page.mouse.up();
+    await inTime(visitor,
+      ['hover', 'sticks', 120, 'hover/in click/sticks/in sticks'],
+      ['hover', 'sticks', 380, 'hover/sticks/in sticks'],
+      ['hover', away, 1000, 'hover/sticks/in sticks'],
+      ['click', away, 0, closed]);
+  });
+
+  visit('a submenu stays open for a while on the way to it, otherwise another item opens', 'times.html', async (visitor) => {
+    await visitor.click('hover');
+    const [from, to] = [await visitor.pointOf('hover'), await visitor.pointOf('last')];
+    const onOther = ((await visitor.box('other')).top + 5 - from[1]) / (to[1] - from[1]);
+    const way = (part) => from.map((start, axis) => start + (to[axis] - start) * part);
+    const cross = async (time, ...then) => {
+      await visitor.hover([from[0] - 9, from[1]]);
+      await inTime(visitor, ['hover', 'hover', 120, open], ['hover', way(onOther / 2), 0, open],
+        ['hover', way(onOther), time, open], then);
+    };
+    await cross(399, 'hover', to, 1000, open);
+    await cross(399, 'hover', way(onOther), 1, 'hover/in other/sticks');
+    await cross(200, 'hover', 'other', 120, 'hover/in other/sticks');
+  });
+
+  visit('a popup opens when it is called: at the pointer, or at its own place', 'popups.html', async (visitor) => {
+    let left = 200;
+    const call = (wanted = 'plain') => visitor.follow(['hover', [++left, 305], wanted]);
+    await visitor.shows('');
+    await call();
+    const [{ box }] = await visitor.panels();
+    assert.deepEqual([box.left, box.top], [left, 305]);
+    assert.deepEqual(await visitor.look('plain', '.list', 'role'), ['menu']);
+    await visitor.hover([210, 310]);
+    await eventually(async () => assert.match((await visitor.look('plain', '', 'class'))[0], / on/));
+    await visitor.follow(['press', 'Escape', '']);
+    await visitor.run((place) => document.querySelector('a').dispatchEvent(new MouseEvent('mouseover', place)),
+      { clientX: 210, clientY: 310 });
+    assert.equal(await visitor.opened(), '', 'the pointer over the link has not moved');
+    await visitor.hover([10, 10]);
+    for (const leave of ['click', 'hover']) {
+      await call();
+      await visitor.follow(['hover', 'opens', 'plain/inner'], [leave, [800, 100], '']);
+    }
+    await call();
+    await visitor.follow(['hover', [100, 600], '']); // without having been in the popup
+    await visitor.logs(...Array(4).fill(['pop opens', 'pop closes']).flat());
+    await visitor.run(() => { nbrShowMenu('pop'); nbrShowMenu('no such'); });
+    const [{ box: own }] = await visitor.panels();
+    assert.deepEqual([own.left, own.top], [600, 400]);
+    await visitor.follow(['click', [210, 510], 'stays']);
+    await call('plain/stays');
+    await visitor.follow(['hover', [800, 100], 'stays'], ['click', [800, 100], '']);
+  });
+
+  visit('a popup called by keyboard opens below its caller, takes the focus and returns it', 'popups.html', async (visitor) => {
+    await visitor.run(() => document.querySelector('button').focus());
+    await visitor.press('Enter');
+    assert.equal(await visitor.focused(), 'stays');
+    const button = await visitor.run(() => boxOf(document.querySelector('button')));
+    near((await visitor.panels())[0].box.top, button.bottom, 'below the button');
+    await visitor.follow(['press', 'Escape', '']);
+    assert.equal(await visitor.focused(), 'press');
+  });
+
+  visit('the preview page of a popup opens it by its link', 'preview/preview.html', async (visitor) => {
+    await visitor.shows('');
+    await visitor.page.hover('a[href="#"]');
+    await visitor.shows('plain');
+  });
+});
