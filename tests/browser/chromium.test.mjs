@@ -1,4 +1,3 @@
-import { runIn } from './support/suite.mjs';
-import { suites } from './suites.mjs';
+import { runAllIn } from './suites.mjs';
 
-runIn('Chromium', suites);
+runAllIn('Chromium');

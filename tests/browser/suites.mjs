@@ -1,8 +1,6 @@
-import actions from './suites/actions.mjs';
-import frames from './suites/frames.mjs';
-import keyboard from './suites/keyboard.mjs';
-import layout from './suites/layout.mjs';
-import opening from './suites/opening.mjs';
-import states from './suites/states.mjs';
+import { runIn } from './support/suite.mjs';
 
-export const suites = [actions, frames, keyboard, layout, opening, states];
+const names = ['actions', 'frames', 'keyboard', 'layout', 'opening', 'states'];
+const suites = await Promise.all(names.map((name) => import(`./suites/${name}.mjs`)));
+
+export const runAllIn = (browserName) => runIn(browserName, suites.map((module) => module.default));

@@ -66,7 +66,7 @@ export default suite('keyboard and accessibility', (site) => {
     await visitor.page.keyboard.up('Shift');
     await presses(visitor, [['Tab', 'View'], ['Home Up', 'Save/New']]);
     await visitor.press('Enter');
-    await eventually(async () => assert.equal(await visitor.focused(), 'File'));
+    await visitor.focuses('File');
     await presses(visitor, [['End Space', 'find next']]);
     await visitor.logs('save', 'find');
     await presses(visitor, [['Left', 'Edit']]);

@@ -1,9 +1,6 @@
 // Where, when and how submenus and popups open and close.
 import assert from 'node:assert/strict';
-import { cpSync } from 'node:fs';
-import { join } from 'node:path';
 import { eventually } from '../support/browsers.mjs';
-import { bin, nbrc } from '../support/menu_file.mjs';
 import { pageOf } from '../support/site.mjs';
 import { opener, plainMenu, suite } from '../support/suite.mjs';
 
@@ -37,9 +34,9 @@ export default suite('opening and closing', (site) => {
     opener('tall', Array.from({ length: 60 }, (_, n) => `${n}`), onClick)]), ['edges.html']);
 
   site.page('rtl.html', pageOf('', ' dir="rtl"'));
-  site.menu('rtl', plainMenu({}, [unfolds('mirrored', 1, 1)]));
+  site.menu('rtl', plainMenu({}, [unfolds('mirrored', 2, 1)]));
   site.menu('unfolding', plainMenu({ MenuType: 1, VerticalDistanceFromCorner: 500 },
-    [unfolds('at once', 0, 1), unfolds('uncovered', 1, 0), unfolds('pushed', 2, 0, 2), unfolds('fixed', 2, 1)]));
+    [unfolds('at once', 0, 1), unfolds('uncovered', 1, 0), unfolds('up', 2, 0, 2), unfolds('right', 2, 1)]));
   site.menu('main', plainMenu({ ...popup, MenuHow: 2, UnfoldDirection: 4 }, ['one', 'two']), ['unfolding.html']);
 
   site.page('times.html', pageOf(clock));
@@ -57,9 +54,6 @@ export default suite('opening and closing', (site) => {
     `<button ${at(500)} onclick="nbrShowMenu('stay')">press</button>`));
   site.menu('pop', plainMenu({ ...popup, ...logged('pop') }, ['plain', opener('opens', ['inner'])]), ['popups.html']);
   site.menu('stay', plainMenu({ ...popup, StickySubmenus: 1 }, ['stays']), ['popups.html']);
-
-  for (const part of ['libraries', 'dot.gif', 'preview-back.jpg']) cpSync(join(bin, part), site.path(part), { recursive: true });
-  nbrc('--home', site.folder, 'preview', site.path('pop.nbr'));
 }, (visit, addressOf, browserName) => {
   visit('a submenu has its own side, distance, alignment and layout', 'own.html', async (visitor) => {
     await visitor.click('opens');
@@ -84,37 +78,33 @@ export default suite('opening and closing', (site) => {
     await eventually(async () => near((await visitor.box('59')).bottom, 700, 'scrolled'));
   });
 
-  // How a panel looks when it begins to unfold: the covered edge (0 top, 1 right, 2 bottom, 3 left), and its shift in
-  // panel widths and heights. Opens a popup of that name, or the submenu of an item.
-  const start = (visitor, name) => visitor.run((name) => {
+  // The shift with which a panel begins to unfold, as the signs of its left and top; null if it appears at once. Calls a
+  // popup, or clicks an item.
+  const shiftOf = (visitor, name) => visitor.run((name) => {
     nbrShowMenu(name);
     partOf(name)?.click();
     const panel = all('.panel').find((panel) => panel.getAnimations().length);
     if (!panel) return null;
     const [animation] = panel.getAnimations();
     animation.pause();
-    animation.currentTime = 0;
     const from = boxOf(panel);
-    const covered = getComputedStyle(panel).clipPath.replace('inset(', '').split(' ').findIndex((part) => part.startsWith('100%'));
     animation.finish();
     const to = boxOf(panel);
-    return [covered, Math.round((from.left - to.left) / to.width), Math.round((from.top - to.top) / to.height)];
+    return [from.left - to.left, from.top - to.top].map(Math.sign);
   }, name);
 
-  visit('panels unfold towards their side', 'unfolding.html', async (visitor) => {
-    assert.equal(await start(visitor, 'at once'), null);
-    assert.deepEqual(await start(visitor, 'uncovered'), [2, 0, 0]);
-    assert.deepEqual(await start(visitor, 'pushed'), [2, 0, 1]);
-    assert.deepEqual(await start(visitor, 'fixed'), [3, -1, 0]);
-    assert.deepEqual(await start(visitor, 'main'), [2, 0, 1]);
+  visit('panels unfold in their direction', 'unfolding.html', async (visitor) => {
+    for (const [name, wanted] of [['at once', null], ['uncovered', [0, 0]], ['up', [0, 1]], ['right', [-1, 0]], ['main', [0, 1]]]) {
+      assert.deepEqual(await shiftOf(visitor, name), wanted, name);
+    }
     await visitor.page.goto(addressOf('rtl.html'));
-    assert.deepEqual(await start(visitor, 'mirrored'), [3, 0, 0]);
+    assert.deepEqual(await shiftOf(visitor, 'mirrored'), [1, 0]);
   });
 
   // WebDriver BiDi cannot emulate media features in Firefox.
   if (browserName === 'Chromium') {
     visit('with reduced motion nothing unfolds', 'unfolding.html', async (visitor) => {
-      for (const name of ['fixed', 'main']) assert.equal(await start(visitor, name), null);
+      for (const name of ['right', 'main']) assert.equal(await shiftOf(visitor, name), null);
     }, { prepare: (page) => page.emulateMediaFeatures([{ name: 'prefers-reduced-motion', value: 'reduce' }]) });
   }
 
@@ -203,11 +193,5 @@ export default suite('opening and closing', (site) => {
     near((await visitor.panels())[0].box.top, button.bottom, 'below the button');
     await visitor.follow(['press', 'Escape', '']);
     assert.equal(await visitor.focused(), 'press');
-  });
-
-  visit('the preview page of a popup opens it by its link', 'preview/preview.html', async (visitor) => {
-    await visitor.shows('');
-    await visitor.page.hover('a[href="#"]');
-    await visitor.shows('plain');
   });
 });

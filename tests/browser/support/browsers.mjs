@@ -64,11 +64,8 @@ export class Visitor {
     Object.assign(this, { page, frame, faults });
   }
 
-  async inFrame(name) {
-    for (const frame of this.page.frames()) {
-      if (await frame.evaluate(() => window.name) === name) return new Visitor(this.page, frame, this.faults);
-    }
-    throw new Error(`no frame ${name}`);
+  inFrame(page) {
+    return new Visitor(this.page, this.page.frames().find((frame) => frame.url().endsWith(page)), this.faults);
   }
 
   close() { return this.page.close(); }
@@ -87,6 +84,8 @@ export class Visitor {
   async opened() { return (await this.panels()).map(({ items: [first] }) => first.name).join('/'); }
 
   shows(wanted, message) { return eventually(async () => assert.equal(await this.opened(), wanted, message)); }
+
+  focuses(wanted) { return eventually(async () => assert.equal(await this.focused(), wanted)); }
 
   logs(...wanted) { return eventually(async () => assert.deepEqual(await this.run(() => log), wanted)); }
 
@@ -113,11 +112,9 @@ export class Visitor {
     await this.run(async () => {
       for (const animation of roots().flatMap((root) => root.getAnimations())) await animation.finished.catch(() => {});
     });
-    const box = await this.box(place);
-    assert.ok(box, `${place} is not shown`);
-    const element = this.frame.parentFrame() && await this.frame.frameElement();
-    const { x, y } = element ? await element.boundingBox() : { x: 0, y: 0 };
-    return [(box.left + box.right) / 2 + x, (box.top + box.bottom) / 2 + y];
+    const element = await this.frame.evaluateHandle((name) => partOf(name), place);
+    const { x, y } = await element.clickablePoint();
+    return [x, y];
   }
 
   async hover(place) { await this.page.mouse.move(...await this.pointOf(place)); }

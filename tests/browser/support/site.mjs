@@ -1,12 +1,11 @@
 // Sites in temporary folders, with menus that nbrc has compiled and linked, and a server for them.
-import { cpSync, existsSync, mkdtempSync, readdirSync, readFileSync, rmSync, writeFileSync } from 'node:fs';
+import { existsSync, mkdtempSync, readFileSync, rmSync, writeFileSync } from 'node:fs';
 import { createServer } from 'node:http';
 import { tmpdir } from 'node:os';
 import { extname, join } from 'node:path';
 import { pathToFileURL } from 'node:url';
-import { bin, nbrc, writeMenuFile } from './menu_file.mjs';
+import { nbrc, writeMenuFile } from './menu_file.mjs';
 
-export const read = (...parts) => readFileSync(join(...parts), 'latin1');
 export const fileUrl = (...parts) => pathToFileURL(join(...parts)).href;
 
 export const pageOf = (body = '', attributes = '') => (
@@ -40,20 +39,6 @@ export class Site {
     writeFileSync(this.path(name), bytes);
     return this.path(name).replaceAll('/', '\\');
   }
-
-  // Fills the site with the sample site, its menu linked to each page.
-  addSample() {
-    cpSync(join(bin, 'Examples', 'thistlewick'), this.folder, { recursive: true });
-    nbrc('compile', this.path('thistlewick.nbr'), '--to', this.path('menu.js'));
-    this.link('menu.js', readdirSync(this.folder).filter((name) => name.endsWith('.html')));
-  }
-}
-
-// The items of a menu file in tree order.
-export function itemsOf(menu) {
-  return JSON.parse(nbrc('show', '--json', menu)).elements
-    .filter((element) => element.key.startsWith('I'))
-    .map((element) => element.properties);
 }
 
 const types = { '.css': 'text/css', '.gif': 'image/gif', '.html': 'text/html', '.js': 'text/javascript', '.png': 'image/png' };
