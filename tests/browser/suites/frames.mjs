@@ -1,11 +1,9 @@
 // Menus whose submenus are in another frame.
 import assert from 'node:assert/strict';
 import { eventually } from '../support/browsers.mjs';
-import { fileUrl } from '../support/site.mjs';
 import { opener, plainMenu, suite } from '../support/suite.mjs';
 
 const offset = 25;
-let frameset;
 
 export default suite('submenus in another frame', (site) => {
   site.menu('menu', plainMenu({ HorizontalDistanceFromCorner: 10, VerticalDistanceFromCorner: 60 }, [
@@ -17,7 +15,6 @@ export default suite('submenus in another frame', (site) => {
   site.page('plain.html');
   site.page('frames.html', '<frameset rows="80,*" border="0"><frame src="plain.html"><frameset cols="200,*" border="0">' +
     '<frame src="menu.html"><frame src="content.html" name="content"></frameset></frameset>');
-  frameset = site.path('frames.html');
 }, (visitPage, addressOf) => {
   const visit = (title, body) => visitPage(title, 'frames.html', async (visitor) => {
     const [menu, content] = [visitor.inFrame('menu.html'), visitor.inFrame('content.html')];
@@ -72,13 +69,5 @@ export default suite('submenus in another frame', (site) => {
     await opens(menu, content);
     await goTo(menu, 'plain.html');
     await content.shows('');
-  });
-
-  visitPage('from disk, where frames cannot reach each other, the menu works without submenus', 'plain.html', async (visitor) => {
-    await visitor.page.goto(fileUrl(frameset));
-    const menu = visitor.inFrame('menu.html');
-    await menu.shows('Plain');
-    await menu.hover('First');
-    await eventually(async () => assert.match((await menu.look('First', '', 'class'))[0], / on/));
   });
 });

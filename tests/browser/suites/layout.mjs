@@ -2,10 +2,8 @@
 import assert from 'node:assert/strict';
 import { eventually } from '../support/browsers.mjs';
 import { pageOf } from '../support/site.mjs';
-import { opener, plainMenu, suite } from '../support/suite.mjs';
+import { near, opener, plainMenu, suite } from '../support/suite.mjs';
 
-const near = (actual, expected, what) => (
-  assert.ok(Math.abs(actual - expected) <= 1, `${what}: ${actual} for ${expected}`));
 const one = (ItemName, more) => ({ ItemPadding: 0, BorderWidth: 0, FontSize: '20px', ItemName, ...more });
 const mixed = [one('a'), one('b<br>b'), one('wide, wider than others')];
 const crowd = Array.from({ length: 20 }, (_, n) => one(`crowded ${n}`));
@@ -97,14 +95,15 @@ export default suite('layout', (site) => {
   });
 
   visit('bars are as wide as the page or window, menus keep to their corner, and drifting menus follow a scroll', 'tall.html', async (visitor) => {
+    // Moves: left and top of the menus, by the value of Drifty.
     const assertMoved = (...moves) => eventually(async () => {
-      const [scrollWidth, clientWidth, clientHeight] = await visitor.run(() => (
+      const [pageWidth, width, height] = await visitor.run(() => (
         ['scrollWidth', 'clientWidth', 'clientHeight'].map((size) => document.documentElement[size])));
       for (const [drift, [left, top]] of moves.entries()) {
         const { box: bar } = await panelOf(visitor, `bar${drift}`);
-        assert.deepEqual([bar.left, bar.width], [left, drift % 2 ? clientWidth : scrollWidth], `bar ${drift}`);
+        assert.deepEqual([bar.left, bar.width], [left, drift % 2 ? width : pageWidth], `bar ${drift}`);
         const { box } = await panelOf(visitor, `drift${drift}`);
-        assert.deepEqual([box.right, box.bottom].map(Math.round), [clientWidth - 30 + left, clientHeight - 30 + top], drift);
+        assert.deepEqual([box.right, box.bottom].map(Math.round), [width - 30 + left, height - 30 + top], drift);
       }
     });
     await visitor.page.setViewport({ width: 700, height: 600 });

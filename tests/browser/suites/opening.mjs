@@ -2,10 +2,9 @@
 import assert from 'node:assert/strict';
 import { eventually } from '../support/browsers.mjs';
 import { pageOf } from '../support/site.mjs';
-import { opener, plainMenu, suite } from '../support/suite.mjs';
+import { near, opener, plainMenu, suite } from '../support/suite.mjs';
 
 const onClick = { SubmenuWhen: 1 };
-const near = (actual, expected, what) => assert.ok(Math.abs(actual - expected) <= 1, `${what}: ${actual} for ${expected}`);
 const unfolds = (name, SubmenuHow, UnfoldDirection, OpenDirection = 1) => (
   opener(name, [`in ${name}`], { ...onClick, SubmenuHow, UnfoldDirection, OpenDirection }));
 const logged = (name) => ({ JavascriptOnOpen: `log.push('${name} opens')`, JavascriptOnClose: `log.push('${name} closes')` });
@@ -108,36 +107,28 @@ export default suite('opening and closing', (site) => {
     }, { prepare: (page) => page.emulateMediaFeatures([{ name: 'prefers-reduced-motion', value: 'reduce' }]) });
   }
 
-  // Steps are [method, argument, milliseconds to let pass, the panels that are then open].
-  const inTime = async (visitor, ...steps) => {
-    for (const [method, argument, time, wanted] of steps) {
-      await visitor[method](argument);
-      await visitor.run((time) => new Promise(requestAnimationFrame).then(() => pass(time)), time);
-      assert.equal(await visitor.opened(), wanted, `${method} ${argument}, ${time} ms`);
-    }
-  };
   const [closed, open] = ['hover/sticks', 'hover/in hover/sticks'];
   const away = [800, 600];
 
   visit('resting opens and leaving closes after a delay, a press opens at once', 'times.html', async (visitor) => {
-    await inTime(visitor, ['hover', 'hover', 119, closed], ['hover', 'hover', 1, open], ['hover', away, 500, closed]);
+    await visitor.follow(['hover', 'hover', closed, 119], ['hover', 'hover', open, 1], ['hover', away, closed, 500]);
     await visitor.logs('main opens', 'hover opens', 'hover closes');
-    await inTime(visitor,
-      ['hover', 'hover', 120, open],
-      ['click', 'hover', 0, open], // too early to close
-      ['hover', 'plain', 120, closed],
-      ['hover', 'hover', 120, open],
-      ['hover', 'hover', 501, open],
-      ['click', 'hover', 0, closed],
-      ['hover', 'click', 1000, closed]);
+    await visitor.follow(
+      ['hover', 'hover', open, 120],
+      ['click', 'hover', open, 0], // too early to close
+      ['hover', 'plain', closed, 120],
+      ['hover', 'hover', open, 120],
+      ['hover', 'hover', open, 501],
+      ['click', 'hover', closed, 0],
+      ['hover', 'click', closed, 1000]);
     await visitor.page.mouse.down();
     await visitor.shows('hover/in click/sticks');
     await visitor.page.mouse.up();
-    await inTime(visitor,
-      ['hover', 'sticks', 120, 'hover/in click/sticks/in sticks'],
-      ['hover', 'sticks', 380, 'hover/sticks/in sticks'],
-      ['hover', away, 1000, 'hover/sticks/in sticks'],
-      ['click', away, 0, closed]);
+    await visitor.follow(
+      ['hover', 'sticks', 'hover/in click/sticks/in sticks', 120],
+      ['hover', 'sticks', 'hover/sticks/in sticks', 380],
+      ['hover', away, 'hover/sticks/in sticks', 1000],
+      ['click', away, closed, 0]);
   });
 
   visit('a submenu stays open for a while on the way to it, otherwise another item opens', 'times.html', async (visitor) => {
@@ -145,14 +136,12 @@ export default suite('opening and closing', (site) => {
     const [from, to] = [await visitor.pointOf('hover'), await visitor.pointOf('last')];
     const onOther = ((await visitor.box('other')).top + 5 - from[1]) / (to[1] - from[1]);
     const way = (part) => from.map((start, axis) => start + (to[axis] - start) * part);
-    const cross = async (time, ...then) => {
-      await visitor.hover([from[0] - 9, from[1]]);
-      await inTime(visitor, ['hover', 'hover', 120, open], ['hover', way(onOther / 2), 0, open],
-        ['hover', way(onOther), time, open], then);
-    };
-    await cross(399, 'hover', to, 1000, open);
-    await cross(399, 'hover', way(onOther), 1, 'hover/in other/sticks');
-    await cross(200, 'hover', 'other', 120, 'hover/in other/sticks');
+    const cross = (time, ...then) => visitor.follow(['hover', [from[0] - 9, from[1]], open], ['hover', 'hover', open, 120],
+      ['hover', way(onOther / 2), open, 0], ['hover', way(onOther), open, time], then);
+    await cross(399, 'hover', to, open, 1000);
+    await cross(399, 'hover', way(onOther), 'hover/in other/sticks', 1);
+    await visitor.follow(['hover', 'hover', open, 120]);
+    await cross(200, 'hover', 'other', 'hover/in other/sticks', 120);
   });
 
   visit('a popup opens when it is called: at the pointer, or at its own place', 'popups.html', async (visitor) => {

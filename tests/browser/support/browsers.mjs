@@ -129,11 +129,12 @@ export class Visitor {
     }
   }
 
-  // Steps are [method, argument, the panels that are then open].
+  // Steps are [method, argument, the panels that are then open, and in a page with a clock the milliseconds until then].
   async follow(...steps) {
-    for (const [method, argument, wanted] of steps) {
+    for (const [method, argument, wanted, time] of steps) {
       await this[method](argument);
-      await this.shows(wanted, `${method} ${argument}`);
+      if (time !== undefined) await this.run((time) => new Promise(requestAnimationFrame).then(() => pass(time)), time);
+      await this.shows(wanted, `${method} ${argument}, ${time} ms`);
     }
   }
 

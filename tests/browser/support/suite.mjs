@@ -14,6 +14,10 @@ export const plainMenu = (menu, items, settings) => (
 export const opener = (ItemName, items, submenu, item) => (
   { ItemName, ...item, submenu: { SubmenuHow: 0, SubmenuWhere: 0, ...plain, ...submenu, items: items.map(asItem) } });
 
+// Boxes may differ by a pixel.
+export const near = (actual, expected, what) => (
+  assert.ok(Math.abs(actual - expected) <= 1, `${what}: ${actual} for ${expected}`));
+
 // `make` fills the site. `tests` gets `visit(title, page, body, options)`, which declares a test that visits a page and
 // allows no error in it, `addressOf(page)`, and the browser's name.
 export const suite = (title, make, tests) => (browserName, browser) => describe(title, () => {
