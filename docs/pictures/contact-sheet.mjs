@@ -20,21 +20,22 @@ writeMenuFile(site.path('sample.nbr'), {
   items: [home, { ...products, submenu: { SubmenuName: 'Products', items: named(['Tables', 'Chairs', 'Lamps']) } }, about],
 });
 
-const size = { width: 300, height: 260 };
-for (const style of styles) {
-  nbrc('--home', bin, 'style', 'apply', style, site.path('sample.nbr'), '--to', site.path(`${style}.nbr`));
-  nbrc('compile', site.path(`${style}.nbr`), '--to', site.path(`${style}.js`));
-  site.page(`${style}.html`, '<html><head></head><body style="background:#f4f5f7"></body></html>');
-  site.link(`${style}.js`, [`${style}.html`]);
-  const visitor = await open(browser, fileUrl(site.path(`${style}.html`)), size);
+const size = { width: 300, height: 280 };
+for (const [number, style] of styles.entries()) {
+  const name = `style${number}`;
+  nbrc('--home', bin, 'style', 'apply', style, site.path('sample.nbr'), '--to', site.path(`${name}.nbr`));
+  nbrc('compile', site.path(`${name}.nbr`), '--to', site.path(`${name}.js`));
+  site.page(`${name}.html`, '<html><head></head><body style="background:#f4f5f7"></body></html>');
+  site.link(`${name}.js`, [`${name}.html`]);
+  const visitor = await open(browser, fileUrl(site.path(`${name}.html`)), size);
   await visitor.follow(['hover', 'Products', 'Home/Tables']);
   await visitor.pointOf('Tables'); // waits for the end of the animation
-  await visitor.page.screenshot({ path: site.path(`${style}.png`) });
+  await visitor.page.screenshot({ path: site.path(`${name}.png`) });
   await visitor.close();
 }
 
-const cells = styles.map((style) => (
-  `<figure><img src="${style}.png" width="${size.width}" height="${size.height}"><figcaption>${style}</figcaption></figure>`));
+const cells = styles.map((style, number) => (
+  `<figure><img src="style${number}.png" width="${size.width}" height="${size.height}"><figcaption>${style}</figcaption></figure>`));
 site.page('sheet.html', `<style>
 body { margin: 12px; font: 13px sans-serif; display: grid; grid-template-columns: repeat(5, ${size.width}px); gap: 10px }
 figure { margin: 0 }

@@ -10,10 +10,10 @@ import { serve, Site } from '../../tests/browser/support/site.mjs';
 const folder = dirname(fileURLToPath(import.meta.url));
 const browser = await launch('Chromium');
 
-const window = { width: 1280, height: 640 };
+const size = { width: 1024, height: 600 };
 
 async function picture(name, address, steps) {
-  const visitor = await open(browser, address, window);
+  const visitor = await open(browser, address, size);
   await steps(visitor);
   const animationsEnd = () => Promise.all(roots().flatMap((root) => root.getAnimations()).map((animation) => animation.finished));
   await visitor.run(() => new Promise(requestAnimationFrame));
@@ -35,10 +35,14 @@ async function walk(visitor, ...names) {
   }
 }
 
-const text = (lang, dir, words) => `<!DOCTYPE html><html lang="${lang}" dir="${dir}"><head><meta charset="utf-8"><title>Page</title>` +
-  '<style>body{margin:0;background:#fbfaf7;color:#8a867c;font:15px/1.7 sans-serif}main{padding:40px 60px 40px 260px;max-width:30em}' +
-  `[dir=rtl] main{padding:90px 60px}</style></head><body><main>${`<p>${words}</p>`.repeat(3)}</main></body></html>`;
-const words = 'The ferry leaves at ten past the hour, and the tide does not wait for it. Bring a coat, bring bread for the gulls.';
+const text = (lang, dir, heading, words) => `<!DOCTYPE html>
+<html lang="${lang}" dir="${dir}"><head><meta charset="utf-8"><title>${heading}</title><style>
+body { margin: 0; background: #fbfaf7; color: #5c5850; font: 16px/1.7 sans-serif }
+main { padding: 30px 60px 30px 260px; max-width: 40em }
+[dir=rtl] main { padding: 90px 60px }
+</style></head><body><main><h1>${heading}</h1>${`<p>${words}</p>`.repeat(4)}</main></body></html>`;
+const words = 'The ferry leaves at ten past the hour, and the tide does not wait for it. Bring a coat, bring bread for the gulls, ' +
+  'and be at the pier in good time: the gate closes when the bell has rung.';
 
 const font = { FontFamily: 'sans-serif', FontSize: '15px' };
 const quiet = {
@@ -57,7 +61,7 @@ sample.link('menu.js', readdirSync(sample.folder).filter((name) => name.endsWith
 const arrow = (name) => sample.path(`pictures/${name}.png`).replaceAll('/', '\\');
 const more = { HasSubmenuImage: arrow('arrow'), HasSubmenuImage2: arrow('arrow-over'), HasSubmenuImage3: arrow('arrow-over') };
 
-site.page('vertical.html', text('en', 'ltr', words));
+site.page('vertical.html', text('en', 'ltr', 'The island and its harbour', words));
 const vertical = site.menu('vertical', {
   menu: {
     menuname: 'Harbour Ferries', HorizontalDistanceFromCorner: 30, VerticalDistanceFromCorner: 40, Movable: 1, Drifty: 2,
@@ -73,17 +77,17 @@ const button = {
   ItemPadding: 3, BorderStyle1: 'none', BorderStyle2: 'outset', BorderStyle3: 'inset', BorderWidth: 2, BorderColor: '#C0C0C0',
   BGColor2: '#C0C0C0', BGColor3: '#A8A8A8', FontColor: '#000000',
 };
-site.page('raised.html', text('en', 'ltr', words));
+site.page('raised.html', text('en', 'ltr', 'The island and its harbour', words));
 const raised = site.menu('raised', {
   menu: {
     menuname: 'Menu', HorizontalDistanceFromCorner: 30, VerticalDistanceFromCorner: 40, TitlePadding: 4, DistanceBetweenItems: 2,
   },
-  items: items(['News', { ItemName: 'Workshop', submenu: { SubmenuName: 'Workshop', DistanceBetweenItems: 2,
+  items: items(['News', { ItemName: 'Workshop', submenu: { SubmenuName: 'Workshop', TitleBGColor: '#5B5B5B', DistanceBetweenItems: 2,
     items: items(['Lathes', 'Kilns', 'Looms'], button) } }, 'Links'], button),
 });
 
-site.page('rtl.html', text('ar', 'rtl', '&#1578;&#1594;&#1575;&#1583;&#1585; &#1575;&#1604;&#1593;&#1576;&#1617;&#1575;&#1585;&#1577; &#1603;&#1604; &#1587;&#1575;&#1593;&#1577; &#1548; &#1608;&#1575;&#1604;&#1605;&#1583;&#1617; &#1604;&#1575; &#1610;&#1606;&#1578;&#1592;&#1585;.'));
 const names = ['&#1575;&#1604;&#1585;&#1574;&#1610;&#1587;&#1610;&#1577;', '&#1575;&#1604;&#1605;&#1608;&#1575;&#1593;&#1610;&#1583;', '&#1575;&#1604;&#1571;&#1587;&#1593;&#1575;&#1585;'];
+site.page('rtl.html', text('ar', 'rtl', names[0], '&#1578;&#1594;&#1575;&#1583;&#1585; &#1575;&#1604;&#1593;&#1576;&#1617;&#1575;&#1585;&#1577; &#1603;&#1604; &#1587;&#1575;&#1593;&#1577; &#1548; &#1608;&#1575;&#1604;&#1605;&#1583;&#1617; &#1604;&#1575; &#1610;&#1606;&#1578;&#1592;&#1585;.'));
 const rtl = site.menu('rtl', {
   menu: { MenuType: 2, VerticalDistanceFromCorner: 0, ...box, Movable: 0 },
   items: items([names[0], { ItemName: names[1], ...more, submenu: { ...beside, items: items([names[2],
