@@ -8,7 +8,7 @@ export function currentEvent() {
 
 // Runs a command and returns its result. An exception is logged to the console and goes no further.
 export function run(command, event) {
-  if (command === null || command === undefined || command === '') return undefined;
+  if (!command) return undefined;
   var shared = window.nbrShowMenu;
   var outer = shared.running;
   shared.running = event || outer;

@@ -21,11 +21,9 @@ function moveTo(view, panel, item) {
 function moveInBar(view, step) {
   if (view.owner) {
     view.owner.moveInBar(step);
-    return;
+  } else {
+    moveBy(view, view.panels[1].menu.item, step);
   }
-  var item = view.panels[1].menu.item;
-  var panel = view.main();
-  moveTo(view, panel, view.itemFrom(panel, panel.menu.items.indexOf(item), step));
 }
 
 function find(view, item, letter) {

@@ -153,7 +153,7 @@ export function offerToOwner(menu, view) {
 // that the author set.
 function requestBeside(view) {
   var boxes = view.owner && view.owner.boxes();
-  if (!boxes) return view.lastRequest || null;
+  if (!boxes) return view.lastRequest;
   var area = view.layer.area();
   var origin = originOf(window);
   var offset = view.group.frameOffset;

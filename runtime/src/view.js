@@ -17,14 +17,18 @@ export function View(menu, group, remote) {
   this.isBar = Number(menu.options.type) === 2;
   this.isSticky = Number(menu.options.sticky) === 1;
   this.panels = [];
+  this.window = null;   // the size of the window when the panels were last placed
+  this.pointer = null;
   this.pointed = null;  // the item that has the pointer or the keyboard focus
   this.pressed = null;
   this.tabStop = null;
+  this.leaving = false; // whether the Tab key is moving the focus out of the menu
   this.openedAt = 0;    // when a submenu was last opened, in milliseconds
   this.closedAt = 0;    // when a popup was last closed
   this.wanted = null;   // where a popup was called, or where a drag left the menu: {left, top, area} in the layer
   this.owner = null;    // in another frame, the owner of the item whose submenu this is
   this.beside = null;   // returns the request for a place beside that item
+  this.lastRequest = null;
   this.opener = null;   // the element that gets the focus back
   this.layer = new Layer(group, menu.options);
   this.label = nameOfMenu(group, menu);
