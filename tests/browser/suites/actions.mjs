@@ -44,7 +44,7 @@ export default suite('actions', (site) => {
     }
   });
 
-  visit('commands run on entering, click and leaving; an error in one is reported and stops nothing', 'commands.html', async (visitor) => {
+  visit('commands run on entering, click and leaving; an error in one is only logged', 'commands.html', async (visitor) => {
     for (const name of ['one', 'two']) await visitor.hover(name);
     await visitor.click('two');
     await visitor.hover([600, 500]);

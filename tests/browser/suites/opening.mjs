@@ -62,7 +62,7 @@ export default suite('opening and closing', (site) => {
     assert.deepEqual(await visitor.look('one', '.list', 'aria-orientation'), ['horizontal']);
   });
 
-  visit('at the edges of the window Auto changes the side of a whole chain, moves panels in and scrolls them', 'edges.html', async (visitor) => {
+  visit('at the edges of the window submenus change sides, move in and scroll', 'edges.html', async (visitor) => {
     const opens = async (menu, ...names) => {
       for (const name of names) await visitor.click(name);
       return (await visitor.panels()).filter((panel) => panel.menu === menu).map(({ box }) => box);
@@ -93,9 +93,8 @@ export default suite('opening and closing', (site) => {
   }, name);
 
   visit('panels unfold in their direction', 'unfolding.html', async (visitor) => {
-    for (const [name, wanted] of [['at once', null], ['uncovered', [0, 0]], ['up', [0, 1]], ['right', [-1, 0]], ['main', [0, 1]]]) {
-      assert.deepEqual(await shiftOf(visitor, name), wanted, name);
-    }
+    const shifts = { 'at once': null, uncovered: [0, 0], up: [0, 1], right: [-1, 0], main: [0, 1] };
+    for (const [name, wanted] of Object.entries(shifts)) assert.deepEqual(await shiftOf(visitor, name), wanted, name);
     await visitor.page.goto(addressOf('rtl.html'));
     assert.deepEqual(await shiftOf(visitor, 'mirrored'), [1, 0]);
   });

@@ -64,7 +64,7 @@ export default suite('states and styles', (site) => {
     assert.deepEqual(await seen('light', 'styled'), wanted(normal, over, over, normal), 'the lighter build has two');
   });
 
-  visit('texts and pictures change with the state, and a press on one that is replaced is a click', 'states.html', async (visitor) => {
+  visit('texts and pictures change with the state, and a press on one is a click', 'states.html', async (visitor) => {
     const named = await inStates(visitor, ['named', 'named over', 'named click'], (name) => visitor.box(name));
     assert.ok(named.every(Boolean));
     // An item that shows only its picture keeps its name.
