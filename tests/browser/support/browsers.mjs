@@ -112,9 +112,11 @@ export class Visitor {
     await this.run(async () => {
       for (const animation of roots().flatMap((root) => root.getAnimations())) await animation.finished.catch(() => {});
     });
-    const element = await this.frame.evaluateHandle((name) => partOf(name), place);
-    const { x, y } = await element.clickablePoint();
-    return [x, y];
+    const box = await this.box(place);
+    assert.ok(box, `${place} is not shown`);
+    const element = this.frame.parentFrame() && await this.frame.frameElement();
+    const { x, y } = element ? await element.boundingBox() : { x: 0, y: 0 };
+    return [(box.left + box.right) / 2 + x, (box.top + box.bottom) / 2 + y];
   }
 
   async hover(place) { await this.page.mouse.move(...await this.pointOf(place)); }
