@@ -1,4 +1,4 @@
-// Times how menus are built and opened in the browsers. How and why: README.md.
+// Times how menus are built and opened in the browsers. See README.md.
 import { launch, open } from '../../tests/browser/support/browsers.mjs';
 import { serve, Site } from '../../tests/browser/support/site.mjs';
 import { sizes } from './menus.mjs';
@@ -20,14 +20,14 @@ function writeSite() {
   return site;
 }
 
-// Opens an address as a visitor who was never there, and gives what the script tells of the page.
+// Opens an address with an empty cache, and returns the result of a script in the page.
 async function sample(browser, address, script, ...values) {
   const context = await browser.createBrowserContext();
   try {
     const visitor = await open(context, address);
-    const told = await visitor.run(script, ...values);
+    const result = await visitor.run(script, ...values);
     if (visitor.faults.length) throw new Error(`${address}: ${visitor.faults.join('; ')}`);
-    return told;
+    return result;
   } finally {
     await context.close();
   }
@@ -49,7 +49,7 @@ async function timeBuilding(browser, base, form, size) {
   };
 }
 
-// Presses the item of that name again and again; gives how long each press took until its panel was laid out.
+// Presses the item with a name several times; returns the time from each press to the layout of its panel.
 async function press(name, count, times) {
   const root = document.querySelector('[data-nbr-menu]').shadowRoot;
   const item = [...root.querySelectorAll('.item')].find((node) => node.textContent === name);
@@ -72,7 +72,7 @@ async function press(name, count, times) {
   return results;
 }
 
-// The same for a list of as many links by plain DOM calls, which is taken away again.
+// The same for a list with as many links, built by plain DOM calls and removed again.
 async function listLinks(name, count, times) {
   const results = [];
   for (let time = 0; time < times; time++) {
@@ -98,7 +98,7 @@ async function building(browser, base) {
   const samples = {};
   for (let round = 0; round < ROUNDS; round++) {
     for (const size of sizes) {
-      // In turns of either direction, so that no form always follows the same one.
+      // Every second round in reverse order, so that no form always follows the same one.
       for (const form of round % 2 ? [...forms].reverse() : forms) {
         (samples[pageOf(form, size)] ??= []).push(await timeBuilding(browser, base, form, size));
       }

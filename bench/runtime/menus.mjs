@@ -1,7 +1,7 @@
-// The data of the compared menus, and the scripts that other forms than the compiled one are built by.
+// The data of the compared menus, and the scripts that build the forms other than the compiled one.
 
 export const TOP = 10;
-// Items below each item of the first and of the second level.
+// The number of items below each item of the first and of the second level.
 const shapes = { 100: [3, 2], 1000: [9, 10], 10000: [27, 36] };
 export const sizes = Object.keys(shapes).map(Number);
 
@@ -33,7 +33,7 @@ function toCalls(list, parent) {
   }).join('');
 }
 
-// Both scripts define fill(list). This one has a call for each entry, as a generator would write it.
+// Both scripts define fill(list). This one calls a function for each entry, as a generator would.
 export const callsScript = (list) => `function add(list, text, address, title) {
   var item = document.createElement('li');
   var link = document.createElement('a');

@@ -1,10 +1,10 @@
-// The pages that are timed: one for each form of a menu, each size, and one whose submenus are opened.
+// The pages to time: one for each form and size of a menu, and one whose submenus are opened.
 import { copyFileSync, readFileSync, writeFileSync } from 'node:fs';
 import { basename } from 'node:path';
 import { fileURLToPath } from 'node:url';
 import { callsScript, markupScript, menuOf, toItems } from './menus.mjs';
 
-// The marks of a page, in milliseconds. What a page needs for its first layout at all is done ahead of them.
+// Records times in a page, in milliseconds. A first layout before them loads what every layout needs.
 const marks = `<script>
 document.body.getBoundingClientRect();
 var times = { load: performance.now() };
@@ -34,7 +34,7 @@ ${body}
 
 const load = (file) => (file.endsWith('.css') ? `<link rel="stylesheet" href="${file}">` : `<script src="${file}"></script>`);
 
-// A list by a script that defines fill(list), and what a menu script does to it.
+// A list built by a script that defines fill(list), and the start of a menu script on it.
 const listPage = (files, start) => page(`${files.map(load).join('\n')}
 <nav></nav>
 <script>
@@ -50,7 +50,7 @@ built(list);
 
 const installed = (path) => fileURLToPath(new URL(`../../node_modules/${path}`, import.meta.url));
 
-// A form that makes nodes of all entries by a script, and then starts a menu script out of files that npm has installed.
+// A form whose script creates nodes for all entries and then starts a menu script from files installed by npm.
 const listForm = (name, script, start, files = []) => ({
   name,
   nodes: (size) => size,
@@ -62,7 +62,7 @@ const listForm = (name, script, start, files = []) => ({
   },
 });
 
-// Compiles and links a menu, and puts the marks around the call that builds it.
+// Compiles and links a menu, and records times around the call that builds it.
 function writeNimbrel(site, file, items) {
   site.page(file, page(''));
   site.menu(basename(file, '.html'), { menu: { DisplayNameAsTitle: 0 }, items }, [file]);
@@ -81,7 +81,7 @@ const nimbrel = {
 
 const closed = "list.className = 'closed';";
 
-// The first is what the others are compared with.
+// The others are compared with the first.
 export const forms = [
   listForm('plain DOM', callsScript, closed),
   nimbrel,

@@ -1,14 +1,14 @@
 // The script commands of authors.
 
-// The event in which a command runs: the browser does not tell it to code that is called from a shadow tree. It is
-// kept where each copy of this runtime in the page finds it.
+// The event that a command handles. `window.event` is undefined in listeners inside a shadow tree, so the event is kept
+// where each copy of this runtime in the page finds it.
 export function currentEvent() {
   return window.nbrShowMenu.running || window.event || null;
 }
 
-// Runs a command; what goes wrong in it is told on the console and stops nothing. Gives what the command returns.
+// Runs a command and returns its result. An exception is logged to the console and goes no further.
 export function run(command, event) {
-  if (command === null || command === undefined || command === '') return undefined;
+  if (!command) return undefined;
   var shared = window.nbrShowMenu;
   var outer = shared.running;
   shared.running = event || outer;

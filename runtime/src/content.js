@@ -1,4 +1,4 @@
-// The nodes that a title and an item are made of.
+// The nodes inside titles and items.
 
 export function create(tag, className) {
   var node = document.createElement(tag);
@@ -10,10 +10,10 @@ export function isPlain(text) {
   return text.indexOf('<') < 0 && text.indexOf('&') < 0;
 }
 
-// Nothing in a document without a window is loaded or run.
+// A document without a window loads no pictures and runs no scripts.
 var inert = document.implementation.createHTMLDocument('');
 
-// The text that markup shows, with what its pictures stand for.
+// The text of markup, with the alternative texts of its pictures.
 export function plainText(markup) {
   if (!markup || isPlain(markup)) return (markup || '').trim();
   inert.body.innerHTML = markup;
@@ -23,7 +23,7 @@ export function plainText(markup) {
   return text.replace(/\s+/g, ' ').trim();
 }
 
-// Names are markup, as their authors wrote them.
+// Names are markup written by the menu's author.
 function textNode(text) {
   var node = create('span', 'text');
   if (isPlain(text)) node.textContent = text;
@@ -44,7 +44,7 @@ function pictureNode(className, picture) {
 }
 
 // Fills an element with a text, a picture in one of four places (0 above, 1 right, 2 below, 3 left of the text) and
-// an arrow at its end; what is null or empty is left out. Gives whether there is more than text.
+// an arrow at its end; a part that is null or empty is left out. Returns whether there is a picture or an arrow.
 export function fill(element, text, picture, place, arrow) {
   var parts = Boolean(picture || arrow);
   if (!parts && isPlain(text)) {

@@ -1,4 +1,4 @@
-// A movable menu is dragged by the title of its main panel, by mouse, pen or finger.
+// Dragging a movable menu by the title of its main panel, by mouse, pen or touch.
 
 import { dragTo } from './placing.js';
 

@@ -1,5 +1,5 @@
-// What a compiled script hands over, kept as it came: the values of a call are read by their places when they are
-// first shown. A large menu is mostly never opened, so that a call costs one small object and nothing else.
+// The menus and items that a compiled script declares. Most items of a large menu are never shown, so each call only
+// stores its arguments in one small object; they are read by position when an item is first shown.
 
 var TITLE_AND_LIST = ' container titleStyle title tooltip picture picturePlace gap uniformWidths uniformHeights onOpen onClose';
 var MENU_VALUES = 'popup when distance how unfold align movable drift corner horizontal vertical sticky type' +
@@ -12,8 +12,8 @@ function named(names, values) {
   return record;
 }
 
-// An item of `addItem`, or of `addItemWithImages`, which has nine values more behind the tooltip. States count
-// from 0: Normal, Mouse Over, Mouse Click.
+// An item of `addItem`, or of `addItemWithImages`, which has nine more values (`more`) after the tooltip. States: 0
+// Normal, 1 Mouse Over, 2 Mouse Click.
 export function Item(menu, values, more) {
   this.menu = menu;
   this.values = values;
@@ -37,7 +37,7 @@ Item.prototype = {
   },
 
   tooltip: function () { return this.values[6]; },
-  // Numbers of pictures, or null. A picture that was missing when the menu was compiled may also be a number below 0.
+  // Numbers of pictures, or null. A number below 0 is a picture that was missing when the menu was compiled.
   picture: function (state) { return this.more ? this.values[7 + state] : null; },
   picturePlace: function (state) { return this.more ? this.values[10 + state] : 0; },
   arrow: function (state) { return this.more ? this.values[13 + state] : null; },
@@ -47,7 +47,7 @@ Item.prototype = {
   target: function () { return this.values[12 + this.more]; }
 };
 
-// The menu itself, or the submenu of an item. `pm` is the menu at the top of its tree.
+// The main menu, or the submenu of an item. `pm` is the main menu of its tree.
 export function Menu(item, options) {
   this.item = item;
   this.pm = item ? item.menu.pm : this;

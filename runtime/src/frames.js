@@ -1,5 +1,5 @@
-// Submenus that stand in another frame, built there by a copy of this runtime. The other frame may be missing, be of
-// another origin or be gone at any time, so that each step into it may fail and then counts for nothing.
+// Access to submenus in another frame, which a copy of this runtime builds there. The other frame may be missing,
+// belong to another origin or disappear at any time, so each access may throw and is then ignored.
 
 export function attempt(step, otherwise) {
   try {
@@ -23,7 +23,7 @@ export function findFrame(name) {
   return attempt(function () { return frameNamed(window.top, name); }, null);
 }
 
-// The group that the script of the frame holds for an item, by its position from 1; null if there is none.
+// The menu that the frame's script built for an item, found by the item's position from 1; null if there is none.
 export function findGroup(frame, menuName, position) {
   return attempt(function () {
     var group = frame['nbr' + menuName + '_sub_' + position];
@@ -31,7 +31,7 @@ export function findGroup(frame, menuName, position) {
   }, null);
 }
 
-// Where the window of a frame has its corner in the window of the whole frameset, as far up as may be seen.
+// The upper left corner of a frame, in coordinates of the outermost window that is accessible.
 export function originOf(frame) {
   var origin = { left: 0, top: 0 };
   attempt(function () {
@@ -45,7 +45,7 @@ export function originOf(frame) {
   return origin;
 }
 
-// Calls when a document has come into the frame, now and with each later navigation.
+// Calls back after each document that the frame loads.
 export function whenLoaded(frame, call) {
   attempt(function () { frame.frameElement.addEventListener('load', call); });
 }

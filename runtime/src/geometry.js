@@ -1,10 +1,10 @@
-// Where boxes go, in plain numbers. A box is {left, top, right, bottom} in pixels of the window, a size is
-// {width, height}; what is asked for comes as one object, named as it is used here.
+// Positions of boxes, computed from plain numbers. A box is {left, top, right, bottom} in pixels of the window, a size
+// is {width, height}.
 
 var ACROSS = { start: 'left', end: 'right', size: 'width' };
 var DOWN = { start: 'top', end: 'bottom', size: 'height' };
 
-// The value nearest to the wanted one at which a size lies between start and end; the start if it is too large.
+// The position nearest to the wanted one at which a size fits between start and end; the start if it is too large.
 export function within(wanted, size, start, end) {
   return Math.max(start, Math.min(wanted, end - size));
 }
@@ -22,8 +22,8 @@ function mirrored(box, area) {
   return { left: sum - box.right, top: box.top, right: sum - box.left, bottom: box.bottom };
 }
 
-// The place of the main menu. Corners 0 to 3 are those of the window, clockwise from the upper left; 4 to 7 are the
-// edges, left, top, right and bottom, at whose middle the menu stands. The top and left side stay in the window.
+// The position of the main menu. Corners 0 to 3 are the corners of the window, clockwise from the upper left; 4 to 7
+// are the middles of its edges: left, top, right, bottom. The top and left side of the menu stay in the window.
 export function placeMain(size, area, corner, horizontal, vertical) {
   var atRight = corner === 1 || corner === 2 || corner === 6;
   var atBottom = corner === 2 || corner === 3 || corner === 7;
@@ -34,8 +34,8 @@ export function placeMain(size, area, corner, horizontal, vertical) {
   return { left: Math.max(area.left, Math.round(left)), top: Math.max(area.top, Math.round(top)) };
 }
 
-// Which side a submenu takes on the axis that leads away from its parent: 1 right or below, 2 left or above.
-// Without a fixed side it is the one that the chain has taken so far, unless there is no room but on the other.
+// The side of its parent on which a submenu opens: 1 right or below, 2 left or above. Without a fixed side it is the
+// preferred one, unless the submenu fits only on the other side or fits on neither and the other has more room.
 function chooseSide(request, axis, after, before) {
   if (request.side) return request.side;
   var size = request.size[axis.size];
@@ -57,9 +57,10 @@ function alignedStart(request, axis) {
   }
 }
 
-// The place of a submenu: {item, parent: boxes; size; area; vertical: the parent's layout; side: 0 auto, 1, 2;
-// preferred: the side of the chain, 1 if it has none; align: 0 item, 1 near edge, 2 far edge, 3 centre; distance;
-// rtl}. Gives {left, top, side}. Auto moves it into the window on both axes, a fixed side on the other axis alone.
+// Returns the position of a submenu as {left, top, side}. The request has: item, parent: boxes; size: of the submenu;
+// area: the box of the window; vertical: whether the parent is a column; side: 0 auto, 1, 2; preferred: the side on
+// which its parent opened, 0 if none; align: 0 item, 1 near edge, 2 far edge, 3 centre; distance; rtl. With an
+// automatic side the submenu is moved into the window on both axes, with a fixed side only along its parent's edge.
 export function placeSubmenu(request) {
   if (request.rtl) return placeMirrored(request);
   var away = request.vertical ? ACROSS : DOWN;
@@ -89,7 +90,7 @@ function placeMirrored(request) {
   return place;
 }
 
-// Where a dragged box goes so that all of it stays in reach; its start counts where it is larger than the area.
+// The position of a dragged box, moved so that the box stays inside the area; one that is larger keeps its start there.
 export function keepInside(left, top, size, area) {
   return {
     left: within(left, size.width, area.left, area.right),
@@ -101,8 +102,8 @@ function turn(a, b, c) {
   return (b.x - a.x) * (c.y - a.y) - (b.y - a.y) * (c.x - a.x);
 }
 
-// Whether a pointer on its way between two points heads for a box: the second point then lies in the triangle of the
-// first one and the side of the box that faces it.
+// Whether a pointer that moved between two points heads for a box: the second point is then inside the triangle between
+// the first point and the facing side of the box.
 export function headsFor(from, to, box) {
   var slack = 8;
   var first;

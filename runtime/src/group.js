@@ -1,14 +1,14 @@
-// A group is what one call of buildMenu takes: the styles and pictures that its numbers refer to, and the settings
-// of the script at that time. A page's next menu sets all of them anew.
+// The resources of one menu: the styles and pictures that its numbers refer to, and the script's settings. They are
+// read when buildMenu is called, because the page's next menu overwrites the global variables.
 
 import { borderWidth, styleSheet } from './style_sheet.js';
 
-// Names stand in the script with references for characters that its encoding lacks.
+// In the script, names have character references for characters outside its encoding.
 function decoded(name) {
   return name.replace(/&#(\d+);/g, function (whole, code) { return String.fromCodePoint(code); });
 }
 
-// A preview lies elsewhere than the pages: its links lead to where the menu was last compiled.
+// A preview is not in the folder of the pages, so its links are resolved against the folder of the last compile.
 function baseOfLinks(folder) {
   if (!folder || !folder.trim()) return '';
   return 'file:///' + folder.replace(/\\/g, '/').replace(/^\/+|\/+$/g, '') + '/';
@@ -35,7 +35,7 @@ Group.prototype = {
     return styleSheet(this.styles, function (number) { return self.addressOf(number); });
   },
 
-  // The picture of a number: {address, width, height}, or null for none. A size of 0 is not known.
+  // The picture with a number: {address, width, height}, or null if there is none. A size of 0 means unknown.
   picture: function (number) {
     if (number === null || number < 0 || this.images[3 * number] === undefined) return null;
     return {
@@ -60,12 +60,12 @@ Group.prototype = {
     }
   },
 
-  // The state in which an item shows itself; the lighter build knows no third one.
+  // The state that is shown; optimized menus have no Mouse Click state.
   stateOf: function (state) {
     return this.optimized ? Math.min(state, 1) : state;
   },
 
-  // The widest border of an item's states if they differ, else 0.
+  // The widest border among an item's states, or 0 if all are the same.
   edgeOf: function (item) {
     var styles = this.styles;
     var widths = [0, 1, this.stateOf(2)].map(function (state) { return borderWidth(styles[item.style(state)]); });
@@ -73,7 +73,7 @@ Group.prototype = {
     return widest === Math.min.apply(null, widths) ? 0 : widest;
   },
 
-  // Loads what an item shows in its other states, so that it is there when it is wanted.
+  // Loads the pictures of an item's other states, so that they show without delay.
   preload: function (item) {
     if (!this.images.length) return;
     for (var state = 1; state <= this.stateOf(2); state++) {

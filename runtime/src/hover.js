@@ -1,12 +1,13 @@
-// When a resting, passing or leaving pointer takes effect. Times are in milliseconds.
+// The delays after which a pointer that rests on an item, passes over it or leaves the menu takes effect. Times are in
+// milliseconds.
 
-export var OPEN_DELAY = 120;  // to rest on an item before its submenu opens
-export var AIM_DELAY = 400;   // to pass over other items on the way to an open submenu
-export var LEAVE_DELAY = 500; // to be away before the menu closes
-export var CLICK_GUARD = 500; // behind an opening, in which a click does not close again
+export var OPEN_DELAY = 120;  // resting on an item before its submenu opens
+export var AIM_DELAY = 400;   // the same while the pointer heads for the open submenu of another item
+export var LEAVE_DELAY = 500; // outside the menu before it closes
+export var CLICK_GUARD = 500; // after an opening, during which a click does not close the submenu again
 
-// `due(item)` is called once what was waited for has come; with null the pointer has left. Timers are set and cleared
-// through `clock`, {setTimeout, clearTimeout}.
+// Calls `due(item)` after the delay; the item is null if the pointer left the menu. `clock` provides setTimeout and
+// clearTimeout.
 export function Hover(due, clock) {
   this.due = due;
   this.clock = clock;
@@ -26,13 +27,13 @@ Hover.prototype = {
     }, delay);
   },
 
-  // The pointer has come upon an item, perhaps on its way to the open submenu of another one.
+  // The pointer entered an item. Aiming: whether it heads for the open submenu of another item.
   over: function (item, aiming) {
     this.wait(item, aiming ? AIM_DELAY : OPEN_DELAY);
     this.aiming = aiming;
   },
 
-  // The pointer has moved on the item; one that has turned away from the submenu waits no longer than any other.
+  // The pointer moved inside the item. If it no longer heads for the open submenu, the usual delay applies.
   moved: function (aiming) {
     if (this.aiming && !aiming) this.over(this.item, false);
   },

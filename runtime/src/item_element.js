@@ -6,8 +6,8 @@ function readable(fileName) {
   return fileName.replace(/\.[^.]*$/, '').replace(/[-_]+/g, ' ').trim();
 }
 
-// What an item is called where its text does not tell: by its tooltip, its status text, the text of another state,
-// its picture or its address. Empty for one that is nothing but a line or a gap.
+// The accessible name of an item: its text, tooltip, status text, text in another state, the name of its picture, or
+// its address. Empty for an item that is only a line or a gap.
 export function nameOfItem(group, item) {
   var text = plainText(item.name(0)) || item.tooltip() || item.status() || plainText(item.name(1)) ||
     plainText(item.name(2));
@@ -38,8 +38,8 @@ function templateOf(group, item) {
   return group.templates[key].cloneNode(false);
 }
 
-// The last part of an address without what is behind "?" and "#": most links to elsewhere differ in it and have plain
-// names, so that few addresses have to be resolved to find the page's own.
+// The file name in an address. Comparing file names first is fast: only the few links that share the page's file name
+// have to be resolved.
 function lastPart(address) {
   return address.replace(/[?#].*/, '').replace(/.*\//, '');
 }
@@ -70,7 +70,7 @@ function setLink(group, item) {
   markCurrent(item);
 }
 
-// A status line can no longer be written on; the text describes the item to who does not see the page.
+// Browsers no longer let pages write to the status bar; the text becomes the item's accessible description.
 function describe(group, item, notes) {
   var note = notes.appendChild(create('span'));
   note.id = 'note' + group.notes++;
@@ -95,8 +95,8 @@ function nameElement(group, item) {
   }
 }
 
-// Builds the element of an item in its Normal state. Opens: whether it has a submenu. Notes: the element that takes
-// what describes items, which must not count as part of their text.
+// Builds the element of an item in its Normal state. Opens: whether it has a submenu. Notes: the element for the
+// descriptions of items, which must not become part of their text.
 export function buildItem(group, item, opens, notes) {
   var element = templateOf(group, item);
   element.nbrItem = item;
@@ -107,7 +107,7 @@ export function buildItem(group, item, opens, notes) {
   if (item.tooltip()) element.title = item.tooltip();
   if (item.status()) describe(group, item, notes);
   if (opens) markOpening(item);
-  // A state that shows a picture alone keeps the name that the others show.
+  // An item that shows only a picture in one of its states keeps its name there.
   if (!plainText(item.name(0)) || item.name(1) === '' || item.name(2) === '') nameElement(group, item);
   return element;
 }
@@ -122,14 +122,13 @@ function sameContent(item, one, other) {
     item.arrow(one) === item.arrow(other) && item.picturePlace(one) === item.picturePlace(other);
 }
 
-// Shows an item in another state; what does not differ is not touched. An arrow that has just come to be known is
-// shown by `anew`.
-export function showState(group, item, state, opens, anew) {
+// Shows an item in a state and changes only what differs. Renew: rebuilds the content even if nothing differs.
+export function showState(group, item, state, opens, renew) {
   var element = item.element;
   var shown = group.stateOf(state);
-  if (!element || (shown === item.state && !anew)) return;
+  if (!element || (shown === item.state && !renew)) return;
   var parts = element.classList.contains('parts');
-  if (anew || !sameContent(item, shown, item.state)) parts = showContent(group, item, shown, opens);
+  if (renew || !sameContent(item, shown, item.state)) parts = showContent(group, item, shown, opens);
   element.className = 'item s' + item.style(shown) + (shown ? ' on' : '') + (parts ? ' parts' : '');
   item.state = shown;
 }

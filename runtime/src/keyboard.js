@@ -8,7 +8,7 @@ function moveBy(view, item, step) {
   moveTo(view, panel, view.itemFrom(panel, panel.menu.items.indexOf(item), step));
 }
 
-// Beside an open submenu the next one opens, and the focus stays in the panel.
+// Moves the focus to an item of the same panel. If a submenu was open there, the submenu of the new item opens instead.
 function moveTo(view, panel, item) {
   if (!item) return;
   var wasOpen = view.panels.length > panel.depth + 1 || Boolean(view.remote && view.remote.item && !panel.depth);
@@ -17,15 +17,13 @@ function moveTo(view, panel, item) {
   if (wasOpen) view.open(item);
 }
 
-// The item of the main menu in whose submenus the focus is, and from there the one beside it.
+// Moves from inside a submenu to the next or previous item of the main menu.
 function moveInBar(view, step) {
   if (view.owner) {
     view.owner.moveInBar(step);
-    return;
+  } else {
+    moveBy(view, view.panels[1].menu.item, step);
   }
-  var item = view.panels[1].menu.item;
-  var panel = view.main();
-  moveTo(view, panel, view.itemFrom(panel, panel.menu.items.indexOf(item), step));
 }
 
 function find(view, item, letter) {
@@ -42,7 +40,7 @@ function find(view, item, letter) {
   } while (next !== item);
 }
 
-// What is done for each answer of keyAction. One that gives false leaves the key to the browser.
+// The actions that keyAction names. An action that returns false leaves the key to the browser.
 var ACTIONS = {
   next: function (view, item) { moveBy(view, item, 1); },
   previous: function (view, item) { moveBy(view, item, -1); },
@@ -68,7 +66,7 @@ var ACTIONS = {
     return true;
   },
 
-  // The browser moves on from where the focus is, which must be a place that stays.
+  // The browser moves the focus on from the focused element, so the focus must first be on one that remains.
   leave: function (view) {
     view.leaving = true;
     if (view.owner) view.owner.takeFocus();
@@ -107,7 +105,7 @@ function onFocusIn(view, event) {
   var item = itemAt(view, event);
   if (!item || view.leaving) return;
   view.setTabStop(item);
-  // A focus that the mouse has left behind, or that returns when a submenu closes, is no coming of the visitor.
+  // A focus that a click caused, or that returns when a submenu closes, does not count as pointing at the item.
   if (item.element.matches(':focus-visible')) view.point(item, event);
 }
 
@@ -122,7 +120,7 @@ export function listenToKeyboard(view) {
   layer.addEventListener('keydown', function (event) { onKeyDown(view, event); });
   layer.addEventListener('focusin', function (event) { onFocusIn(view, event); });
   layer.addEventListener('focusout', function (event) { onFocusOut(view, event); });
-  // What the mouse has opened is closed from wherever the focus is.
+  // Escape also closes what the mouse opened while the focus is outside the menu.
   document.addEventListener('keydown', function (event) {
     if (event.key === 'Escape' && !view.layer.focused()) view.closeAll();
   });

@@ -1,5 +1,5 @@
-// What a key does in a menu, by the pattern of menu bars: arrows along a panel move, arrows across it go into a
-// submenu and back out.
+// What a key does in a menu, following the ARIA menu bar pattern: arrows along a panel move between its items, arrows
+// across it enter and leave submenus.
 
 var MIRRORED = { ArrowLeft: 'ArrowRight', ArrowRight: 'ArrowLeft' };
 
@@ -7,9 +7,9 @@ function isLetter(key) {
   return key.length === 1 && key !== ' ';
 }
 
-// The name of what the key does, or null if the menu has no use for it. At: {horizontal: layout of the panel; depth:
-// 0 in the main menu; popup: whether that can be closed; barAbove: whether the main menu is horizontal; submenu:
-// whether the item has one; rtl}.
+// Returns the name of the key's action, or null if it has none. At describes the focused item: horizontal: whether its
+// panel is a row; depth: 0 in the main menu; popup: whether the main menu can be closed; barAbove: whether the main
+// menu is a row; submenu: whether the item has one; rtl.
 export function keyAction(key, at) {
   if (at.rtl && MIRRORED[key]) key = MIRRORED[key];
   switch (key) {

@@ -1,5 +1,5 @@
-// The layer is the point of the page from which all panels of a menu are placed. It alone moves when the page scrolls:
-// it stands in the page, in the window, or in one on each axis.
+// The layer is the origin for the positions of all panels of a menu. Only the layer moves when the page scrolls: on
+// each axis it is fixed either to the page or to the window.
 
 import { create } from './content.js';
 
@@ -12,8 +12,8 @@ function scroller() {
   return document.scrollingElement || document.documentElement;
 }
 
-// The child of the body in which the running script stands: the menu goes ahead of it, so that its turn in the page
-// is that of the script, and outside of everything that could clip or move it.
+// The child of the body that contains the running script. The menu is inserted before it: at the script's place in the
+// tab order, but outside of elements that could clip or move it.
 function placeInBody() {
   var node = document.currentScript;
   while (node && node.parentNode !== document.body) node = node.parentNode;
@@ -39,11 +39,12 @@ Layer.prototype = {
   driftsAcross: function () { return this.drift === BOTH || this.drift === ACROSS; },
   driftsDown: function () { return this.drift === BOTH || this.drift === DOWN; },
 
-  // Whether a scroll of the page may have to be followed by hand; on both axes only in a body that is transformed.
+  // Whether the layer must be moved on scroll events. A menu that drifts on both axes needs it only in a transformed
+  // body.
   follows: function () { return this.drift > 0; },
 
-  // Puts its corner where the page's own has been before any scrolling or, where it drifts, at the window's; also in
-  // a body that is itself placed or transformed.
+  // Moves the layer to the upper left corner of the page or, on an axis where it drifts, of the window; also in a body
+  // that is itself positioned or transformed.
   settle: function () {
     var style = this.element.style;
     var box = this.element.getBoundingClientRect();
@@ -57,13 +58,13 @@ Layer.prototype = {
     return { width: scroller().clientWidth, height: scroller().clientHeight };
   },
 
-  // The width of what a bar runs along: the page, or the window if it drifts sideways.
+  // The width of a bar: that of the page, or of the window if the bar drifts sideways.
   pageWidth: function () {
     var own = this.windowSize().width;
     return this.driftsAcross() ? own : Math.max(own, scroller().scrollWidth);
   },
 
-  // What is seen of the page, measured from the layer's corner.
+  // The box of the window, in coordinates of the layer.
   area: function () {
     var box = this.element.getBoundingClientRect();
     var size = this.windowSize();

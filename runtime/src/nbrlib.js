@@ -1,4 +1,4 @@
-// The interface that compiled menus call. Nothing else becomes global.
+// The functions that compiled menus call, the only ones that become global.
 
 import { currentEvent } from './commands.js';
 import { listenToDragging } from './dragging.js';
@@ -9,17 +9,17 @@ import { Pointer } from './pointer.js';
 import { offerToOwner, Remote } from './remote.js';
 import { View } from './view.js';
 
-// The styles of the group that is being registered. Their numbers are their places in it.
+// The styles of the menu that is being declared. A style's number is its index.
 var styles = [];
 
-// The menus of the page by name, also those that another copy of this runtime has built.
+// The menus of the page by name, including those that another copy of this runtime has built.
 var views = (window.nbrShowMenu && window.nbrShowMenu.views) || {};
 
 window.nbrCreateCSS = function () { styles.push(arguments); };
 
 window.nbrCreateMenu = function () { return mainMenu(arguments); };
 
-// Keeps the menu in its place when anything changes that the place depends on.
+// Places the menu again when something changes that its position depends on.
 function keepPlaced(view) {
   function settle() { if (view.isShown()) view.settle(); }
   window.addEventListener('resize', settle);
@@ -39,7 +39,7 @@ Menu.prototype.buildMenu = function () {
   else document.addEventListener('DOMContentLoaded', build.bind(null, this, group));
 };
 
-// Menus of one title are told apart by their names.
+// Menus with the same title get their names added, so that their labels differ.
 function label(view) {
   for (var name in views) if (views[name].label === view.label) view.label += ' (' + view.group.name + ')';
   view.layer.element.setAttribute('aria-label', view.label);
@@ -57,7 +57,7 @@ function build(menu, group) {
   keepPlaced(view);
 }
 
-// Where a popup is wanted: at the pointer of a mouse event, under what was pressed by the keyboard.
+// Where a popup opens: at the pointer of a mouse event, or below the element that was pressed by keyboard.
 function placeFor(event) {
   if (!event || event.view !== window) return null;
   if (event.clientX || event.clientY) return { left: event.clientX, top: event.clientY };
@@ -69,13 +69,14 @@ function isByKey(event) {
   return Boolean(event) && (event.type.indexOf('key') === 0 || (event.type === 'click' && event.detail === 0));
 }
 
-// Where a popup vanishes, the browser tells its caller of the pointer anew, though that rests.
-function isRest(view, event) {
+// When a popup closes, its caller below gets pointer events again although the pointer has not moved. They must not
+// open the popup again.
+function isResting(view, event) {
   return Boolean(event) && /(over|enter)$/.test(event.type) && Date.now() - view.closedAt < 300 &&
     view.pointer.isAt(event);
 }
 
-// A popup that the pointer has not reached yet closes when it turns away from where it was called.
+// Closes a popup if the pointer leaves its caller without entering the popup.
 function closeWhenMissed(view, event) {
   if (!event || !event.target) return;
   function over(now) {
@@ -86,12 +87,12 @@ function closeWhenMissed(view, event) {
   document.addEventListener('pointerover', over);
 }
 
-// Opens a popup menu. A menu that is always there needs no showing.
+// Opens a popup menu; does nothing for a menu that is always visible.
 window.nbrShowMenu = function (name) {
   var view = views[name];
   if (!view || !view.isPopup) return;
   var event = currentEvent();
-  if (isRest(view, event)) return;
+  if (isResting(view, event)) return;
   var place = placeFor(event);
   view.beside = null;
   view.pointer.hover.stop();

@@ -1,10 +1,10 @@
-// A panel is what shows one menu or submenu: its title and the list of its items.
+// A panel shows one menu or submenu: its title and the list of its items.
 
 import { create, fill } from './content.js';
 import { buildItem, nameOfMenu } from './item_element.js';
 import { boxAt } from './geometry.js';
 
-var SMALLEST = 8; // pixels that no line of text is lower than
+var SMALLEST = 8; // pixels; every line of text is at least this high
 
 function buildTitle(group, options) {
   var picture = group.picture(options.picture);
@@ -31,18 +31,18 @@ function buildList(panel, opens) {
   return list;
 }
 
-// Opens: tells of an item whether it has a submenu. Parent: the panel whose item this one belongs to, or null.
+// Opens: a function that returns whether an item has a submenu. Parent: the panel with this submenu's item, or null.
 export function Panel(group, menu, parent, opens) {
   var options = menu.options;
   this.group = group;
   this.menu = menu;
   this.parent = parent;
   this.depth = parent ? parent.depth + 1 : 0;
-  this.across = Number(options.type) > 0; // items stand side by side
-  this.vertical = true;                   // whether it has opened beside a column of items
-  this.side = 0;                          // where it has opened: 1 right or below, 2 left or above
-  this.offset = '';                       // as a transform
-  this.box = null;                        // in the layer, without the movement of an unfolding
+  this.across = Number(options.type) > 0; // a row of items
+  this.vertical = true;                   // whether its parent is a column
+  this.side = 0;                          // the side of the parent where it opened: 1 right or below, 2 left or above
+  this.offset = '';                       // its position as a transform
+  this.box = null;                        // in the layer, without the shift of an animation
   this.element = create('div', 'panel ' + (this.across ? 'across' : 'down') + ' s' + options.container);
   if (Number(options.gap) > 0) this.element.style.setProperty('--gap', Number(options.gap) + 'px');
   this.title = buildTitle(group, options);
@@ -53,21 +53,22 @@ export function Panel(group, menu, parent, opens) {
 }
 
 Panel.prototype = {
-  // The size it takes, at most the widest and the highest that it may have; null is no limit. What is too wide is
-  // wrapped, and what is then still too large is scrolled.
+  // Returns the panel's size within a maximum width and height; null means no limit. A panel that is too wide wraps;
+  // one that is still too large scrolls.
   measure: function (widest, highest) {
     var element = this.element;
     element.style.maxWidth = widest === null ? '' : widest + 'px';
     element.style.maxHeight = highest === null ? '' : highest + 'px';
     element.classList.remove('wrap', 'scroll');
-    // Laying out a long list takes long enough to do it once.
+    // Layout of a long list is slow, so a list that must be too long scrolls without being measured first.
     if (!this.across && highest !== null && this.menu.items.length * SMALLEST > highest) element.classList.add('scroll');
     var box = element.getBoundingClientRect();
     if (this.overflows()) box = this.limit();
     return { width: box.width, height: box.height };
   },
 
-  // Where nothing limits the height, a line can be higher than its box: one with a picture alone in quirks mode.
+  // Without a maximum height nothing overflows vertically, although in quirks mode a line that holds only a picture can
+  // be higher than its box.
   overflows: function () {
     var element = this.element;
     if (element.classList.contains('scroll')) return false;
@@ -92,14 +93,14 @@ Panel.prototype = {
     return widest;
   },
 
-  // Puts it at a place of the layer.
+  // Moves the panel to a position in the layer.
   moveTo: function (place, size) {
     this.box = boxAt(place.left, place.top, size);
     this.offset = 'translate(' + place.left + 'px,' + place.top + 'px)';
-    this.element.style.transform = this.offset; // other than `left` and `top`, it needs no new layout
+    this.element.style.transform = this.offset; // needs no layout, unlike `left` and `top`
   },
 
-  // The box of one of its items in the layer, also while it unfolds.
+  // The box of one of its items in the layer, even during an animation.
   boxOf: function (item) {
     var own = this.element.getBoundingClientRect();
     var box = item.element.getBoundingClientRect();

@@ -1,4 +1,4 @@
-// Where the panels of a view go, and how they come to be there.
+// Places the panels of a view and animates their opening.
 
 import { boxAt, keepInside, placeMain, placeSubmenu, within } from './geometry.js';
 import { directionOf, DURATION, mirroredDirection, unfoldingFrames } from './unfolding.js';
@@ -21,7 +21,7 @@ function requestFor(panel) {
   };
 }
 
-// The size is taken first, in the one layout that it needs.
+// The size is measured first, so that the browser computes the layout only once.
 function placeBeside(view, panel) {
   var options = panel.menu.options;
   var size = panel.measure(view.window.width, view.window.height);
@@ -47,8 +47,8 @@ function placeAlone(view, panel) {
   if ((widest && size.width > widest) || (highest && size.height > highest)) size = panel.measure(widest, highest);
   var result = placeMain(size, boxAt(0, 0, window), Number(options.corner), Number(options.horizontal),
     Number(options.vertical));
-  if (view.isBar || size.width >= window.width) result.left = 0; // no room for a distance
-  // The page cannot be scrolled to what drifts.
+  if (view.isBar || size.width >= window.width) result.left = 0; // no room for a horizontal distance
+  // Scrolling the page cannot bring a drifting menu into view.
   if (view.layer.drift) result.left = within(result.left, size.width, 0, view.layer.pageWidth());
   if (view.layer.driftsDown()) result.top = within(result.top, size.height, 0, window.height);
   var wanted = view.wanted;
@@ -63,7 +63,7 @@ function positionBars(position) {
   }
 }
 
-// Makes a bar as wide as the page, which is measured without any bar: none may keep another from getting narrower.
+// Makes a bar as wide as the page. The page is measured without its bars, since their old widths would keep it wide.
 function stretch(view, panel) {
   positionBars('fixed');
   var width = view.layer.pageWidth();
@@ -71,7 +71,7 @@ function stretch(view, panel) {
   panel.element.style.width = width + 'px';
 }
 
-// Puts the main menu where it has been dragged, as far as it stays in reach.
+// Moves the main menu to where it was dragged, but not out of the window.
 export function dragTo(view, left, top) {
   var area = view.layer.area();
   view.wanted = { left: left, top: top, area: area };

@@ -1,12 +1,12 @@
-// Mouse, pen and touch. All listening is done at the layer and the document; no item has a listener of its own.
+// Mouse, pen and touch. All listeners are on the layer and the document, none on items.
 
 import { run } from './commands.js';
 import { headsFor } from './geometry.js';
 import { CLICK_GUARD, Hover } from './hover.js';
 
-var TRAIL = 4; // moves by which the way of the pointer is told
+var TRAIL = 4; // the number of last positions that give the direction of the pointer
 
-// The item in whose element an event came, or null.
+// The item that contains the target of an event, or null.
 export function itemAt(view, event) {
   return itemOf(view, event.target);
 }
@@ -19,11 +19,11 @@ function itemOf(view, node) {
 export function Pointer(view) {
   this.view = view;
   this.isInside = false;
-  this.over = undefined; // the item that the pointer is upon, null beside the items
-  this.isIdle = false;   // the keyboard was used behind the pointer's last move
+  this.over = undefined; // the item under the pointer, null if it is between items, undefined if it is outside
+  this.isIdle = false;   // the keyboard was used after the pointer's last move
   this.trail = [];
   this.pressed = null; // {item, type of pointer, wasOpen}, until the click
-  this.byKey = false;  // whether the click that comes is one of the keyboard
+  this.byKey = false;  // whether the next click comes from the keyboard
   this.hover = new Hover(this.settle.bind(this), window);
   var self = this;
   function listen(target, type, capture) {
@@ -40,7 +40,7 @@ export function Pointer(view) {
 }
 
 Pointer.prototype = {
-  // What the pointer has waited for long enough takes effect.
+  // Called when the hover delay has passed.
   settle: function (item) {
     var view = this.view;
     if (item === null) {
@@ -55,7 +55,7 @@ Pointer.prototype = {
     if (view.opens(item) && view.opensOnHover(item)) view.open(item);
   },
 
-  // Whether the pointer is on its way from one of a panel's items to the open submenu of another.
+  // Whether the pointer, now on an item, heads for the open submenu of another item in the same panel.
   isAiming: function (item) {
     var panel = item && this.view.panelOf(item);
     var next = panel && this.view.panels[panel.depth + 1];
@@ -63,14 +63,14 @@ Pointer.prototype = {
     return headsFor(this.trail[0], this.trail[this.trail.length - 1], next.element.getBoundingClientRect());
   },
 
-  // Whether the pointer was last seen where an event is.
+  // Whether the pointer's last known position is that of an event.
   isAt: function (event) {
     var last = this.trail[this.trail.length - 1];
     return Boolean(last) && last.x === event.clientX && last.y === event.clientY;
   },
 
-  // Whether the pointer has moved. A page tells of a pointer that rests, too, when something moves under it; that
-  // counts for nothing while the keyboard is in use.
+  // Records the pointer's position; returns whether it moved. Browsers also send pointer events when something moves
+  // under a resting pointer; they are ignored while the keyboard is in use.
   follow: function (event) {
     if (this.isAt(event)) return false;
     this.trail.push({ x: event.clientX, y: event.clientY });
@@ -90,7 +90,7 @@ Pointer.prototype = {
     else if (this.hover.aiming) this.hover.moved(this.isAiming(item));
   },
 
-  // An item may have come under a resting pointer, or have gone from it, while its panel unfolded.
+  // Finds the item under a resting pointer after an animation, which may have moved another item there.
   look: function () {
     var last = this.trail[this.trail.length - 1];
     if (!this.isInside || this.isIdle || !last) return;
@@ -113,7 +113,7 @@ Pointer.prototype = {
     this.hover.left();
   },
 
-  // A press opens at once; a touch waits for the click, since it may become a scroll.
+  // A press opens a submenu immediately; a touch waits for the click, since it may become a scroll.
   pointerdown: function (event) {
     var view = this.view;
     var item = itemAt(view, event);
@@ -144,18 +144,18 @@ Pointer.prototype = {
     if (press.type === 'touch') this.view.point(item, event);
     var follows = !this.view.opens(item) || this.clickOpener(item, press);
     if (!follows) event.preventDefault();
-    // A first tap that only opens is no click yet.
+    // A first tap that only opens the submenu does not run the command yet.
     var opensOnly = !follows && press.type === 'touch' && item.url() !== null;
     if (!opensOnly && run(item.command(2), event) === false) event.preventDefault();
-    if (follows) this.closeBehind(item, press.type);
+    if (follows) this.closeAfter(item, press.type);
   },
 
-  // A click without a press comes from the keyboard, or from a helper that stands for a finger.
+  // A click without a press comes from the keyboard or from assistive technology.
   pressOf: function (item) {
     return { item: item, type: this.byKey ? 'key' : 'helper', wasOpen: this.view.isOpen(item) };
   },
 
-  // A click on an item with a submenu. Gives whether its link is to be followed.
+  // Handles a click on an item with a submenu. Returns whether the browser should follow its link.
   clickOpener: function (item, press) {
     var view = this.view;
     var hasLink = item.url() !== null;
@@ -168,8 +168,9 @@ Pointer.prototype = {
     return hasLink;
   },
 
-  // A menu that was used closes, behind the click: its link must stay in the page until it has been followed.
-  closeBehind: function (item, type) {
+  // Closes the menu after an item was used. It waits for the end of the click, because the browser follows a link only
+  // if it is still in the page then.
+  closeAfter: function (item, type) {
     var view = this.view;
     if (view.isSticky || (item.url() === null && item.command(2) === null)) return;
     this.hover.stop();

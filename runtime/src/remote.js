@@ -1,6 +1,6 @@
-// Both ends of a menu whose submenus stand in another frame. The main menu's end finds the group of an item, has it
-// shown beside the item and closes it; the group's end reports what happens there. Each end may vanish under the other
-// one, so that every call across goes through `attempt`.
+// Both ends of a menu whose submenus are in another frame. In the main menu's frame, Remote finds the submenu of an
+// item, shows it beside the item and closes it; the submenu's frame reports back through the item's owner object.
+// Either frame may disappear at any time, so every call between them goes through `attempt`.
 
 import { attempt, findFrame, findGroup, originOf, whenLoaded } from './frames.js';
 import { shifted } from './geometry.js';
@@ -10,8 +10,8 @@ export function Remote(group) {
   this.frameName = group.submenusFrame;
   this.view = null;
   this.watched = [];
-  this.item = null;  // whose submenu is open
-  this.group = null; // that submenu
+  this.item = null;  // the item whose submenu is open
+  this.group = null; // that submenu in the other frame
 }
 
 Remote.prototype = {
@@ -80,7 +80,7 @@ Remote.prototype = {
     if (item) this.view.markClosed(item);
   },
 
-  // What the group is told of the item it stands beside, and may ask for. Boxes are those of the whole frameset.
+  // What the submenu's frame can read and call about the item. Boxes are in coordinates of the outermost window.
   ownerOf: function (item) {
     var self = this;
     var view = this.view;
@@ -112,7 +112,7 @@ Remote.prototype = {
   }
 };
 
-// Calls of the main menu's frame, as an object whose every call may fail.
+// A copy of the owner object whose calls return null when they fail.
 function guarded(owner) {
   function call(name) {
     return function (value) { return attempt(function () { return owner[name](value); }, null); };
@@ -123,7 +123,8 @@ function guarded(owner) {
   };
 }
 
-// What the group offers to the main menu's frame: methods on the menu object that the script keeps by name.
+// Adds the methods that the main menu's frame calls to the submenu's menu object, which the script keeps in a global
+// variable.
 export function offerToOwner(menu, view) {
   menu.opensOnHover = function () { return Number(menu.options.when) === 0; };
   menu.isHovered = function () { return view.pointer.isInside; };
@@ -148,10 +149,11 @@ export function offerToOwner(menu, view) {
   window.addEventListener('pagehide', function () { if (view.owner) view.owner.closed(); });
 }
 
-// Where the group stands: the boxes of its item come into this frame's window, moved by the offset that its author gave.
+// The placement request of the submenu: the boxes of its item in coordinates of this frame's layer, moved by the offset
+// that the author set.
 function requestBeside(view) {
   var boxes = view.owner && view.owner.boxes();
-  if (!boxes) return view.lastRequest || null;
+  if (!boxes) return view.lastRequest;
   var area = view.layer.area();
   var origin = originOf(window);
   var offset = view.group.frameOffset;

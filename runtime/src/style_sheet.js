@@ -1,12 +1,13 @@
-// The style sheet of a menu. It stands in the menu's own shadow tree, so that neither side's rules reach the other.
+// The style sheet of a menu. It is inside the menu's shadow tree, so that the menu's rules do not affect the page, and
+// the page's rules do not affect the menu.
 
 var CURSORS = ['default', 'pointer', 'crosshair', 'help', 'move', 'text', 'wait'];
 var ALIGNMENTS = ['start', 'center', 'end'];
 var FLEX = ['flex-start', 'center', 'flex-end'];
 
-// The host takes nothing from the page, not even by its important rules.
+// Keeps even the page's important rules from reaching the host.
 var HOST = ':host{all:initial!important;display:contents!important}' +
-  // A page's own variables would come in all the same.
+  // Custom properties are inherited from the page all the same.
   '.layer{position:absolute;left:0;top:0;width:0;height:0;font:16px sans-serif;--edge:initial;--gap:initial}';
 
 var PANEL = '.panel{position:absolute;left:0;top:0;box-sizing:border-box;display:flex;flex-direction:column;width:max-content;' +
@@ -28,7 +29,8 @@ var ITEM = '.item{display:block;box-sizing:border-box;color:inherit;text-decorat
   '-webkit-tap-highlight-color:transparent}' +
   '.across>.list>.item,.even>.item,.item.parts{display:flex;align-items:center;justify-content:var(--at)}' +
   '.parts>.content{flex:1}' +
-  // What is replaced when the state changes must not be what was pressed, or the browser would see no click.
+  // A change of state replaces nodes inside the item. If one of them were the target of the press, there would be no
+  // click.
   '.item *{pointer-events:none}' +
   '.item :is(a,button,input,select,textarea,[onclick]){pointer-events:auto}' +
   '.content{display:flex;align-items:center;justify-content:var(--at);gap:4px}' +
@@ -38,7 +40,7 @@ var ITEM = '.item{display:block;box-sizing:border-box;color:inherit;text-decorat
   '.picture,.arrow{display:block;flex:none}' +
   '.arrow{margin-inline-start:6px}' +
   '[dir=rtl]>.down>.list .arrow{transform:scaleX(-1)}' +
-  // Two colours, of which one stands out from whatever the author has chosen.
+  // Two colours, so that one contrasts with any colour that the author chose.
   '.item:focus{outline:0}' +
   '.item:focus-visible{outline:2px solid #000;outline-offset:-2px;box-shadow:inset 0 0 0 4px #fff}';
 
@@ -47,7 +49,7 @@ var FORCED = '@media(forced-colors:active){' +
   '.layer .on{forced-color-adjust:none;background:Highlight;color:HighlightText}' +
   '.item:focus-visible{outline-color:Highlight}.on:focus-visible{outline-color:HighlightText}}';
 
-// A value of the author's cannot end its rule.
+// Removes characters with which an author's value could end its rule.
 function clean(value) {
   return String(value).replace(/[{}<>;\\]/g, '');
 }
@@ -57,13 +59,13 @@ function border(values) {
   return 'border:' + borderWidth(values) + 'px ' + clean(values[8]) + ' ' + clean(values[10] || '') + ';';
 }
 
-// An item whose states have borders of different widths keeps room for the widest, `--edge`, so that nothing moves.
+// An item whose states have borders of different widths reserves room for the widest, `--edge`, so that nothing moves.
 function padding(values) {
   var edge = borderWidth(values) + 'px';
   return 'padding:calc(' + Number(values[11]) + 'px + var(--edge,' + edge + ') - ' + edge + ');';
 }
 
-// A font without a size would be no font.
+// Adds a size to a font that has none, as CSS requires one.
 function font(value) {
   return clean(value).replace(/^((?:italic |bold )*) /, '$1medium ');
 }
@@ -77,9 +79,9 @@ function background(colour, url) {
     (url ? 'background-image:url("' + url + '");' : '');
 }
 
-// The rule of one call of nbrCreateCSS, whose values are: marker, kind, alignment, font colour, background colour and
-// picture, font, decoration, border style, width and colour, padding, cursor. Kind 1 is a container, which has no
-// text of its own. Picture: the address of the background, or null.
+// The rule for the values of one nbrCreateCSS call: marker, kind, alignment, font colour, background colour and
+// picture, font, decoration, border style, width and colour, padding, cursor. Kind 1 is a container, which has no text.
+// Picture: the address of the background picture, or null.
 export function styleRule(number, values, picture) {
   var rule = background(values[4], picture) + border(values);
   if (values[1] !== 1) {
@@ -92,7 +94,7 @@ export function styleRule(number, values, picture) {
   return '.s' + number + '{' + rule + '}';
 }
 
-// All rules; pictureOf gives the address of a picture by its number, or null.
+// All rules. pictureOf returns the address of the picture with a number, or null.
 export function styleSheet(styles, pictureOf) {
   var rules = [HOST, PANEL, ITEM];
   for (var i = 0; i < styles.length; i++) rules.push(styleRule(i, styles[i], pictureOf(styles[i][5])));

@@ -1,4 +1,4 @@
-// The steps in which a panel unfolds, as key frames of an animation.
+// The keyframes with which a panel unfolds.
 
 export var RIGHT = 1;
 export var LEFT = 2;
@@ -7,9 +7,10 @@ export var UP = 4;
 
 export var DURATION = 180; // milliseconds
 
-// The direction in which a submenu unfolds: the one it is told, or that of the side on which it opens.
-export function directionOf(told, vertical, side) {
-  if (told) return told;
+// The direction in which a submenu unfolds: its fixed one, or 0 for away from its parent. Vertical: whether the parent
+// is a column. Side: where the submenu opened, 1 right or below, 2 left or above.
+export function directionOf(fixed, vertical, side) {
+  if (fixed) return fixed;
   if (vertical) return side === 1 ? RIGHT : LEFT;
   return side === 1 ? DOWN : UP;
 }
@@ -18,8 +19,8 @@ export function mirroredDirection(direction) {
   return direction === RIGHT ? LEFT : direction === LEFT ? RIGHT : direction;
 }
 
-// Way 1 uncovers a panel that stands still. Way 2 pushes it out from behind the edge at which it begins. Frames of
-// anything else are null: it is there at once.
+// Way 1 uncovers a panel in place; way 2 slides it out from the opposite edge. Any other way returns null: the panel
+// appears without animation.
 export function unfoldingFrames(way, direction) {
   var covered = { 1: '0 100% 0 0', 2: '0 0 0 100%', 3: '0 0 100% 0', 4: '100% 0 0 0' };
   var behind = { 1: '0 0 0 100%', 2: '0 100% 0 0', 3: '100% 0 0 0', 4: '0 0 100% 0' };

@@ -1,6 +1,5 @@
-// A menu as it stands in the page: its layer and the chain of open panels, from the main menu's to the deepest
-// submenu's. What the author of the page or the visitor does comes in through `show`, `open`, `closeFrom`, `point` and
-// `press`; the modules that listen to pointer and keyboard decide which.
+// A menu in the page: its layer and the chain of open panels, from the main menu to the deepest submenu. The modules
+// that listen to pointer and keyboard change it through `show`, `open`, `closeFrom`, `point` and `press`.
 
 import { run } from './commands.js';
 import { shifted } from './geometry.js';
@@ -9,7 +8,7 @@ import { Layer } from './layer.js';
 import { Panel } from './panel.js';
 import { place, unfold } from './placing.js';
 
-// Remote: the submenus of another frame, or null.
+// Remote: the submenus in another frame, or null.
 export function View(menu, group, remote) {
   this.menu = menu;
   this.group = group;
@@ -18,15 +17,19 @@ export function View(menu, group, remote) {
   this.isBar = Number(menu.options.type) === 2;
   this.isSticky = Number(menu.options.sticky) === 1;
   this.panels = [];
-  this.pointed = null;  // the item that the pointer or the keyboard is at
+  this.window = null;   // the size of the window when the panels were last placed
+  this.pointer = null;
+  this.pointed = null;  // the item that has the pointer or the keyboard focus
   this.pressed = null;
   this.tabStop = null;
+  this.leaving = false; // whether the Tab key is moving the focus out of the menu
   this.openedAt = 0;    // when a submenu was last opened, in milliseconds
-  this.closedAt = 0;    // when a popup last vanished
-  this.wanted = null;   // where a popup was asked for, or a drag has left the menu: {left, top} in the layer
-  this.owner = null;    // the main menu in another frame whose submenu this is, and how to stand beside its item
-  this.beside = null;
-  this.opener = null;   // what the focus returns to
+  this.closedAt = 0;    // when a popup was last closed
+  this.wanted = null;   // where a popup was called, or where a drag left the menu: {left, top, area} in the layer
+  this.owner = null;    // in another frame, the owner of the item whose submenu this is
+  this.beside = null;   // returns the request for a place beside that item
+  this.lastRequest = null;
+  this.opener = null;   // the element that gets the focus back
   this.layer = new Layer(group, menu.options);
   this.label = nameOfMenu(group, menu);
   this.remote = remote;
@@ -51,7 +54,7 @@ View.prototype = {
     return null;
   },
 
-  // The panel of an item's submenu, if it is open here.
+  // The open panel of an item's submenu in this frame, or null.
   submenuPanel: function (item) {
     var panel = this.panelOf(item);
     var next = panel && this.panels[panel.depth + 1];
@@ -62,7 +65,7 @@ View.prototype = {
     return Boolean(this.submenuPanel(item)) || Boolean(this.remote && this.remote.item === item);
   },
 
-  // Shows the main menu. Where: a point {left, top} of the window, or null for the place that its author chose.
+  // Shows the main menu. Where: a point {left, top} of the window, or null for the position that the author set.
   show: function (where) {
     this.wanted = null;
     if (where || this.beside) this.layer.settle();
@@ -85,21 +88,21 @@ View.prototype = {
     var self = this;
     var panel = new Panel(this.group, menu, parent, function (item) { return self.opens(item); });
     this.panels.push(panel);
-    if (parent || this.beside) this.window = this.layer.windowSize(); // asked for while the page is laid out
+    if (parent || this.beside) this.window = this.layer.windowSize(); // read before the panel invalidates the layout
     this.layer.element.appendChild(panel.element);
     place(this, panel);
     for (var i = 0; i < menu.items.length; i++) this.group.preload(menu.items[i]);
     return panel;
   },
 
-  // Places what is open anew: the window, the page or the menu's content has changed its size.
+  // Places the open panels again after the window, the page or the menu has changed its size.
   settle: function () {
     this.layer.settle();
     this.window = this.layer.windowSize();
     for (var i = 0; i < this.panels.length; i++) place(this, this.panels[i]);
   },
 
-  // Opens the submenu of an item. Focus: 'first' or 'last' item of it, or nothing to leave the focus where it is.
+  // Opens the submenu of an item. Focus: 'first' or 'last' focuses that item of it; otherwise the focus does not move.
   open: function (item, focus) {
     var parent = this.panelOf(item);
     if (!parent || !this.opens(item)) return;
@@ -119,10 +122,10 @@ View.prototype = {
     if (opened) run(item.submenu.options.onOpen);
   },
 
-  // Closes the panels from a depth on, the deepest first. Depth 0 is the main menu itself.
+  // Closes the panels at a depth and deeper, the deepest first. Depth 0 is the main menu.
   closeFrom: function (depth) {
     if (depth <= 1 && this.remote) this.remote.close();
-    // Closing may run a command that opens again.
+    // A command that runs on closing may open panels again.
     for (var n = this.panels.length; n > depth && this.panels.length > depth; n--) this.closeLast();
   },
 
@@ -146,7 +149,7 @@ View.prototype = {
     this.showState(item);
   },
 
-  // Closes what is open: the submenus, and the menu itself if it is a popup.
+  // Closes all submenus, and the menu if it is a popup. Returns whether anything was open.
   closeAll: function () {
     var isOpen = this.panels.length > (this.isPopup ? 0 : 1) || Boolean(this.remote && this.remote.item);
     this.closeFrom(this.isPopup ? 0 : 1);
@@ -160,13 +163,13 @@ View.prototype = {
     if (this.owner) this.owner.closed();
   },
 
-  showState: function (item, anew) {
+  showState: function (item, renew) {
     if (!item || !item.element) return;
     var state = item === this.pressed ? 2 : item === this.pointed || this.isOpen(item) ? 1 : 0;
-    showState(this.group, item, state, this.opens(item), anew);
+    showState(this.group, item, state, this.opens(item), renew);
   },
 
-  // The pointer or the keyboard has come to an item, or has left with null; the authors' commands run.
+  // The pointer or the keyboard focus is now on an item, or on none (null). Runs the author's commands.
   point: function (item, event) {
     var left = this.pointed;
     if (item === left) return;
@@ -184,12 +187,12 @@ View.prototype = {
     this.showState(item);
   },
 
-  // The first item in the direction of step that can take the focus; lines and gaps cannot.
+  // The first focusable item, or the last one if step is -1. Lines and gaps are not focusable.
   firstItem: function (panel, step) {
     return this.itemFrom(panel, step > 0 ? -1 : panel.menu.items.length, step);
   },
 
-  // The next one behind an index, round the ends; null if there is none.
+  // The next focusable item from an index, wrapping at the ends; null if there is none.
   itemFrom: function (panel, index, step) {
     var items = panel.menu.items;
     for (var n = 0; n < items.length; n++) {
@@ -203,7 +206,7 @@ View.prototype = {
     if (item && item.element) item.element.focus();
   },
 
-  // One item of the main menu is reached by Tab, the one that had the focus last.
+  // Only one item of the main menu is in the tab order: the one that had the focus last.
   setTabStop: function (item) {
     if (!item || item.menu !== this.menu) return;
     if (this.tabStop && this.tabStop.element) this.tabStop.element.tabIndex = -1;
@@ -211,7 +214,7 @@ View.prototype = {
     item.element.tabIndex = 0;
   },
 
-  // Another frame has changed: items may have got or lost their submenus.
+  // Updates the items after another frame has changed: they may have gained or lost their submenus.
   refreshOpenings: function () {
     if (!this.isShown()) return;
     var items = this.menu.items;

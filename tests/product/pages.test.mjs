@@ -1,120 +1,120 @@
-// What lies beside the program for authors to look at: the samples and the live examples, as the build stages them.
+// The pages that are staged beside the program: samples, style previews and live examples.
 import assert from 'node:assert/strict';
 import { cpSync, existsSync, mkdtempSync, readdirSync, readFileSync, rmSync, writeFileSync } from 'node:fs';
+import { createRequire } from 'node:module';
 import { tmpdir } from 'node:os';
 import { basename, join } from 'node:path';
 import { after, before, test } from 'node:test';
-import { eventually, inEachBrowser } from '../browser/support/browsers.mjs';
+import { eventually, open } from '../browser/support/browsers.mjs';
 import { bin, nbrc } from '../browser/support/menu_file.mjs';
-import { addressOf, itemsOf, read, serve } from '../browser/support/site.mjs';
+import { fileUrl, serve } from '../browser/support/site.mjs';
+import { runIn } from '../browser/support/suite.mjs';
 
 const source = new URL('../..', import.meta.url).pathname;
 const samples = join(bin, 'Examples');
 const examples = join(bin, 'Live Examples');
-const namesIn = (folder, ending) => readdirSync(folder).filter((name) => name.endsWith(ending));
-const menus = namesIn(samples, '').flatMap((folder) => namesIn(join(samples, folder), '.nbr').map((name) => join(folder, name)));
-const table = JSON.parse(readFileSync(join(source, 'product', 'Live Examples', 'examples.json'), 'utf8'));
+const axe = readFileSync(createRequire(import.meta.url).resolve('axe-core/axe.min.js'), 'utf8');
+const read = (...parts) => readFileSync(join(...parts), 'latin1');
+const namesIn = (folder, ending = '') => readdirSync(folder).filter((name) => name.endsWith(ending));
+const liveExamples = Object.entries(JSON.parse(read(source, 'product', 'Live Examples', 'examples.json')))
+  .flatMap(([kind, group]) => group.examples.map((example) => ({ kind, ...example })));
 
 test('each row of a sheet that names a live example has it, under its caption', () => {
-  for (const [kind, group] of Object.entries(table)) {
-    const rows = readFileSync(join(source, 'src', 'properties', `${kind}_rows.cpp`), 'utf8');
-    const named = [...rows.matchAll(/^\s*\{("(?:[^"\\]|\\.)*"),.*?"(LE_\w+)"/gm)].map(([, caption, file]) => [file, JSON.parse(caption)]);
-    const told = group.examples.flatMap(({ file, captions }) => captions.map((caption) => [file, caption]));
-    assert.ok(named.length > 20, kind);
-    assert.deepEqual(told.sort(), named.sort());
-  }
-  assert.deepEqual(namesIn(examples, '').filter((name) => name !== 'menus').sort(),
-    Object.values(table).flatMap((group) => group.examples.map(({ file }) => file)).sort());
+  const inRows = ['menu', 'submenu', 'item'].flatMap((kind) => (
+    [...read(source, 'src', 'properties', `${kind}_rows.cpp`).matchAll(/^\s*\{("(?:[^"\\]|\\.)*"),.*?"(LE_\w+)"/gm)]
+      .map(([, caption, file]) => [kind, file, JSON.parse(caption)])));
+  const inTable = liveExamples.flatMap(({ kind, file, captions }) => captions.map((caption) => [kind, file, caption]));
+  assert.ok(inRows.length > 90);
+  assert.deepEqual(inTable.sort(), inRows.sort());
+  assert.deepEqual(namesIn(examples).filter((name) => name !== 'menus').sort(), liveExamples.map(({ file }) => file).sort());
 });
 
-test('the samples are whole: pictures, places that items lead to, and every byte as the program saves it', () => {
-  const folder = mkdtempSync(join(tmpdir(), 'nimbrel-samples-'));
-  try {
-    assert.ok(menus.length >= 9);
-    for (const menu of menus) {
-      const path = join(samples, menu);
-      const site = join(path, '..');
+for (const folder of namesIn(samples)) {
+  test(`the sample ${folder} is complete: its pictures, the targets of its links, and each byte as the program saves it`, () => {
+    const site = join(samples, folder);
+    for (const menu of namesIn(site, '.nbr')) {
+      const path = join(site, menu);
       nbrc('check', path);
-      for (const { URL: url } of itemsOf(path).filter(({ URL: address }) => address !== 'n')) {
+      for (const { properties: { URL: url = 'n' } } of JSON.parse(nbrc('show', '--json', path)).elements) {
         const [file, place] = url.split('#');
-        if (file) assert.ok(existsSync(join(site, file)), `${menu}: ${url}`);
+        if (file && url !== 'n') assert.ok(existsSync(join(site, file)), url);
         for (const page of place ? (file ? [file] : namesIn(site, '.html')) : []) {
-          assert.ok(read(site, page).includes(`id="${place}"`), `${menu}: ${url} in ${page}`);
+          assert.ok(read(site, page).includes(`id="${place}"`), `${url} in ${page}`);
         }
       }
-      nbrc('convert', path, join(folder, 'saved.nbr'));
-      // Pictures are saved with their whole paths; samples name them by their own folder, to lie anywhere.
-      assert.equal(read(folder, 'saved.nbr').replaceAll(site.replaceAll('/', '\\'), '*'), read(path), menu);
+      const saved = join(tmpdir(), `nimbrel-saved-${process.pid}.nbr`);
+      nbrc('convert', path, saved);
+      // The program saves whole paths of pictures; samples name them relative to their folder, so that they can be
+      // moved.
+      assert.equal(read(saved).replaceAll(site.replaceAll('/', '\\'), '*'), read(path), menu);
+      rmSync(saved);
     }
-  } finally {
-    rmSync(folder, { recursive: true });
-  }
-});
-
-// How many menus a frame shows in its window, popups when they are called.
-const shownIn = (frame) => frame.evaluate(() => {
-  document.querySelector('[onclick*="nbrShowMenu"]')?.click();
-  return [...document.querySelectorAll('[data-nbr-menu]')].filter(({ shadowRoot }) => {
-    const box = shadowRoot.querySelector('.panel')?.getBoundingClientRect();
-    return box?.width > 10 && box.height > 10 && box.right > 0 && box.bottom > 0 && box.left < innerWidth && box.top < innerHeight;
-  }).length;
-});
-
-const panelsIn = async (page) => (await Promise.all(page.frames().map((frame) => frame.evaluate(() => (
-  [...document.querySelectorAll('[data-nbr-menu]')].reduce((sum, host) => sum + host.shadowRoot.querySelectorAll('.panel').length, 0)
-))))).reduce((sum, count) => sum + count);
-
-// Opens the first submenu of the page by the keyboard, in whatever frame it shows.
-async function opensSubmenu(page) {
-  const closed = await panelsIn(page);
-  const focus = () => {
-    const hosts = [...document.querySelectorAll('[data-nbr-menu]')];
-    const item = hosts.map(({ shadowRoot }) => shadowRoot.querySelector('[aria-haspopup]')).find(Boolean);
-    item?.focus();
-    return Boolean(item);
-  };
-  await eventually(async () => {
-    for (const frame of page.frames()) if (await frame.evaluate(focus)) return;
-    throw new Error('no item has a submenu');
   });
-  await page.keyboard.press(' ');
-  await eventually(async () => assert.equal(await panelsIn(page), closed + 1));
 }
 
-inEachBrowser((name, open) => {
+const callPopup = (frame) => frame.evaluate(() => document.querySelector('[onclick*="nbrShowMenu"]')?.click());
+
+// The number of menus and submenus that are visible in the window of a frame.
+const panelsIn = (frame) => frame.evaluate(() => all('.panel').filter((panel) => {
+  const { width, height, left, top, right, bottom } = boxOf(panel);
+  return width > 10 && height > 10 && right > 0 && bottom > 0 && left < innerWidth && top < innerHeight;
+}).length);
+
+const focusOpener = (frame) => frame.evaluate(() => {
+  const [item] = all('[aria-haspopup]');
+  item?.focus();
+  return Boolean(item);
+});
+
+function productPages(_, browser) {
   let server;
   let visitor;
-
   before(async () => {
     server = await serve(samples);
-    visitor = await open('about:blank', { width: 800, height: 600 });
+    visitor = await open(browser(), 'about:blank', { width: 800, height: 600 });
   });
-
   after(() => server?.stop());
 
-  // One visitor for all pages; `frames` gives those of the page that show the menus, `more` is what else is tried there.
-  async function visit(address, count, frames, more = () => {}) {
+  const shows = (count) => eventually(async () => {
+    const counts = await Promise.all(visitor.page.frames().map(panelsIn));
+    assert.equal(counts.reduce((sum, each) => sum + each, 0), count, visitor.page.url());
+  });
+
+  // Visits a page that shows a number of menus; may open the first submenu by keyboard.
+  async function visit(address, menus, opens = true) {
     visitor.faults.length = 0;
-    await visitor.page.goto(address, { waitUntil: 'load' });
-    await eventually(async () => {
-      const shown = await Promise.all(frames(visitor.page).map(shownIn));
-      assert.equal(shown.reduce((sum, each) => sum + each, 0), count, address);
-    });
-    await more(visitor.page);
+    await visitor.page.goto(address);
+    await Promise.all(visitor.page.frames().map(callPopup));
+    await shows(menus);
+    if (opens) {
+      await eventually(async () => {
+        for (const frame of visitor.page.frames()) if (await focusOpener(frame)) return;
+        assert.fail(`no item has a submenu in ${address}`);
+      });
+      await visitor.page.keyboard.press(' ');
+      await shows(menus + 1);
+    }
     assert.deepEqual(visitor.faults, [], address);
   }
 
-  for (const folder of namesIn(samples, '')) {
-    test(`each page of ${folder} shows its menus, which open, without a fault`, async () => {
+  for (const folder of namesIn(samples)) {
+    test(`each page of ${folder} shows its menus, and they open`, async () => {
       const site = join(samples, folder);
       const isFrameset = read(site, 'index.html').includes('<frameset');
       for (const page of isFrameset ? ['index.html'] : namesIn(site, '.html')) {
-        await visit(`${server.address}/${folder}/${page}`, namesIn(site, '.nbr').length, (shown) => shown.frames(), opensSubmenu);
+        await visit(`${server.address}/${folder}/${page}`, namesIn(site, '.nbr').length);
       }
     });
   }
 
-  test('each style of the gallery has a preview without a fault', async () => {
+  test('a sample with an open submenu is accessible', async () => {
+    await visit(`${server.address}/thistlewick/index.html`, 1);
+    await visitor.run(axe);
+    const violations = () => axe.run().then((result) => result.violations.map(({ id, nodes }) => [id, nodes[0].failureSummary]));
+    assert.deepEqual(await visitor.run(violations), []);
+  });
+
+  test('each style of the gallery has a preview', async () => {
     const home = mkdtempSync(join(tmpdir(), 'nimbrel-styles-'));
     try {
       for (const part of ['libraries', 'gallery', 'dot.gif', 'stylepreview-back.jpg']) {
@@ -124,19 +124,20 @@ inEachBrowser((name, open) => {
         const macro = join(home, 'show.macro');
         writeFileSync(macro, `form frmGallery "cboStyle=${basename(style, '.nbs')}" btnCancel!\nrun mnuStyleOpenStyleLibrary\n`);
         nbrc('--home', home, 'play', macro);
-        await visit(addressOf(home, 'gallery', 'stylepreview.html'), 1, (shown) => [shown.mainFrame()], opensSubmenu);
+        await visit(fileUrl(home, 'gallery', 'stylepreview.html'), 1);
       }
     } finally {
       rmSync(home, { recursive: true });
     }
   });
 
-  for (const [kind, group] of Object.entries(table)) {
-    test(`each live example of the ${kind} sheet shows a menu for each setting, without a fault`, async () => {
-      for (const { file, settings } of group.examples) {
-        const address = addressOf(examples, file, `${file}.html`);
-        await visit(address, Object.keys(settings).length, (shown) => shown.mainFrame().childFrames());
-      }
-    });
-  }
-});
+  test('each live example shows a menu for each setting', async () => {
+    for (const { file, settings } of liveExamples) {
+      await visit(fileUrl(examples, file, `${file}.html`), Object.keys(settings).length, false);
+    }
+  });
+}
+
+// The suites of tests/browser run in both browsers. These pages add nothing that depends on the browser, so that one is
+// enough for them except in the whole matrix.
+for (const name of process.env.NIMBREL_MATRIX === 'all' ? ['Chromium', 'Firefox'] : ['Chromium']) runIn(name, [productPages]);

@@ -1,5 +1,5 @@
-// The browsers in which menus are tried, and what a visitor does in them.
-import { after, before, describe } from 'node:test';
+// The browsers that the tests run in, and a visitor who uses pages in them.
+import assert from 'node:assert/strict';
 import puppeteer from 'puppeteer-core';
 
 const browsers = {
@@ -17,20 +17,7 @@ const browsers = {
 
 export const launch = (name) => puppeteer.launch(browsers[name]);
 
-// Runs a set of tests in each browser, with how to open an address there. NIMBREL_BROWSER names one alone.
-export function inEachBrowser(tests) {
-  for (const name of Object.keys(browsers)) {
-    if (process.env.NIMBREL_BROWSER && process.env.NIMBREL_BROWSER !== name) continue;
-    describe(name, () => {
-      let browser;
-      before(async () => { browser = await launch(name); });
-      after(() => browser?.close());
-      tests(name, (address, options) => open(browser, address, options));
-    });
-  }
-}
-
-// What each page has for its tests: a list for commands to write to, and ways into the shadow trees of its menus.
+// Added to every page: a log that commands can write to, and access to the shadow trees of the menus.
 function helpers() {
   window.log = [];
   window.roots = () => [...document.querySelectorAll('[data-nbr-menu]')].map((host) => host.shadowRoot);
@@ -43,7 +30,7 @@ function helpers() {
   };
 }
 
-// Opens an address; gives a visitor, who holds the faults that the page met.
+// Opens a page. The visitor collects its errors: exceptions, console errors and failed requests.
 export async function open(browser, address, { width = 1000, height = 700, prepare } = {}) {
   const page = await browser.newPage();
   const faults = [];
@@ -53,46 +40,39 @@ export async function open(browser, address, { width = 1000, height = 700, prepa
   page.on('response', (response) => response.status() < 400 || faults.push(`${response.status()}: ${response.url()}`));
   await page.setViewport({ width, height });
   await page.evaluateOnNewDocument(helpers);
-  if (prepare) await prepare(page);
-  await page.goto(address, { waitUntil: 'load' });
+  await prepare?.(page);
+  await page.goto(address);
   return new Visitor(page, page.mainFrame(), faults);
 }
 
-export const wait = (milliseconds) => new Promise((done) => setTimeout(done, milliseconds));
-
-// Tries until it holds, or gives the last failure. For what a page does in its own time.
-export async function eventually(check, limit = 10000) {
-  const end = Date.now() + limit;
+// Repeats a check until it passes; after the time limit it throws the last failure.
+export async function eventually(check, milliseconds = 10000) {
+  const end = Date.now() + milliseconds;
   for (;;) {
     try {
       return await check();
     } catch (failure) {
       if (Date.now() > end) throw failure;
     }
-    await wait(20);
+    await new Promise((done) => setTimeout(done, 20));
   }
 }
 
-// A visitor of a page, or of one frame of it. Items are named by their text or accessible name, menus by their names.
+// Uses a page, or one frame of it. Items and titles are found by their text or accessible name.
 export class Visitor {
   constructor(page, frame, faults) {
-    Object.assign(this, { page, frame, faults, mouse: page.mouse });
+    Object.assign(this, { page, frame, faults });
   }
 
-  async inFrame(name) {
-    for (const frame of this.page.frames()) {
-      if (await frame.evaluate(() => window.name) === name) return new Visitor(this.page, frame, this.faults);
-    }
-    throw new Error(`no frame ${name}`);
+  inFrame(page) {
+    return new Visitor(this.page, this.page.frames().find((frame) => frame.url().endsWith(page)), this.faults);
   }
 
   close() { return this.page.close(); }
 
   run(script, ...values) { return this.frame.evaluate(script, ...values); }
 
-  press(key) { return this.page.keyboard.press(key); }
-
-  // What is shown: each panel with its box and items.
+  // The open panels, each with its menu's name, its box and its items.
   panels() {
     return this.run(() => all('.panel').map((panel) => ({
       menu: panel.getRootNode().host.dataset.nbrMenu, box: boxOf(panel),
@@ -100,10 +80,16 @@ export class Visitor {
     })));
   }
 
-  // The names of the open panels' items, a list a panel.
-  async shown() { return (await this.panels()).map((panel) => panel.items.map((item) => item.name)); }
+  // The open panels, each by the name of its first item: 'File/New/Recent'.
+  async opened() { return (await this.panels()).map(({ items: [first] }) => first.name).join('/'); }
 
-  // The box of an item or title, of a part in it or of the panel that holds it; null if it is not there.
+  shows(wanted, message) { return eventually(async () => assert.equal(await this.opened(), wanted, message)); }
+
+  focuses(wanted) { return eventually(async () => assert.equal(await this.focused(), wanted)); }
+
+  logs(...wanted) { return eventually(async () => assert.deepEqual(await this.run(() => log), wanted)); }
+
+  // The box of an item, of a part inside it, or of the panel or layer around it; null if there is none.
   box(name, selector = '') {
     return this.run((...part) => {
       const node = partOf(...part);
@@ -111,8 +97,8 @@ export class Visitor {
     }, name, selector);
   }
 
-  // The wanted styles and attributes of such a part.
-  told(name, selector, ...wanted) {
+  // Computed styles and attributes of the same.
+  look(name, selector, ...wanted) {
     return this.run((name, selector, wanted) => {
       const node = partOf(name, selector);
       const style = getComputedStyle(node);
@@ -120,25 +106,41 @@ export class Visitor {
     }, name, selector, wanted);
   }
 
-  // The middle of an item, as soon as nothing moves.
-  async centre(name) {
+  // A place is a point of the window, or the name of an item: its centre once no panel is unfolding any more.
+  async pointOf(place) {
+    if (Array.isArray(place)) return place;
     await this.run(async () => {
       for (const animation of roots().flatMap((root) => root.getAnimations())) await animation.finished.catch(() => {});
     });
-    const box = await this.box(name);
-    if (!box) throw new Error(`${name} is not shown`);
+    const box = await this.box(place);
+    assert.ok(box, `${place} is not shown`);
     const element = this.frame.parentFrame() && await this.frame.frameElement();
     const { x, y } = element ? await element.boundingBox() : { x: 0, y: 0 };
     return [(box.left + box.right) / 2 + x, (box.top + box.bottom) / 2 + y];
   }
 
-  async hover(name, options) { await this.mouse.move(...await this.centre(name), options); }
+  async hover(place) { await this.page.mouse.move(...await this.pointOf(place)); }
 
-  async click(name, options) { await this.mouse.click(...await this.centre(name), options); }
+  async click(place) { await this.page.mouse.click(...await this.pointOf(place)); }
 
-  async tap(name) { await this.page.touchscreen.tap(...await this.centre(name)); }
+  async tap(place) { await this.page.touchscreen.tap(...await this.pointOf(place)); }
 
-  // The name of the item that has the focus, or null.
+  async press(keys) {
+    for (const key of keys.split(' ')) {
+      await this.page.keyboard.press(key.replace(/^(Right|Left|Up|Down)$/, 'Arrow$1').replace('Space', ' '));
+    }
+  }
+
+  // Steps are [method, argument, the panels that are then open, and in a page with a clock the milliseconds until then].
+  async follow(...steps) {
+    for (const [method, argument, wanted, time] of steps) {
+      await this[method](argument);
+      if (time !== undefined) await this.run((time) => new Promise(requestAnimationFrame).then(() => pass(time)), time);
+      await this.shows(wanted, `${method} ${argument}, ${time} ms`);
+    }
+  }
+
+  // The name of the focused item or control, or null.
   focused() {
     return this.run(() => {
       let node = document.activeElement;

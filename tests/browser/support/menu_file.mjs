@@ -1,7 +1,7 @@
 // Writes menu files from short descriptions:
 //   { menu: { MenuType: 1 }, items: [{ ItemName: 'A', submenu: { SubmenuType: 1, items: [...] } }], settings: {...} }
-// Names of properties, their order and what they are at first come from first.nbr, as nbrc shows it. A name without the
-// digit of a state stands for all three states. Items lead nowhere unless they are told to.
+// The names, order and defaults of the properties come from first.nbr, as nbrc prints it. A name without the digit of a
+// state sets all three states.
 import { execFileSync } from 'node:child_process';
 import { writeFileSync } from 'node:fs';
 import { join } from 'node:path';
@@ -24,7 +24,7 @@ function propertyLine(kind, { items, submenu, ...given }) {
   return `${values.join()},[nbrE${kind}]`;
 }
 
-// One character becomes one byte.
+// The file is written in a single-byte encoding.
 export function writeMenuFile(path, { menu = {}, items = [], settings }) {
   const header = Object.values({ ...firstSettings, ...settings })
     .map((value) => ({ true: 'True', false: 'False' })[value] ?? value);

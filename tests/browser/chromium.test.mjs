@@ -1,0 +1,3 @@
+import { runAllIn } from './suites.mjs';
+
+runAllIn('Chromium');
