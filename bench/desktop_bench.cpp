@@ -11,7 +11,7 @@
 #include <numeric>
 
 #include "desktop/desktop_run.h"
-#include "desktop/shown_text.h"
+#include "desktop/display_text.h"
 #include "persistence/menu_file.h"
 #include "support/generated_document.h"
 
@@ -76,7 +76,8 @@ void compareStarts(const DesktopRun& run) {
 
 void workOnALargeMenu(DesktopRun& run) {
   constexpr int most = 32'767;
-  SaveMenuFile(*std::make_unique<HostFileSystem>(), heldPath(run.path("large.nbr")), largeDocument(most));
+  SaveMenuFile(*std::make_unique<HostFileSystem>(), fromDisplayPath(run.path("large.nbr")),
+               largeDocument(most));
   run.start(run.path("large.nbr"));
   auto& view = run.view();
   view.resize(1000, 700);
@@ -124,7 +125,7 @@ void previewAnEdit() {
     QTest::qWait(1500);  // the files of the last one are gone
     const auto name = QString("Name%1").arg(i);
     run.main().prctlItem.EnterCell(0, column::Normal);
-    run.main().prctlItem.type(held(name));
+    run.main().prctlItem.type(fromDisplay(name));
     times.push_back(milliseconds([&] {
       QTest::keyClick(&run.view(), Qt::Key_F12);
       waitFor([&] { return shows(name); });

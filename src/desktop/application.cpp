@@ -3,8 +3,8 @@
 #include <QDebug>
 #include <exception>
 
+#include "desktop/display_text.h"
 #include "desktop/icons.h"
-#include "desktop/shown_text.h"
 #include "platform/file_error.h"
 
 namespace nimbrel {
@@ -29,7 +29,7 @@ bool Application::notify(QObject* receiver, QEvent* event) {
 QString Application::textOf(const std::exception& error) {
   const auto* file = dynamic_cast<const FileError*>(&error);
   return file == nullptr ? QString::fromUtf8(error.what())
-                         : shownPath(file->finding().path) + ": " + shown(file->finding().text());
+                         : toDisplayPath(file->finding().path) + ": " + toDisplay(file->finding().text());
 }
 
 void Application::tell(const std::exception& error) const {

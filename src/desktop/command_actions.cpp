@@ -6,8 +6,8 @@
 #include <QToolBar>
 #include <algorithm>
 
+#include "desktop/display_text.h"
 #include "desktop/icons.h"
-#include "desktop/shown_text.h"
 #include "shell/command_table.h"
 
 namespace nimbrel {
@@ -18,7 +18,7 @@ constexpr const char* topicProperty = "helpTopic";
 /// The drawing of a button: its key in small letters, with hyphens.
 QString iconName(std::string_view key) {
   if (key == "Insert Menu into Webpage") return "link-menu";
-  return shown(key).toLower().replace(' ', '-');
+  return toDisplay(key).toLower().replace(' ', '-');
 }
 
 /// A number and a path that may lack its front. A path marks no key.
@@ -27,7 +27,7 @@ QString recentFile(std::string_view caption) {
   constexpr std::string_view cut = "...";
   auto begin = std::min(number.size(), caption.size());
   if (caption.substr(begin).starts_with(cut)) begin += cut.size();
-  return shown(caption.substr(0, begin)) + shownPath(caption.substr(begin)).replace('&', "&&");
+  return toDisplay(caption.substr(0, begin)) + toDisplayPath(caption.substr(begin)).replace('&', "&&");
 }
 
 }  // namespace
@@ -40,10 +40,11 @@ CommandActions::CommandActions(QMainWindow& window) : QObject(&window), window_(
 }
 
 QAction* CommandActions::makeAction(std::string_view name, std::string_view caption) {
-  auto* action = new QAction(shown(caption), this);
+  auto* action = new QAction(toDisplay(caption), this);
   action->setMenuRole(QAction::NoRole);
   entries_.emplace(name, action);
-  connect(action, &QAction::triggered, this, [this, wanted = shown(name)] { emit commandWanted(wanted); });
+  connect(action, &QAction::triggered, this,
+          [this, wanted = toDisplay(name)] { emit commandWanted(wanted); });
   return action;
 }
 
@@ -52,7 +53,7 @@ void CommandActions::makeMenuBar() {
   QMenu* deepest = nullptr;  // where entries go
   for (const auto& entry : menuBar()) {
     if (entry.level == 0) {
-      deepest = menu = window_.menuBar()->addMenu(shown(entry.caption));
+      deepest = menu = window_.menuBar()->addMenu(toDisplay(entry.caption));
       menu->menuAction()->setProperty(topicProperty, entry.helpTopic);
       menu->installEventFilter(this);
       menu->setToolTipsVisible(false);
@@ -66,12 +67,12 @@ void CommandActions::makeMenuBar() {
     const auto* next = &entry + 1;
     const bool hasEntries = next != menuBar().data() + menuBar().size() && next->level > entry.level;
     if (hasEntries) {
-      deepest = menu->addMenu(shown(entry.caption));
+      deepest = menu->addMenu(toDisplay(entry.caption));
       entries_.emplace(entry.name, deepest->menuAction());
       continue;
     }
     auto* action = makeAction(entry.name, entry.caption);
-    action->setShortcut(QKeySequence(shown(entry.shortcut)));
+    action->setShortcut(QKeySequence(toDisplay(entry.shortcut)));
     // The preview is asked for again from its own window too.
     if (entry.name == "mnuToolsPreview") action->setShortcutContext(Qt::ApplicationShortcut);
     action->setCheckable((entry.state & Checked) != 0);
@@ -106,10 +107,10 @@ void CommandActions::makeToolbar() {
       bar->addSeparator();
       continue;
     }
-    auto* action = new QAction(shown(described.toolTip), this);
+    auto* action = new QAction(toDisplay(described.toolTip), this);
     buttons_.emplace(described.key, action);
     connect(action, &QAction::triggered, this,
-            [this, key = shown(described.key)] { emit commandWanted(key); });
+            [this, key = toDisplay(described.key)] { emit commandWanted(key); });
     bar->addAction(action);
   }
 }
@@ -128,7 +129,7 @@ void CommandActions::refresh(const CommandStates& states) {
     const auto* state = states.find(name);
     if (state == nullptr) continue;
     const bool isFile = name.starts_with("mnuFileMRU");
-    const auto caption = isFile ? recentFile(state->caption) : shown(state->caption);
+    const auto caption = isFile ? recentFile(state->caption) : toDisplay(state->caption);
     if (!action->isSeparator() && action->text() != caption) action->setText(caption);
     action->setEnabled(state->enabled);
     action->setVisible(state->visible);

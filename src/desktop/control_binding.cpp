@@ -15,8 +15,8 @@
 #include <stdexcept>
 
 #include "desktop/browser_view.h"
+#include "desktop/display_text.h"
 #include "desktop/folder_view.h"
-#include "desktop/shown_text.h"
 
 namespace nimbrel {
 namespace {
@@ -40,15 +40,15 @@ class Binding : public ControlBinding {
  protected:
   virtual void showContent() = 0;
 
-  QString text(std::string_view heldText) const {
-    return widget_.property("paths").toBool() ? shownPath(heldText) : shown(heldText);
+  QString text(std::string_view libraryText) const {
+    return widget_.property("paths").toBool() ? toDisplayPath(libraryText) : toDisplay(libraryText);
   }
-  std::string typed(const QString& shownText) const {
-    return widget_.property("paths").toBool() ? heldPath(shownText) : held(shownText);
+  std::string typed(const QString& displayText) const {
+    return widget_.property("paths").toBool() ? fromDisplayPath(displayText) : fromDisplay(displayText);
   }
   /// Texts of forms end their lines as files do.
-  QString lines(std::string_view heldText) const {
-    return text(heldText).replace("\r\n", "\n").replace('\r', '\n');
+  QString lines(std::string_view libraryText) const {
+    return text(libraryText).replace("\r\n", "\n").replace('\r', '\n');
   }
 
   Form& form_;
@@ -219,13 +219,13 @@ class FolderBinding : public Binding<FolderView> {
   FolderBinding(Form& form, Control& control, FolderView& view, Act act)
       : Binding(form, control, view, std::move(act)) {
     QObject::connect(&view, &FolderView::folderChosen, &view, [this](const QString& folder) {
-      act_([this, folder] { form_.enter(control_, heldPath(folder)); });
+      act_([this, folder] { form_.enter(control_, fromDisplayPath(folder)); });
     });
   }
 
  private:
   void showContent() override {
-    if (heldPath(widget_.folder()) != control_.text) widget_.setFolder(shownPath(control_.text));
+    if (fromDisplayPath(widget_.folder()) != control_.text) widget_.setFolder(toDisplayPath(control_.text));
   }
 };
 
@@ -233,7 +233,7 @@ class TabsBinding : public Binding<QTabBar> {
  public:
   TabsBinding(Form& form, Control& control, QTabBar& tabs, Act act)
       : Binding(form, control, tabs, std::move(act)) {
-    for (const auto& caption : control.list) tabs.addTab(shown(caption));
+    for (const auto& caption : control.list) tabs.addTab(toDisplay(caption));
     QObject::connect(&tabs, &QTabBar::currentChanged, &tabs, [this](int index) {
       act_([this, index] { form_.choose(control_, {static_cast<std::size_t>(index)}); });
     });
@@ -268,7 +268,7 @@ class BrowserBinding : public Binding<BrowserView> {
       if (control_.reload) {
         act_(control_.reload);
       } else {
-        widget_.navigate(shownPath(control_.text));
+        widget_.navigate(toDisplayPath(control_.text));
       }
     });
   }
@@ -277,7 +277,7 @@ class BrowserBinding : public Binding<BrowserView> {
   void showContent() override {
     if (visits_ == control_.visits) return;
     visits_ = control_.visits;
-    widget_.navigate(shownPath(control_.text));
+    widget_.navigate(toDisplayPath(control_.text));
   }
 
   std::size_t visits_ = 0;

@@ -8,7 +8,7 @@
 
 #include "desktop/application.h"
 #include "desktop/browser_view.h"
-#include "desktop/shown_text.h"
+#include "desktop/display_text.h"
 #include "platform/posix/host_paths.h"
 #include "text/product.h"
 
@@ -20,7 +20,7 @@ QString userFolder(QStandardPaths::StandardLocation kind) { return QStandardPath
 std::vector<std::string> installedFonts() {
   std::vector<std::string> fonts;
   for (const auto& family : QFontDatabase::families()) {
-    if (!QFontDatabase::isPrivateFamily(family)) fonts.push_back(held(family));
+    if (!QFontDatabase::isPrivateFamily(family)) fonts.push_back(fromDisplay(family));
   }
   return fonts;
 }
@@ -42,10 +42,10 @@ DesktopProgram::DesktopProgram(Application& application, const std::string& prog
   asker_.onWaiting([this](bool isWaiting) { view_.setWaiting(isWaiting); });
   help_.onMissing([this](const QString& file) {
     asker_.MsgBox(
-        {.title = std::string(productTitle), .text = held("The help file cannot be opened: " + file)});
+        {.title = std::string(productTitle), .text = fromDisplay("The help file cannot be opened: " + file)});
   });
   application.report = [this](const QString& text) {
-    asker_.MsgBox({.title = std::string(productTitle), .text = held(text), .icon = BoxIcon::Critical});
+    asker_.MsgBox({.title = std::string(productTitle), .text = fromDisplay(text), .icon = BoxIcon::Critical});
   };
   QObject::connect(&application, &QGuiApplication::commitDataRequest, &view_,
                    [this](QSessionManager& session) {

@@ -7,7 +7,7 @@
 #include <QStandardPaths>
 #include <array>
 
-#include "desktop/shown_text.h"
+#include "desktop/display_text.h"
 
 namespace nimbrel {
 namespace {
@@ -69,7 +69,7 @@ QString FileTypes::mimeTypes() const {
     text += QString(
                 "  <mime-type type=\"%1\">\n    <comment>%2</comment>\n    <icon name=\"%3\"/>\n"
                 "    <glob pattern=\"*%4\"/>\n  </mime-type>\n")
-                .arg(type.mimeType, shown(value(value(type.extension))).toHtmlEscaped(), type.icon,
+                .arg(type.mimeType, toDisplay(value(value(type.extension))).toHtmlEscaped(), type.icon,
                      type.extension);
   }
   return text + "</mime-info>\n";

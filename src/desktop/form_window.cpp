@@ -12,8 +12,8 @@
 #include <stdexcept>
 
 #include "desktop/browser_view.h"
+#include "desktop/display_text.h"
 #include "desktop/folder_view.h"
-#include "desktop/shown_text.h"
 
 namespace nimbrel {
 namespace {
@@ -80,7 +80,7 @@ void FormWindow::act(const std::function<void()>& deed) {
 }
 
 void FormWindow::refresh() {
-  if (windowTitle() != shown(form_.caption)) setWindowTitle(shown(form_.caption));
+  if (windowTitle() != toDisplay(form_.caption)) setWindowTitle(toDisplay(form_.caption));
   for (const auto& binding : bindings_) binding->show();
   growToText();
   focus();

@@ -8,8 +8,8 @@
 
 #include "desktop/application.h"
 #include "desktop/desktop_program.h"
+#include "desktop/display_text.h"
 #include "desktop/form_window.h"
-#include "desktop/shown_text.h"
 #include "platform/posix/host_paths.h"
 #include "platform/posix/program_folder.h"
 #include "shell/small_forms.h"
@@ -23,7 +23,7 @@ void allowAdministrator() {
 
 /// The whole rest of the command line is one name, whatever blanks are in it.
 std::string commandLine(const QStringList& arguments) {
-  return nimbrel::heldPath(arguments.mid(1).join(' '));
+  return nimbrel::fromDisplayPath(arguments.mid(1).join(' '));
 }
 
 /// Stands while the rest loads.

@@ -10,10 +10,10 @@
 #include <array>
 #include <utility>
 
+#include "desktop/display_text.h"
 #include "desktop/icons.h"
 #include "desktop/main_area.h"
 #include "desktop/sheet/entry_edit.h"
-#include "desktop/shown_text.h"
 #include "desktop/twips.h"
 
 namespace nimbrel {
@@ -146,7 +146,7 @@ void MainView::run(const QString& command) {
     refresh();
   };
   try {
-    main_.run(held(command));
+    main_.run(fromDisplay(command));
   } catch (...) {
     show();
     throw;
@@ -174,7 +174,7 @@ void MainView::refresh() {
   isClosed_ = false;  // whatever was answered, the author goes on
   const std::array paths{main_.state.FilePath + '\\' + main_.state.FileTitle};
   // What Qt takes for the place of its own mark is doubled.
-  const auto title = shownWithPaths(main_.title, paths).replace("[*]", "[*][*]");
+  const auto title = toDisplayWithPaths(main_.title, paths).replace("[*]", "[*][*]");
   if (windowTitle() != title) setWindowTitle(title);
   commands_.refresh(main_.commands);
   tree_.showSelected(main_.selected);

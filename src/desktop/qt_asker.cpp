@@ -9,8 +9,8 @@
 #include <QRegularExpression>
 #include <algorithm>
 
+#include "desktop/display_text.h"
 #include "desktop/form_window.h"
-#include "desktop/shown_text.h"
 
 namespace nimbrel {
 namespace {
@@ -47,7 +47,7 @@ BoxButton escapeOf(const MessageBox& box) {
 }  // namespace
 
 QString fileFilter(std::string_view filter) {
-  const auto parts = shown(filter).split('|');
+  const auto parts = toDisplay(filter).split('|');
   auto patterns = parts.value(1);
   auto description = parts.value(0);
   description.remove(QRegularExpression(R"(\s*\([^)]*\)\s*$)"));
@@ -86,8 +86,8 @@ BoxButton QtAsker::MsgBox(const MessageBox& box) {
   const Wait wait(*this);
   hideClosed();
   while (true) {
-    QMessageBox window(iconOf(box.icon), shown(box.title),
-                       shownWithPaths(box.text, box.paths).replace("\r\n", "\n").replace('\r', '\n'),
+    QMessageBox window(iconOf(box.icon), toDisplay(box.title),
+                       toDisplayWithPaths(box.text, box.paths).replace("\r\n", "\n").replace('\r', '\n'),
                        QMessageBox::NoButton, owner());
     window.setTextFormat(Qt::PlainText);
     for (const auto button : box.buttons) window.addButton(buttonOf(button));
@@ -106,18 +106,19 @@ BoxButton QtAsker::MsgBox(const MessageBox& box) {
 std::optional<std::string> QtAsker::chooseFile(const FileDialog& dialog) {
   const Wait wait(*this);
   hideClosed();
-  QFileDialog window(owner(), shown(dialog.title), shownPath(dialog.folder), fileFilter(dialog.filter));
-  if (!dialog.name.empty()) window.selectFile(shownPath(dialog.name));
+  QFileDialog window(owner(), toDisplay(dialog.title), toDisplayPath(dialog.folder),
+                     fileFilter(dialog.filter));
+  if (!dialog.name.empty()) window.selectFile(toDisplayPath(dialog.name));
   if (dialog.kind == FileDialog::Save) {
     window.setAcceptMode(QFileDialog::AcceptSave);
     window.setOption(QFileDialog::DontConfirmOverwrite);  // the form asks, in its own words
-    const auto pattern = shown(dialog.filter).section('|', 1);
+    const auto pattern = toDisplay(dialog.filter).section('|', 1);
     window.setDefaultSuffix(QFileInfo(pattern).suffix());
   } else {
     window.setFileMode(QFileDialog::AnyFile);  // likewise where there is none of that name
   }
   if (window.exec() != QDialog::Accepted || window.selectedFiles().isEmpty()) return std::nullopt;
-  return heldPath(window.selectedFiles().constFirst());
+  return fromDisplayPath(window.selectedFiles().constFirst());
 }
 
 std::optional<std::uint32_t> QtAsker::chooseColour(std::uint32_t start) {
@@ -147,7 +148,7 @@ void QtAsker::ShowModal(Form& form) {
 }
 
 void QtAsker::noteFailure(const Finding& finding) {
-  qCInfo(quietSteps).noquote() << shownPath(finding.path) << shown(finding.text());
+  qCInfo(quietSteps).noquote() << toDisplayPath(finding.path) << toDisplay(finding.text());
 }
 
 }  // namespace nimbrel

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "desktop/shown_text.h"
+#include "desktop/display_text.h"
 
 namespace nimbrel {
 
@@ -209,7 +209,7 @@ QVariant TreeModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid()) return {};
   const auto& mirror = *mirrorOf(index);
   switch (role) {
-    case Qt::DisplayRole: return shown(mirror.text);
+    case Qt::DisplayRole: return toDisplay(mirror.text);
     case Qt::DecorationRole: {
       const auto kind = kindOf(mirror.key);
       return kind == Kind::Menu ? menu_ : kind == Kind::Submenu ? submenu_ : item_;

@@ -17,7 +17,7 @@
 #include <unistd.h>
 
 #include "desktop/browser_view.h"
-#include "desktop/shown_text.h"
+#include "desktop/display_text.h"
 
 namespace nimbrel {
 namespace {
@@ -78,7 +78,7 @@ DesktopRun::~DesktopRun() {
 }
 
 void DesktopRun::start(const QString& commandLine) {
-  program_->start(heldPath(commandLine));
+  program_->start(fromDisplayPath(commandLine));
   QTest::qWait(1);
 }
 

@@ -15,7 +15,7 @@
 #include <gmock/gmock.h>
 
 #include "desktop/browser_view.h"
-#include "desktop/shown_text.h"
+#include "desktop/display_text.h"
 #include "desktop_run.h"
 
 namespace nimbrel {
@@ -52,7 +52,7 @@ class Desktop : public testing::Test {
     QTest::mouseClick(button, Qt::LeftButton);
   }
   Node* selected() { return run.main().selected; }
-  QString titleOf(Node* node) { return node == nullptr ? "" : shown(node->Text); }
+  QString titleOf(Node* node) { return node == nullptr ? "" : toDisplay(node->Text); }
 
   DesktopRun run;
 };
@@ -129,7 +129,7 @@ TEST_F(Desktop, EveryDialogOpensAndClosesEachWay) {
   EXPECT_EQ(namelessControls(run.view()), "");
   EXPECT_EQ(namelessControls(run.view().preview()), "");
   EXPECT_EQ(run.view().windowTitle(), "Nimbrel ver 2.0 - " + sample);
-  run.program().main().document.settings.CompiledPath = heldPath(run.path(""));
+  run.program().main().document.settings.CompiledPath = fromDisplayPath(run.path(""));
   const struct {
     const char* command;
     const char* form;
@@ -316,7 +316,7 @@ TEST_F(Desktop, ACrashOfTheBrowserLeavesTheProgramAndAReload) {
 TEST_F(Desktop, AnErrorThatNothingCatchesIsToldAndTheProgramGoesOn) {
   run.write("program/broken.nbr", "nbr200\r\n \"x\"");
   run.start();
-  run.main().UpdateMRUList(heldPath(run.programFolder()), "broken.nbr");
+  run.main().UpdateMRUList(fromDisplayPath(run.programFolder()), "broken.nbr");
   run.view().refresh();
   QString told;
   run.then([&](QWidget& window) {
@@ -446,7 +446,7 @@ TEST(TreeModelTest, FollowsEachChangeAndKeepsWhatIsOpen) {
   EXPECT_EQ(model.rowCount(), 0);
 }
 
-TEST(ShownText, FiltersAreWrittenAsQtReadsThem) {
+TEST(DisplayText, FiltersAreWrittenAsQtReadsThem) {
   EXPECT_EQ(fileFilter("Nimbrel Files (*.nbr)|*.nbr"), "Nimbrel Files (*.nbr)");
   EXPECT_EQ(fileFilter("Image files (*.gif;*.jpg)|*.gif;*.jpg"), "Image files (*.gif *.jpg)");
 }

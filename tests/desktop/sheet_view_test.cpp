@@ -4,7 +4,7 @@
 #include <gmock/gmock.h>
 #include <stdexcept>
 
-#include "desktop/shown_text.h"
+#include "desktop/display_text.h"
 #include "sheet_on_screen.h"
 
 namespace nimbrel {
@@ -157,11 +157,11 @@ TEST_F(ItemOnScreen, FilesAreShownAndTypedAsTheSystemHasThem) {
   click(image, Normal);
   clickButton("btnFile");
   EXPECT_EQ(author.dialogs.size(), 1U);
-  EXPECT_EQ(entry().text(), shownPath("\\site\\a.gif"));
+  EXPECT_EQ(entry().text(), toDisplayPath("\\site\\a.gif"));
   press(Qt::Key_Tab);
   EXPECT_EQ(textOf(image, Normal), "\\site\\a.gif");
-  EXPECT_EQ(grid().model()->index(image, Normal).data().toString(), shownPath("\\site\\a.gif"));
-  QTest::keyClicks(&entry(), shownPath("\\site\\b.gif"));
+  EXPECT_EQ(grid().model()->index(image, Normal).data().toString(), toDisplayPath("\\site\\a.gif"));
+  QTest::keyClicks(&entry(), toDisplayPath("\\site\\b.gif"));
   press(Qt::Key_Tab);
   EXPECT_EQ(textOf(image, MouseOver), "\\site\\b.gif");
 }

@@ -1,6 +1,6 @@
 #include "desktop/sheet/cell_editors.h"
 
-#include "desktop/shown_text.h"
+#include "desktop/display_text.h"
 
 namespace nimbrel {
 
@@ -23,7 +23,7 @@ CellEditors::CellEditors(PropertySheet& sheet, QWidget& cells, IconSource icons,
 
 void CellEditors::addButton(Control& control, const char* icon, const QString& toolTip, const QString& name) {
   auto* button = new QToolButton(&cells_);
-  button->setObjectName(shown(control.name));
+  button->setObjectName(toDisplay(control.name));
   button->setToolTip(toolTip);
   button->setAccessibleName(name);
   button->setFocusPolicy(Qt::NoFocus);  // what is typed goes on to the entry
@@ -39,7 +39,7 @@ void CellEditors::addButton(Control& control, const char* icon, const QString& t
 
 void CellEditors::connectAll() {
   QObject::connect(&entry_, &QLineEdit::textEdited, &entry_, [this](const QString& text) {
-    act_([&] { sheet_.type(isPath() ? heldPath(text) : held(text)); });
+    act_([&] { sheet_.type(isPath() ? fromDisplayPath(text) : fromDisplay(text)); });
   });
   QObject::connect(&entry_, &EntryEdit::clicked, &entry_, [this] {
     if (sheet_.btnCombo.visible) act_([this] { sheet_.txtEntry_Click(); });
@@ -93,7 +93,7 @@ void CellEditors::place(const QRect& entry, const QRect& button, const QRect& re
 void CellEditors::refresh(const QString& name, const QRect& listPlace) {
   if (sheet_.txtEntry.visible) {
     if (entry_.accessibleName() != name) entry_.setAccessibleName(name);
-    entry_.setAccessibleDescription(shown(sheet_.HelpLabel2.text));
+    entry_.setAccessibleDescription(toDisplay(sheet_.HelpLabel2.text));
     if (entry_.isReadOnly() != sheet_.entryIsReadOnly()) entry_.setReadOnly(sheet_.entryIsReadOnly());
     showText();
   }
@@ -107,12 +107,12 @@ void CellEditors::refresh(const QString& name, const QRect& listPlace) {
 /// What is being typed stays as it is where it says the same.
 void CellEditors::showText() {
   const auto typed = entry_.text();
-  if ((isPath() ? heldPath(typed) : held(typed)) == sheet_.txtEntry.text) return;
+  if ((isPath() ? fromDisplayPath(typed) : fromDisplay(typed)) == sheet_.txtEntry.text) return;
   entry_.setText(textOfCell());
 }
 
 QString CellEditors::textOfCell() const {
-  return isPath() ? shownPath(sheet_.txtEntry.text) : shown(sheet_.txtEntry.text);
+  return isPath() ? toDisplayPath(sheet_.txtEntry.text) : toDisplay(sheet_.txtEntry.text);
 }
 
 void CellEditors::begin() { entry_.setText(textOfCell()); }
@@ -123,7 +123,7 @@ void CellEditors::showList(const QRect& listPlace) {
     list_.hide();
   } else if (!list_.isVisible()) {
     list_.fill(open->list);
-    list_.mark(shown(sheet_.txtEntry.text));
+    list_.mark(toDisplay(sheet_.txtEntry.text));
     list_.setName(entry_.accessibleName());
     const QRect opener(entry_.mapToGlobal(QPoint()),
                        buttons_.front().widget->mapToGlobal(buttons_.front().widget->rect().bottomRight()));
@@ -144,7 +144,7 @@ void CellEditors::search(const QString& typed) {
   const auto& list =
       sheet_.row(sheet_.cursorRow()).Kind() == KindSortedList ? sheet_.lstSortedList : sheet_.lstList;
   list_.fill(list.list);
-  list_.mark(shown(sheet_.txtEntry.text));
+  list_.mark(toDisplay(sheet_.txtEntry.text));
   const int entry = list_.search(typed);
   if (entry >= 0) act_([&] { sheet_.type(list.list[static_cast<std::size_t>(entry)]); });
 }

@@ -6,7 +6,7 @@
 #include <QStylePainter>
 #include <algorithm>
 
-#include "desktop/shown_text.h"
+#include "desktop/display_text.h"
 #include "desktop/twips.h"
 
 namespace nimbrel {
@@ -109,19 +109,19 @@ HelpPanel::HelpPanel(PropertySheet& sheet, Act act, QWidget* parent)
 }
 
 void HelpPanel::prepareLink(LinkLabel& link, Control& control) {
-  link.setObjectName(shown(control.name));
+  link.setObjectName(toDisplay(control.name));
   connect(&link, &LinkLabel::followed, &link,
           [this, &control] { act_([this, &control] { sheet_.click(control); }); });
 }
 
 void HelpPanel::showLink(LinkLabel& link, const Control& control) {
-  link.setLink(shown(control.text));
+  link.setLink(toDisplay(control.text));
   link.setVisible(control.visible);
 }
 
 void HelpPanel::refresh() {
-  setTextOf(caption_, shown(sheet_.HelpLabel1.text));
-  const auto text = shown(sheet_.HelpLabel2.text);
+  setTextOf(caption_, toDisplay(sheet_.HelpLabel1.text));
+  const auto text = toDisplay(sheet_.HelpLabel2.text);
   setTextOf(text_, text);
   // The panel may cut it off.
   const auto toolTip = text.isEmpty() ? text : "<p>" + text.toHtmlEscaped() + "</p>";

@@ -6,7 +6,7 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
-#include "desktop/shown_text.h"
+#include "desktop/display_text.h"
 
 namespace nimbrel {
 namespace {
@@ -41,7 +41,7 @@ void ListPopup::fill(const std::vector<std::string>& texts) {
   constexpr int margin = 8;  // pixels at both sides
   const int height = list_.fontMetrics().height() + spacing;
   for (const auto& text : texts) {
-    auto* item = new QListWidgetItem(shown(text), &list_);
+    auto* item = new QListWidgetItem(toDisplay(text), &list_);
     widest_ = std::max(widest_, list_.fontMetrics().horizontalAdvance(item->text()) + margin);
     item->setSizeHint(QSize(1, height));
   }

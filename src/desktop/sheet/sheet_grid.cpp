@@ -4,7 +4,7 @@
 #include <QMouseEvent>
 #include <algorithm>
 
-#include "desktop/shown_text.h"
+#include "desktop/display_text.h"
 
 namespace nimbrel {
 namespace {
@@ -22,7 +22,7 @@ SheetGrid::SheetGrid(SheetModel& model, QWidget* parent)
   setHorizontalHeader(new StateHeader(model.sheet(), this));
   setModel(&model);
   setItemDelegate(&painter_);
-  setAccessibleName(shown(model.sheet().table().title));
+  setAccessibleName(toDisplay(model.sheet().table().title));
   horizontalHeader()->setVisible(model.sheet().table().hasStates);
   verticalHeader()->hide();
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);

@@ -3,12 +3,12 @@
 #include <QFont>
 #include <algorithm>
 
-#include "desktop/shown_text.h"
+#include "desktop/display_text.h"
 
 namespace nimbrel {
 namespace {
 
-QString stateName(int col) { return shown(stateNames[slotOf(col)]); }
+QString stateName(int col) { return toDisplay(stateNames[slotOf(col)]); }
 
 }  // namespace
 
@@ -57,22 +57,22 @@ int SheetModel::columnCount(const QModelIndex& parent) const {
   return (sheet_.table().hasStates ? column::MouseClick : column::Normal) + 1;
 }
 
-QString SheetModel::heldText(int row, std::string_view text) const {
-  return sheet_.row(row).Kind() == KindFile ? shownPath(text) : shown(text);
+QString SheetModel::displayText(int row, std::string_view text) const {
+  return sheet_.row(row).Kind() == KindFile ? toDisplayPath(text) : toDisplay(text);
 }
 
 QString SheetModel::text(int row, int col) const {
   if (col == column::Replicate || !sheet_.row(row).takes(col)) return {};
-  return heldText(row, sheet_.Shown(row, col));
+  return displayText(row, sheet_.Shown(row, col));
 }
 
 QString SheetModel::caption(int row) const {
   const auto& entry = sheet_.row(row);
-  return (entry.Kind() == KindGroup ? QString() : indent_) + shown(entry.Caption);
+  return (entry.Kind() == KindGroup ? QString() : indent_) + toDisplay(entry.Caption);
 }
 
 QString SheetModel::nameOf(int row, int col) const {
-  const auto name = shown(sheet_.row(row).Caption);
+  const auto name = toDisplay(sheet_.row(row).Caption);
   return sheet_.table().hasStates ? name + ", " + stateName(col) : name;
 }
 
@@ -83,7 +83,8 @@ QVariant SheetModel::data(const QModelIndex& index, int role) const {
   if (col == column::Caption) return role == Qt::DisplayRole ? caption(row) : caption(row).trimmed();
   if (role == Qt::DisplayRole) return isOpen(row, col) ? QString() : text(row, col);
   if (col == column::Replicate || !sheet_.row(row).takes(col)) return {};
-  return nameOf(row, col) + ": " + (isOpen(row, col) ? heldText(row, sheet_.txtEntry.text) : text(row, col));
+  return nameOf(row, col) + ": " +
+         (isOpen(row, col) ? displayText(row, sheet_.txtEntry.text) : text(row, col));
 }
 
 QVariant SheetModel::headerData(int section, Qt::Orientation orientation, int role) const {

@@ -5,7 +5,7 @@
 #include <QScrollBar>
 #include <algorithm>
 
-#include "desktop/shown_text.h"
+#include "desktop/display_text.h"
 #include "desktop/twips.h"
 
 namespace nimbrel {
@@ -19,10 +19,10 @@ SheetView::SheetView(PropertySheet& sheet, IconSource icons, QWidget* parent)
       help_(
           sheet, [this](const auto& deed) { act(deed); }, this),
       editors_(sheet, *grid_.viewport(), std::move(icons), [this](const auto& deed) { act(deed); }) {
-  setObjectName(shown(sheet.name));
-  title_.setObjectName(shown(sheet.lblTitle.name));
+  setObjectName(toDisplay(sheet.name));
+  title_.setObjectName(toDisplay(sheet.lblTitle.name));
   title_.setTextFormat(Qt::PlainText);
-  title_.setText(shown(sheet.lblTitle.text));
+  title_.setText(toDisplay(sheet.lblTitle.text));
   title_.setMargin(3);
   title_.setBuddy(&grid_);
   setFocusProxy(&grid_);
@@ -260,7 +260,7 @@ void SheetView::measure() {
       .textHeight = toTwips(fontMetrics().height()),
       .swatchWidth = toTwips(rowHeight - 1),  // the last pixel is the grid line
       .widestCaption = toTwips(widest),
-      .exampleLinkWidth = toTwips(fontMetrics().horizontalAdvance(shown(sheet_.lblExamplesLink.text)))};
+      .exampleLinkWidth = toTwips(fontMetrics().horizontalAdvance(toDisplay(sheet_.lblExamplesLink.text)))};
   editors_.setIconSize(toPixels(metrics_.buttonSide()));
 }
 

@@ -43,7 +43,7 @@ class SheetModel : public QAbstractTableModel {
 
   Sight sightOf(int row, int col) const;
   QString text(int row, int col) const;
-  QString heldText(int row, std::string_view text) const;
+  QString displayText(int row, std::string_view text) const;
   QString caption(int row) const;
 
   const PropertySheet& sheet_;
