@@ -48,10 +48,9 @@ int showAndEnd(QWidget& window) {
 }
 
 int startProgram(const QString& folder) {
-  auto& application = *static_cast<Application*>(qApp);
   QSettings::setPath(QSettings::IniFormat, QSettings::UserScope,
                      folder + "/../config");  // no tip, no preview
-  DesktopProgram program(application, folder.toStdString());
+  DesktopProgram program(folder.toStdString());
   program.start("");
   return showAndEnd(program.view());
 }

@@ -90,10 +90,10 @@ void BrowserView::showCrash() {
   if (crashed_ == nullptr) {
     crashed_ = new QWidget(this);
     auto* layout = new QVBoxLayout(crashed_);
-    auto* text = new QLabel(tr("The page could not be shown any longer: the browser has stopped."), crashed_);
+    auto* text = new QLabel("The page could not be shown any longer: the browser has stopped.", crashed_);
     text->setWordWrap(true);
     text->setAlignment(Qt::AlignCenter);
-    auto* reload = new QPushButton(tr("Reload"), crashed_);
+    auto* reload = new QPushButton("Reload", crashed_);
     connect(reload, &QPushButton::clicked, this, &BrowserView::reloadWanted);
     layout->addStretch();
     layout->addWidget(text);

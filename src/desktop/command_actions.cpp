@@ -96,7 +96,7 @@ void CommandActions::makeContextMenus() {
 }
 
 void CommandActions::makeToolbar() {
-  auto* bar = window_.addToolBar(tr("Toolbar"));
+  auto* bar = window_.addToolBar("Toolbar");
   bar->setObjectName("tbToolBar");
   bar->setMovable(false);
   bar->setContextMenuPolicy(Qt::PreventContextMenu);

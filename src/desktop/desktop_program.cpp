@@ -1,14 +1,14 @@
 #include "desktop/desktop_program.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QFontDatabase>
 #include <QRandomGenerator>
 #include <QSessionManager>
 #include <QStandardPaths>
 
-#include "desktop/application.h"
 #include "desktop/browser_view.h"
 #include "desktop/display_text.h"
+#include "desktop/run_action.h"
 #include "platform/posix/host_paths.h"
 #include "text/product.h"
 
@@ -27,7 +27,7 @@ std::vector<std::string> installedFonts() {
 
 }  // namespace
 
-DesktopProgram::DesktopProgram(Application& application, const std::string& programFolder)
+DesktopProgram::DesktopProgram(const std::string& programFolder)
     : help_(QString::fromStdString(programFolder) + "/nbrhelp.hlp",
             userFolder(QStandardPaths::CacheLocation)),
       fileTypes_(userFolder(QStandardPaths::GenericDataLocation), QCoreApplication::applicationFilePath()),
@@ -44,30 +44,22 @@ DesktopProgram::DesktopProgram(Application& application, const std::string& prog
     asker_.MsgBox(
         {.title = std::string(productTitle), .text = fromDisplay("The help file cannot be opened: " + file)});
   });
-  application.report = [this](const QString& text) {
+  setErrorReporter([this](const QString& text) {
     asker_.MsgBox({.title = std::string(productTitle), .text = fromDisplay(text), .icon = BoxIcon::Critical});
-  };
-  QObject::connect(&application, &QGuiApplication::commitDataRequest, &view_,
-                   [this](QSessionManager& session) {
-                     if (!session.allowsInteraction() && !session.allowsErrorInteraction()) return;
-                     if (!mayEnd()) session.cancel();
-                     session.release();
-                   });
+  });
+  QObject::connect(qApp, &QGuiApplication::commitDataRequest, &view_, [this](QSessionManager& session) {
+    if (!session.allowsInteraction() && !session.allowsErrorInteraction()) return;
+    if (!view_.mayClose()) session.cancel();
+    session.release();
+  });
   termination_.onAsked([this] { view_.close(); });
 }
 
-/// A save that fails keeps the session, and is told here: nothing may be thrown through the session's library.
-bool DesktopProgram::mayEnd() {
-  try {
-    return view_.mayClose();
-  } catch (const std::exception& error) {
-    static_cast<Application*>(qApp)->tell(error);
-    return false;
-  }
-}
+/// What fails from now on goes to the log: message boxes need the windows, which are about to be destroyed.
+DesktopProgram::~DesktopProgram() { setErrorReporter(nullptr); }
 
 void DesktopProgram::start(const std::string& commandLine) {
-  fileTypes_.publish();
+  runAction([this] { fileTypes_.publish(); });
   view_.start(commandLine);
 }
 

@@ -10,7 +10,7 @@ FolderView::FolderView(QWidget* parent) : QTreeView(parent), folders_(new QFileS
   setModel(folders_);
   setHeaderHidden(true);
   for (int column = 1; column < folders_->columnCount(); ++column) hideColumn(column);
-  setAccessibleName(tr("Folder"));
+  setAccessibleName("Folder");
   // Rows come in behind the scenes, and move what was scrolled to.
   connect(folders_, &QFileSystemModel::directoryLoaded, this, [this](const QString& path) {
     if (isComing_) scrollTo(currentIndex());

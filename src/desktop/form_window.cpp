@@ -54,37 +54,29 @@ FormWindow::FormWindow(Form& form, QWidget* parent) : QDialog(parent), form_(for
 }
 
 void FormWindow::bind() {
-  const auto carryOut = [this](const std::function<void()>& deed) { act(deed); };
+  const auto run = [this](const Action& action) { runAction(action); };
   for (auto* control : form_.controls()) {
     auto* widget = findChild<QWidget*>(named(control->name));
     if (control->kind == ControlKind::Timer) {
-      bindings_.push_back(bindTimer(*control, *this, carryOut));
+      bindings_.push_back(bindTimer(*control, *this, run));
     } else if (widget != nullptr) {
-      bindings_.push_back(bindControl(form_, *control, *widget, carryOut));
+      bindings_.push_back(bindControl(form_, *control, *widget, run));
     } else if (control->visible && control->kind != ControlKind::Label) {  // a label may hold state alone
       throw std::logic_error(std::string(form_.name) + ": nothing shows " + std::string(control->name));
     }
   }
 }
 
-/// What an event throws goes on to whoever reports it, with the window as the form says.
-void FormWindow::act(const std::function<void()>& deed) {
-  struct Refresh {
-    FormWindow& window;
-    ~Refresh() {
-      window.refresh();
-      emit window.acted();
-    }
-  } const whatever{*this};
-  deed();
+void FormWindow::runAction(const Action& action) {
+  nimbrel::runAction(action, {[this] { refresh(); }, [this] { emit actionFinished(); }});
 }
 
 void FormWindow::refresh() {
+  if (!form_.isOpen && isVisible()) hide();  // first: a modal window must not stay if the rest throws
   if (windowTitle() != toDisplay(form_.caption)) setWindowTitle(toDisplay(form_.caption));
   for (const auto& binding : bindings_) binding->show();
   growToText();
   focus();
-  if (!form_.isOpen && isVisible()) hide();
 }
 
 /// Texts may be longer, and the system's letters larger, than the layout was drawn for.
@@ -106,13 +98,13 @@ void FormWindow::focus() {
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {
-  act([this] { form_.QueryClose(); });
+  runAction([this] { form_.QueryClose(); });
   event->setAccepted(!form_.isOpen);
 }
 
 /// The Escape key: the cancel button where there is one, else the close box.
 void FormWindow::reject() {
-  act([this] {
+  runAction([this] {
     if (auto* cancel = form_.find(form_.cancelButton)) {
       form_.click(*cancel);
     } else {

@@ -13,6 +13,7 @@
 #include "desktop/display_text.h"
 #include "desktop/icons.h"
 #include "desktop/main_area.h"
+#include "desktop/run_action.h"
 #include "desktop/sheet/entry_edit.h"
 #include "desktop/twips.h"
 
@@ -24,26 +25,6 @@ bool bringsAnotherDocument(const QString& command) {
 }
 
 }  // namespace
-
-/// Shows what stands after a deed, also where it threw. The name of the node whose cells a deed leaves may have
-/// changed.
-class MainView::AfterDeed {
- public:
-  explicit AfterDeed(MainView& view) : view_(view) {
-    endComposing();
-    if (view.main_.CurrentNode != nullptr) left_ = view.main_.CurrentNode->Key;
-  }
-  AfterDeed(const AfterDeed&) = delete;
-  AfterDeed& operator=(const AfterDeed&) = delete;
-  ~AfterDeed() {
-    if (const auto* node = view_.main_.document.tvTreeView.find(left_)) view_.model_.syncText(*node);
-    view_.refresh();
-  }
-
- private:
-  MainView& view_;
-  std::string left_;
-};
 
 MainView::MainView(frmMain& main)
     : main_(main),
@@ -80,19 +61,35 @@ void MainView::connectAll() {
   connect(&tree_, &TreeView::deletePressed, this, &MainView::deleteNode);
   connect(&tree_, &TreeView::contextMenuWanted, this, &MainView::showContextMenu);
   connect(&commands_, &CommandActions::commandWanted, this, &MainView::run);
-  connect(&commands_, &CommandActions::helpWanted, this,
-          [this](int topic) { main_.ports.help.openTopic(topic); });
+  connect(&commands_, &CommandActions::helpWanted, this, &MainView::openHelp);
   for (auto* sheet : {&menuSheet_, &submenuSheet_, &itemSheet_}) {
-    connect(sheet, &SheetView::acted, this, [this] {
-      if (main_.CurrentNode != nullptr) model_.syncText(*main_.CurrentNode);
-      refresh();
+    connect(sheet, &SheetView::actionFinished, this, [this] {
+      nimbrel::runAction([this] {
+        if (main_.CurrentNode != nullptr) model_.syncText(*main_.CurrentNode);
+        refresh();
+      });
     });
-    connect(sheet, &SheetView::helpWanted, this, [this](int topic) { main_.ports.help.openTopic(topic); });
+    connect(sheet, &SheetView::helpWanted, this, &MainView::openHelp);
   }
   for (auto* window : {&preview_, &liveExamples_}) {
-    connect(window, &FormWindow::acted, this, &MainView::refresh);
+    connect(window, &FormWindow::actionFinished, this, [this] { nimbrel::runAction([this] { refresh(); }); });
     connect(window, &FormWindow::helpWanted, this, [this] { run("mnuHelpContents"); });
   }
+}
+
+/// For actions that leave the structure of the tree as it is. They may commit the open cell, and with it the name of
+/// the node that was current before.
+void MainView::runAction(const Action& action) {
+  endComposing();
+  const auto current = main_.CurrentNode == nullptr ? std::string() : main_.CurrentNode->Key;
+  const auto syncName = [&] {
+    if (const auto* node = main_.document.tvTreeView.find(current)) model_.syncText(*node);
+  };
+  nimbrel::runAction(action, {syncName, [this] { refresh(); }});
+}
+
+void MainView::openHelp(int topic) {
+  nimbrel::runAction([&] { main_.ports.help.openTopic(topic); });
 }
 
 /// Where the window stood last. A screen that is gone, or smaller by now, must hide nothing of it.
@@ -114,15 +111,14 @@ void MainView::start(const std::string& commandLine) {
   setGeometry(placeOnScreen());
   show();
   isStarted_ = isStarting_ = true;
-  {
-    const AfterDeed after(*this);
-    main_.Activate(commandLine);
-  }
-  isStarting_ = false;
-  model_.reset();
-  tree_.openUp();
-  refresh();
-  tree_.setFocus();
+  const auto showDocument = [this] {
+    isStarting_ = false;
+    model_.reset();
+    tree_.openUp();
+    refresh();
+    tree_.setFocus();
+  };
+  nimbrel::runAction([&] { main_.Activate(commandLine); }, {showDocument});
 }
 
 void MainView::run(const QString& command) {
@@ -132,42 +128,36 @@ void MainView::run(const QString& command) {
     close();
     return;
   }
-  const auto before =
-      std::pair(main_.state.FilePath + '\\' + main_.state.FileTitle, main_.document.tvTreeView.root());
-  const auto show = [&] {
-    const auto now =
-        std::pair(main_.state.FilePath + '\\' + main_.state.FileTitle, main_.document.tvTreeView.root());
-    if (bringsAnotherDocument(command) && before != now) {
+  const auto document = [this] {
+    return std::pair(main_.state.FilePath + '\\' + main_.state.FileTitle, main_.document.tvTreeView.root());
+  };
+  const auto before = document();
+  const auto showTree = [&] {
+    if (bringsAnotherDocument(command) && document() != before) {
       model_.reset();
       tree_.openUp();
     } else {
       syncTree();
     }
-    refresh();
   };
-  try {
-    main_.run(fromDisplay(command));
-  } catch (...) {
-    show();
-    throw;
-  }
-  show();
+  nimbrel::runAction([&] { main_.run(fromDisplay(command)); }, {showTree, [this] { refresh(); }});
 }
 
 void MainView::showNode(Node* node) {
-  const AfterDeed after(*this);
-  main_.tvTreeView_NodeClick(node);
+  runAction([&] { main_.tvTreeView_NodeClick(node); });
 }
 
 void MainView::deleteNode() {
   constexpr int deleteKey = 46;
-  const AfterDeed after(*this);
-  main_.tvTreeView_KeyUp(deleteKey);
-  syncTree();
+  endComposing();
+  nimbrel::runAction([this] { main_.tvTreeView_KeyUp(deleteKey); },
+                     {[this] { syncTree(); }, [this] { refresh(); }});
 }
 
 void MainView::showContextMenu(const QPoint& place) {
-  if (auto* menu = commands_.contextMenu(main_.contextMenu())) menu->popup(place);
+  nimbrel::runAction([&] {
+    if (auto* menu = commands_.contextMenu(main_.contextMenu())) menu->popup(place);
+  });
 }
 
 void MainView::refresh() {
@@ -235,9 +225,8 @@ void MainView::syncTree() {
 }
 
 void MainView::setWaiting(bool isWaiting) {
-  if (isWaiting && isStarting_) {  // behind the tip of the day
-    syncTree();
-    refresh();
+  if (isWaiting && isStarting_) {  // the tip of the day is about to cover this window
+    nimbrel::runAction([this] { syncTree(); }, {[this] { refresh(); }});
   }
   preview_.setEnabled(!isWaiting);
   liveExamples_.setEnabled(!isWaiting);
@@ -248,17 +237,13 @@ bool MainView::mayClose() {
   if (auto* popup = QApplication::activePopupWidget()) popup->close();  // it would take the first answer
   noteGeometry();
   bool mayClose = false;
-  {
-    const AfterDeed after(*this);
-    mayClose = main_.QueryClose();
-  }
+  runAction([&] { mayClose = main_.QueryClose(); });
   isClosed_ = mayClose;
   return mayClose;
 }
 
 void MainView::closeEvent(QCloseEvent* event) {
-  event->ignore();  // also if the save throws
-  if (mayClose()) event->accept();
+  event->setAccepted(mayClose());
   if (isClosed_) qApp->quit();
 }
 

@@ -7,10 +7,12 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QScopeGuard>
 #include <algorithm>
 
 #include "desktop/display_text.h"
 #include "desktop/form_window.h"
+#include "desktop/run_action.h"
 
 namespace nimbrel {
 namespace {
@@ -126,7 +128,7 @@ std::optional<std::uint32_t> QtAsker::chooseColour(std::uint32_t start) {
   constexpr unsigned byte = 8;
   const auto part = [start](unsigned number) { return static_cast<int>(start >> number * byte & 0xFFU); };
   const QColor first(part(0), part(1), part(2));
-  const auto colour = QColorDialog::getColor(first, owner(), QWidget::tr("Choose Color"));
+  const auto colour = QColorDialog::getColor(first, owner(), "Choose Color");
   if (!colour.isValid()) return std::nullopt;
   return static_cast<std::uint32_t>(colour.red()) | static_cast<std::uint32_t>(colour.green()) << byte |
          static_cast<std::uint32_t>(colour.blue()) << 2 * byte;
@@ -137,14 +139,17 @@ void QtAsker::ShowModal(Form& form) {
   hideClosed();
   FormWindow window(form, owner());
   QObject::connect(&window, &FormWindow::helpWanted, &window, [this] {
-    if (help_ != nullptr) help_->openContents();
+    if (help_ != nullptr) runAction([this] { help_->openContents(); });
   });
-  form.isOpen = true;
   window.setWindowModality(Qt::WindowModal);
-  window.refresh();
+  form.isOpen = true;
   open_.push_back(&window);
+  const auto close = qScopeGuard([&] {
+    form.isOpen = false;
+    std::erase(open_, &window);
+  });
+  window.refresh();
   if (form.isOpen) window.exec();
-  std::erase(open_, &window);
 }
 
 void QtAsker::noteFailure(const Finding& finding) {

@@ -216,9 +216,9 @@ QVariant TreeModel::data(const QModelIndex& index, int role) const {
     }
     case Qt::AccessibleDescriptionRole:
       switch (kindOf(mirror.key)) {
-        case Kind::Menu: return tr("main menu");
-        case Kind::Submenu: return tr("submenu");
-        default: return tr("item");
+        case Kind::Menu: return "main menu";
+        case Kind::Submenu: return "submenu";
+        default: return "item";
       }
     default: return {};
   }

@@ -11,7 +11,7 @@ TreeView::TreeView(TreeModel& model, QWidget* parent) : QTreeView(parent), tree_
   setUniformRowHeights(true);
   setEditTriggers(NoEditTriggers);
   setExpandsOnDoubleClick(true);
-  setAccessibleName(tr("Menu structure"));
+  setAccessibleName("Menu structure");
 }
 
 void TreeView::showSelected(const Node* node) {

@@ -37,13 +37,15 @@ void copyProgram(const QString& to) {
 
 }  // namespace
 
-std::unique_ptr<Application> offscreenApplication(int& argc, char** argv) {
+std::unique_ptr<QApplication> offscreenApplication(int& argc, char** argv) {
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   if (geteuid() == 0) qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
   qputenv("QTWEBENGINE_CHROMIUM_FLAGS", "--disable-gpu");
   QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
   QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-  return std::make_unique<Application>(argc, argv);
+  auto application = std::make_unique<QApplication>(argc, argv);
+  setUpApplication();
+  return application;
 }
 
 bool waitFor(const std::function<bool()>& holds, int milliseconds) {
@@ -64,18 +66,14 @@ DesktopRun::DesktopRun() {
   UserSettings settings;
   settings.SaveSetting("Settings", "Show Tips at Startup", "0");
   settings.SaveSetting("Settings", "ShowPreviewOnStartup", "False");
-  program_ =
-      std::make_unique<DesktopProgram>(*static_cast<Application*>(qApp), programFolder().toStdString());
+  program_ = std::make_unique<DesktopProgram>(programFolder().toStdString());
   constexpr int often = 10;
   look_.setInterval(often);
   QObject::connect(&look_, &QTimer::timeout, [this] { lookForWaiting(); });
   look_.start();
 }
 
-DesktopRun::~DesktopRun() {
-  look_.stop();
-  static_cast<Application*>(qApp)->report = nullptr;
-}
+DesktopRun::~DesktopRun() { look_.stop(); }
 
 void DesktopRun::start(const QString& commandLine) {
   program_->start(fromDisplayPath(commandLine));

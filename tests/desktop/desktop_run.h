@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QApplication>
 #include <QDialog>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -13,7 +14,7 @@
 namespace nimbrel {
 
 /// The application of a run without a screen: call ahead of all else in `main`.
-std::unique_ptr<Application> offscreenApplication(int& argc, char** argv);
+std::unique_ptr<QApplication> offscreenApplication(int& argc, char** argv);
 
 /// Waits, with all events going on, until something holds; false after a while.
 bool waitFor(const std::function<bool()>& holds, int milliseconds = 15'000);

@@ -4,19 +4,19 @@
 
 namespace nimbrel {
 
-CellEditors::CellEditors(PropertySheet& sheet, QWidget& cells, IconSource icons, Act act)
+CellEditors::CellEditors(PropertySheet& sheet, QWidget& cells, IconSource icons, ActionRunner run)
     : sheet_(sheet),
       cells_(cells),
       icons_(std::move(icons)),
-      act_(std::move(act)),
+      run_(std::move(run)),
       entry_(&cells),
       list_(&cells) {
   list_.setObjectName("lstList");
-  addButton(sheet.btnCombo, "drop-down", {}, QWidget::tr("Open the list"));
-  addButton(sheet.btnFile, "browse-file", {}, QWidget::tr("Choose Image File"));
-  addButton(sheet.btnColour, "pick-colour", {}, QWidget::tr("Choose Color"));
-  addButton(sheet.btnFontSize, "font-size", {}, QWidget::tr("Set Font Size"));
-  const auto replicate = QWidget::tr("Copies the \"Normal\" state property value into the other two states");
+  addButton(sheet.btnCombo, "drop-down", {}, "Open the list");
+  addButton(sheet.btnFile, "browse-file", {}, "Choose Image File");
+  addButton(sheet.btnColour, "pick-colour", {}, "Choose Color");
+  addButton(sheet.btnFontSize, "font-size", {}, "Set Font Size");
+  const auto replicate = "Copies the \"Normal\" state property value into the other two states";
   addButton(sheet.btnReplicate, "replicate", replicate, replicate);
   connectAll();
 }
@@ -31,7 +31,7 @@ void CellEditors::addButton(Control& control, const char* icon, const QString& t
   button->setAutoFillBackground(true);
   button->hide();
   QObject::connect(button, &QToolButton::clicked, button, [this, &control] {
-    act_([this, &control] { sheet_.click(control); });
+    run_([this, &control] { sheet_.click(control); });
     focusEntry();
   });
   buttons_.push_back({control, icon, button});
@@ -39,10 +39,10 @@ void CellEditors::addButton(Control& control, const char* icon, const QString& t
 
 void CellEditors::connectAll() {
   QObject::connect(&entry_, &QLineEdit::textEdited, &entry_, [this](const QString& text) {
-    act_([&] { sheet_.type(isPath() ? fromDisplayPath(text) : fromDisplay(text)); });
+    run_([&] { sheet_.type(isPath() ? fromDisplayPath(text) : fromDisplay(text)); });
   });
   QObject::connect(&entry_, &EntryEdit::clicked, &entry_, [this] {
-    if (sheet_.btnCombo.visible) act_([this] { sheet_.txtEntry_Click(); });
+    if (sheet_.btnCombo.visible) run_([this] { sheet_.txtEntry_Click(); });
   });
   QObject::connect(&entry_, &EntryEdit::searched, &entry_, [this](const QString& typed) { search(typed); });
   QObject::connect(&list_, &ListPopup::chosen, &list_, [this](int entry) { choose(entry); });
@@ -51,7 +51,7 @@ void CellEditors::connectAll() {
     emit entry_.commanded(forward ? EntryCommand::Next : EntryCommand::Previous);
   });
   QObject::connect(&list_, &ListPopup::closed, &list_, [this] {
-    if (openList() != nullptr) act_([this] { sheet_.btnCombo_Click(); });
+    if (openList() != nullptr) run_([this] { sheet_.btnCombo_Click(); });
   });
 }
 
@@ -132,7 +132,7 @@ void CellEditors::showList(const QRect& listPlace) {
 }
 
 void CellEditors::choose(int entry) {
-  act_([&] {
+  run_([&] {
     if (auto* list = openList()) sheet_.choose(*list, {static_cast<std::size_t>(entry)});
   });
   focusEntry();
@@ -146,7 +146,7 @@ void CellEditors::search(const QString& typed) {
   list_.fill(list.list);
   list_.mark(toDisplay(sheet_.txtEntry.text));
   const int entry = list_.search(typed);
-  if (entry >= 0) act_([&] { sheet_.type(list.list[static_cast<std::size_t>(entry)]); });
+  if (entry >= 0) run_([&] { sheet_.type(list.list[static_cast<std::size_t>(entry)]); });
 }
 
 void CellEditors::pressButton() {

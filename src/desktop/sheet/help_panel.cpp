@@ -86,10 +86,10 @@ void LinkLabel::paintEvent(QPaintEvent* event) {
   QStylePainter(this).drawPrimitive(QStyle::PE_FrameFocusRect, option);
 }
 
-HelpPanel::HelpPanel(PropertySheet& sheet, Act act, QWidget* parent)
+HelpPanel::HelpPanel(PropertySheet& sheet, ActionRunner run, QWidget* parent)
     : QWidget(parent),
       sheet_(sheet),
-      act_(std::move(act)),
+      run_(std::move(run)),
       caption_(this),
       text_(this),
       moreHelp_(this),
@@ -105,13 +105,13 @@ HelpPanel::HelpPanel(PropertySheet& sheet, Act act, QWidget* parent)
   text_.setAlignment(Qt::AlignTop | Qt::AlignLeft);
   prepareLink(moreHelp_, sheet.lblMoreHelpLink);
   prepareLink(example_, sheet.lblExamplesLink);
-  example_.setToolTip(tr("Click here for a live demonstration of the selected property"));
+  example_.setToolTip("Click here for a live demonstration of the selected property");
 }
 
 void HelpPanel::prepareLink(LinkLabel& link, Control& control) {
   link.setObjectName(toDisplay(control.name));
   connect(&link, &LinkLabel::followed, &link,
-          [this, &control] { act_([this, &control] { sheet_.click(control); }); });
+          [this, &control] { run_([this, &control] { sheet_.click(control); }); });
 }
 
 void HelpPanel::showLink(LinkLabel& link, const Control& control) {

@@ -12,7 +12,7 @@ HelpSplitter::HelpSplitter(QWidget* parent) : QWidget(parent), shadow_(parent) {
   setObjectName("imgSplitter");
   setCursor(Qt::SplitVCursor);
   setFocusPolicy(Qt::TabFocus);
-  setAccessibleName(tr("Splitter between properties and help"));
+  setAccessibleName("Splitter between properties and help");
   setAutoFillBackground(true);
   shadow_.setObjectName("picSplitter");
   shadow_.setAutoFillBackground(true);

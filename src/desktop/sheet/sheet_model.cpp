@@ -99,7 +99,7 @@ QVariant SheetModel::headerData(int section, Qt::Orientation orientation, int ro
     return font;
   }
   if (role != Qt::DisplayRole || section == column::Replicate) return {};
-  return isCaption ? tr("Item State:") : stateName(section);
+  return isCaption ? "Item State:" : stateName(section);
 }
 
 Qt::ItemFlags SheetModel::flags(const QModelIndex& index) const {

@@ -17,8 +17,9 @@ SheetView::SheetView(PropertySheet& sheet, IconSource icons, QWidget* parent)
       grid_(model_, this),
       splitter_(this),
       help_(
-          sheet, [this](const auto& deed) { act(deed); }, this),
-      editors_(sheet, *grid_.viewport(), std::move(icons), [this](const auto& deed) { act(deed); }) {
+          sheet, [this](const Action& action) { runAction(action); }, this),
+      editors_(sheet, *grid_.viewport(), std::move(icons),
+               [this](const Action& action) { runAction(action); }) {
   setObjectName(toDisplay(sheet.name));
   title_.setObjectName(toDisplay(sheet.lblTitle.name));
   title_.setTextFormat(Qt::PlainText);
@@ -49,25 +50,18 @@ void SheetView::connectAll() {
   });
 }
 
-void SheetView::act(const std::function<void()>& deed) {
-  const bool isWithinAnother = std::exchange(isActing_, true);  // which waits for a chooser
-  const auto show = [&] {
-    refresh();
-    isActing_ = isWithinAnother;
-    emit acted();
+void SheetView::runAction(const Action& action) {
+  const bool isNested = std::exchange(isRunning_, true);  // in the event loop of a chooser
+  const auto finish = [&] {
+    isRunning_ = isNested;
+    emit actionFinished();
   };
-  try {
-    deed();
-  } catch (...) {
-    show();
-    throw;
-  }
-  show();
+  nimbrel::runAction(action, {[this] { refresh(); }, finish});
 }
 
 void SheetView::refresh() {
   auto& entry = editors_.entry();
-  if (!sheet_.Editing() && !isActing_ && entry.hasFocus()) caret_ = entry.cursorPosition();
+  if (!sheet_.Editing() && !isRunning_ && entry.hasFocus()) caret_ = entry.cursorPosition();
   model_.sync();
   if (std::exchange(fillings_, sheet_.fillings()) != sheet_.fillings() && !sheet_.Editing()) {
     grid_.scrollToTop();
@@ -93,14 +87,14 @@ void SheetView::followOpenCell() {
 
 void SheetView::leave() {
   endComposing();
-  if (sheet_.Editing()) act([this] { sheet_.LeaveCell(); });
+  if (sheet_.Editing()) runAction([this] { sheet_.LeaveCell(); });
 }
 
 /// Commits what is open ahead of it.
 void SheetView::open(CellPlace place) {
   endComposing();
   caret_.reset();
-  act([&] {
+  runAction([&] {
     sheet_.LeaveCell();
     sheet_.EnterCell(place.row, place.column);
   });
@@ -127,10 +121,10 @@ void SheetView::command(EntryCommand command) {
     case EntryCommand::Above: go(Step::Above, 1); break;
     case EntryCommand::PageDown: go(Step::Below, grid_.rowsInSight()); break;
     case EntryCommand::PageUp: go(Step::Above, grid_.rowsInSight()); break;
-    case EntryCommand::TakeBack: act([this] { sheet_.TakeBack(); }); break;
+    case EntryCommand::TakeBack: runAction([this] { sheet_.TakeBack(); }); break;
     case EntryCommand::PressButton: editors_.pressButton(); break;
     case EntryCommand::Replicate:
-      act([this] { sheet_.click(sheet_.btnReplicate); });
+      runAction([this] { sheet_.click(sheet_.btnReplicate); });
       editors_.focusEntry();
       break;
     case EntryCommand::GoToLinks: help_.focusLinks(); break;
@@ -193,8 +187,7 @@ void SheetView::compose(QInputMethodEvent* event) {
 void SheetView::scrolled() {
   if (!sheet_.Editing()) return;
   const bool isTyping = grid_.hasFocus();
-  sheet_.Grid_Scroll(grid_.isInSight(lastCell()));
-  refresh();
+  nimbrel::runAction([this] { sheet_.Grid_Scroll(grid_.isInSight(lastCell())); }, {[this] { refresh(); }});
   if (isTyping && sheet_.txtEntry.visible) editors_.entry().setFocus(Qt::OtherFocusReason);
 }
 
@@ -216,7 +209,7 @@ void SheetView::keyPressEvent(QKeyEvent* event) {
 void SheetView::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
   // What a chooser brings is still to come to the cell.
-  if (!isActing_) {
+  if (!isRunning_) {
     const auto& entry = editors_.entry();
     const auto caret = entry.hasFocus() ? std::optional(entry.cursorPosition()) : std::nullopt;
     leave();

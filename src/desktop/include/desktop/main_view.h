@@ -48,9 +48,9 @@ class MainView : public QMainWindow {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  class AfterDeed;
-
   void connectAll();
+  void runAction(const Action& action);
+  void openHelp(int topic);
   IconSource icons() const;
   void showNode(Node* node);
   void deleteNode();

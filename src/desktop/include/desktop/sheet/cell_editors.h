@@ -5,6 +5,7 @@
 #include <functional>
 #include <vector>
 
+#include "desktop/run_action.h"
 #include "desktop/sheet/entry_edit.h"
 #include "desktop/sheet/list_popup.h"
 #include "properties/property_sheet.h"
@@ -15,14 +16,11 @@ namespace nimbrel {
 /// A drawing by its name, in the ink of the palette of now.
 using IconSource = std::function<QIcon(const char* name)>;
 
-/// What floats over the open cell: the entry, the small buttons and the list. It shows what the sheet's controls
-/// say. What the author does goes to the sheet through `act`, which is handed the deed to carry it out.
+/// The widgets over the open cell: the entry, the small buttons and the list. They show the controls of the sheet.
 class CellEditors {
  public:
-  using Act = std::function<void(const std::function<void()>&)>;
-
-  /// `cells` is where the grid draws its cells; what leaves it is cut off there.
-  CellEditors(PropertySheet& sheet, QWidget& cells, IconSource icons, Act act);
+  /// `cells` is the grid's viewport, which clips the editors. `run` runs the user's actions on the sheet.
+  CellEditors(PropertySheet& sheet, QWidget& cells, IconSource icons, ActionRunner run);
 
   /// Texts and visibility, then the list, which drops down at `listPlace` on the screen.
   void refresh(const QString& name, const QRect& listPlace);
@@ -63,7 +61,7 @@ class CellEditors {
   PropertySheet& sheet_;
   QWidget& cells_;
   IconSource icons_;
-  Act act_;
+  ActionRunner run_;
   EntryEdit entry_;
   ListPopup list_;
   std::vector<Button> buttons_;

@@ -2,8 +2,8 @@
 
 #include <QLabel>
 #include <QWidget>
-#include <functional>
 
+#include "desktop/run_action.h"
 #include "properties/property_sheet.h"
 #include "properties/sheet_geometry.h"
 
@@ -31,10 +31,8 @@ class HelpPanel : public QWidget {
   Q_OBJECT
 
  public:
-  using Act = std::function<void(const std::function<void()>&)>;
-
-  /// `act` carries out what a link does.
-  HelpPanel(PropertySheet& sheet, Act act, QWidget* parent);
+  /// `run` runs what a link does.
+  HelpPanel(PropertySheet& sheet, ActionRunner run, QWidget* parent);
 
   void refresh();
   void layOut(const SheetLayout& layout);
@@ -50,7 +48,7 @@ class HelpPanel : public QWidget {
   void placeCaption();
 
   PropertySheet& sheet_;
-  Act act_;
+  ActionRunner run_;
   QLabel caption_, text_;
   LinkLabel moreHelp_, example_;
 };

@@ -33,8 +33,8 @@ class SheetView : public QWidget {
   void refresh();
 
  signals:
-  /// After all that the author did to the sheet, also where it threw.
-  void acted();
+  /// The sheet has run an action of the user, and the view has been refreshed.
+  void actionFinished();
   void helpWanted(int topic);
 
  protected:
@@ -44,7 +44,7 @@ class SheetView : public QWidget {
 
  private:
   void connectAll();
-  void act(const std::function<void()>& deed);
+  void runAction(const Action& action);
   void leave();
   void open(CellPlace place);
   void press(int row, int col);
@@ -81,7 +81,7 @@ class SheetView : public QWidget {
   int column_ = column::Normal;    ///< in which Enter, Up and Down go on
   std::size_t fillings_ = 0;
   std::optional<CellPlace> shownCell_;  ///< the open one, as it was seen last
-  bool isActing_ = false;
+  bool isRunning_ = false;              ///< an action
   /// Where the author was typing as a command, such as saving, closed the cell.
   std::optional<int> caret_;
 };
