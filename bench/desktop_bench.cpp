@@ -1,5 +1,5 @@
-// Prints the desktop program's figures, each with its limit. `nimbrel_desktop_bench empty FOLDER` and
-// `... program FOLDER` are the two starts that it compares, in processes of their own.
+// Measures the desktop program and prints each figure with its limit. It compares two starts, which run in processes
+// of their own as `nimbrel_desktop_bench empty FOLDER` and `nimbrel_desktop_bench program FOLDER`.
 #include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
@@ -40,7 +40,7 @@ void verdict(const std::string& what, double value, double limit) {
             << '\n';
 }
 
-/// Until the event loop is idle for the first time behind the window's appearance.
+/// Returns once the event loop is idle after the window has appeared.
 int showAndEnd(QWidget& window) {
   if (!QTest::qWaitForWindowExposed(&window)) return 1;
   QCoreApplication::processEvents();

@@ -35,7 +35,7 @@ class LocalFilesOnly : public QWebEngineUrlRequestInterceptor {
   }
 };
 
-/// One for all browsers, which keeps nothing.
+/// One off-the-record profile for all browsers.
 QWebEngineProfile* profile() {
   static auto* one = [] {
     auto* made = new QWebEngineProfile(qApp);
@@ -94,7 +94,7 @@ void BrowserView::showCrash() {
     text->setWordWrap(true);
     text->setAlignment(Qt::AlignCenter);
     auto* reload = new QPushButton("Reload", crashed_);
-    connect(reload, &QPushButton::clicked, this, &BrowserView::reloadWanted);
+    connect(reload, &QPushButton::clicked, this, &BrowserView::reloadRequested);
     layout->addStretch();
     layout->addWidget(text);
     layout->addWidget(reload, 0, Qt::AlignHCenter);

@@ -15,13 +15,13 @@ namespace {
 
 constexpr const char* topicProperty = "helpTopic";
 
-/// The drawing of a button: its key in small letters, with hyphens.
+/// The icon of a button is named after its key, in lower case and with hyphens.
 QString iconName(std::string_view key) {
   if (key == "Insert Menu into Webpage") return "link-menu";
   return toDisplay(key).toLower().replace(' ', '-');
 }
 
-/// A number and a path that may lack its front. A path marks no key.
+/// A caption "1. PATH", whose path may be shortened at the front. An ampersand in the path is no mnemonic.
 QString recentFile(std::string_view caption) {
   constexpr std::string_view number = "1. ";
   constexpr std::string_view cut = "...";
@@ -44,13 +44,13 @@ QAction* CommandActions::makeAction(std::string_view name, std::string_view capt
   action->setMenuRole(QAction::NoRole);
   entries_.emplace(name, action);
   connect(action, &QAction::triggered, this,
-          [this, wanted = toDisplay(name)] { emit commandWanted(wanted); });
+          [this, wanted = toDisplay(name)] { emit commandTriggered(wanted); });
   return action;
 }
 
 void CommandActions::makeMenuBar() {
-  QMenu* menu = nullptr;     // of the bar
-  QMenu* deepest = nullptr;  // where entries go
+  QMenu* menu = nullptr;     // the current one of the bar
+  QMenu* deepest = nullptr;  // the menu or submenu that entries are added to
   for (const auto& entry : menuBar()) {
     if (entry.level == 0) {
       deepest = menu = window_.menuBar()->addMenu(toDisplay(entry.caption));
@@ -73,7 +73,7 @@ void CommandActions::makeMenuBar() {
     }
     auto* action = makeAction(entry.name, entry.caption);
     action->setShortcut(QKeySequence(toDisplay(entry.shortcut)));
-    // The preview is asked for again from its own window too.
+    // Also works from the preview window, to refresh it.
     if (entry.name == "mnuToolsPreview") action->setShortcutContext(Qt::ApplicationShortcut);
     action->setCheckable((entry.state & Checked) != 0);
     action->setProperty(topicProperty, entry.helpTopic);
@@ -110,7 +110,7 @@ void CommandActions::makeToolbar() {
     auto* action = new QAction(toDisplay(described.toolTip), this);
     buttons_.emplace(described.key, action);
     connect(action, &QAction::triggered, this,
-            [this, key = toDisplay(described.key)] { emit commandWanted(key); });
+            [this, key = toDisplay(described.key)] { emit commandTriggered(key); });
     bar->addAction(action);
   }
 }
@@ -161,7 +161,7 @@ bool CommandActions::eventFilter(QObject* watched, QEvent* event) {
   }
   const auto* entry = menu->activeAction() != nullptr ? menu->activeAction() : menu->menuAction();
   const int topic = entry->property(topicProperty).toInt();
-  if (topic != 0) emit helpWanted(topic);
+  if (topic != 0) emit helpRequested(topic);
   return topic != 0;
 }
 

@@ -21,22 +21,22 @@
 namespace nimbrel {
 namespace {
 
-/// What all widgets have in common.
+/// What all bindings have in common.
 template <class Widget>
 class Binding : public ControlBinding {
  public:
   Binding(Form& form, Control& control, Widget& widget, ActionRunner run)
       : form_(form), control_(control), widget_(widget), run_(std::move(run)) {}
 
-  void show() override {
+  void refresh() override {
     const QSignalBlocker quiet(&widget_);
     if (widget_.isEnabled() != control_.enabled) widget_.setEnabled(control_.enabled);
     if (widget_.isHidden() == control_.visible) widget_.setVisible(control_.visible);
-    showContent();
+    refreshContent();
   }
 
  protected:
-  virtual void showContent() = 0;
+  virtual void refreshContent() = 0;
 
   QString text(std::string_view libraryText) const {
     return widget_.property("paths").toBool() ? toDisplayPath(libraryText) : toDisplay(libraryText);
@@ -44,7 +44,7 @@ class Binding : public ControlBinding {
   std::string typed(const QString& displayText) const {
     return widget_.property("paths").toBool() ? fromDisplayPath(displayText) : fromDisplay(displayText);
   }
-  /// Texts of forms end their lines as files do.
+  /// The texts of forms contain CR LF line ends.
   QString lines(std::string_view libraryText) const {
     return text(libraryText).replace("\r\n", "\n").replace('\r', '\n');
   }
@@ -55,7 +55,7 @@ class Binding : public ControlBinding {
   ActionRunner run_;
 };
 
-/// A label that does something is a link, which the keyboard reaches too.
+/// A label with an event is shown as a link, which can also be reached by keyboard.
 class LabelBinding : public Binding<QLabel> {
  public:
   LabelBinding(Form& form, Control& control, QLabel& label, ActionRunner run)
@@ -68,7 +68,7 @@ class LabelBinding : public Binding<QLabel> {
   }
 
  private:
-  void showContent() override {
+  void refreshContent() override {
     auto wanted = lines(control_.text);
     if (control_.event) wanted = "<a href=\"#\">" + wanted.toHtmlEscaped() + "</a>";
     if (widget_.text() != wanted) widget_.setText(wanted);
@@ -85,13 +85,13 @@ class ButtonBinding : public Binding<QAbstractButton> {
   }
 
  private:
-  void showContent() override {
+  void refreshContent() override {
     const auto wanted = text(control_.text);
     if (!wanted.isEmpty() && widget_.text() != wanted) widget_.setText(wanted);
   }
 };
 
-/// A check box or an option.
+/// A check box or a radio button.
 class MarkBinding : public Binding<QAbstractButton> {
  public:
   MarkBinding(Form& form, Control& control, QAbstractButton& button, ActionRunner run)
@@ -108,7 +108,7 @@ class MarkBinding : public Binding<QAbstractButton> {
   }
 
  private:
-  /// The arrow keys go round in it.
+  /// The arrow keys cycle through the options of a group.
   void joinGroup() {
     const auto name = QString("group%1").arg(control_.group);
     auto* window = widget_.window();
@@ -120,11 +120,11 @@ class MarkBinding : public Binding<QAbstractButton> {
     group->addButton(&widget_);
   }
 
-  void showContent() override {
+  void refreshContent() override {
     const auto wanted = text(control_.text);
     if (widget_.text() != wanted) widget_.setText(wanted);
     if (widget_.isChecked() == control_.value) return;
-    // A group lets go of its one chosen button only as it is taken for another.
+    // An exclusive group does not let its checked button be unchecked.
     if (widget_.group() != nullptr) widget_.group()->setExclusive(false);
     widget_.setChecked(control_.value);
     if (widget_.group() != nullptr) widget_.group()->setExclusive(true);
@@ -141,8 +141,8 @@ class TextBinding : public Binding<QLineEdit> {
   }
 
  private:
-  void showContent() override {
-    // What is being typed stays as it is where it says the same.
+  void refreshContent() override {
+    // Different display texts may stand for the same library text: keep the one being typed.
     if (typed(widget_.text()) != control_.text) widget_.setText(text(control_.text));
   }
 };
@@ -157,7 +157,7 @@ class ComboBinding : public Binding<QComboBox> {
   }
 
  private:
-  void showContent() override {
+  void refreshContent() override {
     if (entries_ != control_.list) {
       entries_ = control_.list;
       widget_.clear();
@@ -198,7 +198,7 @@ class ListBinding : public Binding<QListWidget> {
     return rows;
   }
 
-  void showContent() override {
+  void refreshContent() override {
     if (entries_ != control_.list) {
       entries_ = control_.list;
       widget_.clear();
@@ -222,7 +222,7 @@ class FolderBinding : public Binding<FolderView> {
   }
 
  private:
-  void showContent() override {
+  void refreshContent() override {
     if (fromDisplayPath(widget_.folder()) != control_.text) widget_.setFolder(toDisplayPath(control_.text));
   }
 };
@@ -238,7 +238,7 @@ class TabsBinding : public Binding<QTabBar> {
   }
 
  private:
-  void showContent() override {
+  void refreshContent() override {
     const int index = control_.selected.empty() ? 0 : static_cast<int>(control_.selected.front());
     if (widget_.currentIndex() != index) widget_.setCurrentIndex(index);
   }
@@ -249,7 +249,7 @@ class FrameBinding : public Binding<QWidget> {
   using Binding::Binding;
 
  private:
-  void showContent() override {
+  void refreshContent() override {
     auto* box = qobject_cast<QGroupBox*>(&widget_);
     if (box != nullptr && box->title() != text(control_.text)) box->setTitle(text(control_.text));
   }
@@ -262,7 +262,7 @@ class BrowserBinding : public Binding<BrowserView> {
     QObject::connect(&view, &BrowserView::documentComplete, &view, [this] {
       if (control_.event) run_(control_.event);
     });
-    QObject::connect(&view, &BrowserView::reloadWanted, &view, [this] {
+    QObject::connect(&view, &BrowserView::reloadRequested, &view, [this] {
       if (control_.reload) {
         run_(control_.reload);
       } else {
@@ -272,7 +272,7 @@ class BrowserBinding : public Binding<BrowserView> {
   }
 
  private:
-  void showContent() override {
+  void refreshContent() override {
     if (visits_ == control_.visits) return;
     visits_ = control_.visits;
     widget_.navigate(toDisplayPath(control_.text));
@@ -297,7 +297,7 @@ class TimerBinding : public ControlBinding {
     if (control_.value) runAction(control_.event);
   }
 
-  void show() override {
+  void refresh() override {
     if (control_.value == timer_->isActive()) return;
     if (control_.value) {
       timer_->start();

@@ -39,7 +39,7 @@ DesktopProgram::DesktopProgram(const std::string& programFolder)
   BrowserView::setReadableFolder(QString::fromStdString(programFolder));
   asker_.setMainWindow(&view_);
   asker_.setHelp(&help_);
-  asker_.onWaiting([this](bool isWaiting) { view_.setWaiting(isWaiting); });
+  asker_.onModalChange([this](bool isOpen) { view_.setModalOpen(isOpen); });
   help_.onMissing([this](const QString& file) {
     asker_.MsgBox(
         {.title = std::string(productTitle), .text = fromDisplay("The help file cannot be opened: " + file)});
@@ -52,7 +52,7 @@ DesktopProgram::DesktopProgram(const std::string& programFolder)
     if (!view_.mayClose()) session.cancel();
     session.release();
   });
-  termination_.onAsked([this] { view_.close(); });
+  termination_.onRequest([this] { view_.close(); });
 }
 
 /// What fails from now on goes to the log: message boxes need the windows, which are about to be destroyed.

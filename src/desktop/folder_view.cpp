@@ -11,28 +11,28 @@ FolderView::FolderView(QWidget* parent) : QTreeView(parent), folders_(new QFileS
   setHeaderHidden(true);
   for (int column = 1; column < folders_->columnCount(); ++column) hideColumn(column);
   setAccessibleName("Folder");
-  // Rows come in behind the scenes, and move what was scrolled to.
+  // Rows are loaded in the background, which moves the row that was scrolled to.
   connect(folders_, &QFileSystemModel::directoryLoaded, this, [this](const QString& path) {
-    if (isComing_) scrollTo(currentIndex());
-    if (QDir::cleanPath(path) == QDir::cleanPath(folder_)) isComing_ = false;
+    if (isLoading_) scrollTo(currentIndex());
+    if (QDir::cleanPath(path) == QDir::cleanPath(folder_)) isLoading_ = false;
   });
-  connect(this, &QTreeView::expanded, this, [this] { isComing_ = isComing_ && isOwnMove_; });
+  connect(this, &QTreeView::expanded, this, [this] { isLoading_ = isLoading_ && isSettingFolder_; });
 }
 
 void FolderView::setFolder(const QString& path) {
   folder_ = path;
   const auto index = folders_->index(path);
   if (!index.isValid()) return;
-  isOwnMove_ = isComing_ = true;
+  isSettingFolder_ = isLoading_ = true;
   setCurrentIndex(index);
   expand(index);
   scrollTo(index);
-  isOwnMove_ = false;
+  isSettingFolder_ = false;
 }
 
 void FolderView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
   QTreeView::currentChanged(current, previous);
-  if (isOwnMove_ || !current.isValid()) return;
+  if (isSettingFolder_ || !current.isValid()) return;
   folder_ = QDir::toNativeSeparators(folders_->filePath(current));
   emit folderChosen(folder_);
 }

@@ -24,7 +24,7 @@ namespace {
 enum Tab { ContentsTab, IndexTab, SearchTab };
 constexpr const char* home = "qthelp://nimbrel.help/help/index.html";
 
-/// Shows pages, pictures and style sheets out of the compiled help.
+/// Shows pages, pictures and style sheets from the compiled help.
 class HelpPage : public QTextBrowser {
  public:
   HelpPage(QHelpEngine& engine, QWidget* parent) : QTextBrowser(parent), engine_(engine) {
@@ -50,7 +50,7 @@ HelpWindow::HelpWindow(QString file, QString cacheFolder)
 
 HelpWindow::~HelpWindow() = default;
 
-/// The help is registered in a collection of this user's, anew whenever the file is another one.
+/// Registers the help in a collection file of this user, again if the help file has changed.
 bool HelpWindow::load() {
   if (!QFileInfo(file_).isFile()) return false;
   QDir().mkpath(cacheFolder_);
@@ -71,7 +71,7 @@ bool HelpWindow::load() {
   }
   engine_ = engine.release();
   build();
-  nameForReaders();
+  setAccessibleNames();
   return true;
 }
 
@@ -136,8 +136,8 @@ void HelpWindow::buildSearch() {
   search->scheduleIndexDocumentation();
 }
 
-/// Most of these come without a name that a screen reader could say.
-void HelpWindow::nameForReaders() {
+/// Most of Qt's help widgets come without accessible names.
+void HelpWindow::setAccessibleNames() {
   tabs_->setAccessibleName("Ways into the help");
   engine_->contentWidget()->setAccessibleName("Contents");
   engine_->indexWidget()->setAccessibleName("Index");
@@ -154,7 +154,7 @@ void HelpWindow::nameForReaders() {
 
 void HelpWindow::showPage(const QUrl& page) { page_->setSource(page); }
 
-void HelpWindow::come(int tab) {
+void HelpWindow::showTab(int tab) {
   tabs_->setCurrentIndex(tab);
   setWindowState(windowState() & ~Qt::WindowMinimized);
   show();
@@ -162,32 +162,32 @@ void HelpWindow::come(int tab) {
   activateWindow();
 }
 
-bool HelpWindow::isReady() {
+bool HelpWindow::ensureLoaded() {
   if (engine_ != nullptr || load()) return true;
   if (missing_) missing_(file_);
   return false;
 }
 
 bool HelpWindow::openTopic(int topic) {
-  if (!isReady()) return false;
+  if (!ensureLoaded()) return false;
   const auto links = engine_->documentsForIdentifier(QString("topic-%1").arg(topic));
   if (links.isEmpty()) return openContents();
   showPage(links.constFirst().url);
-  come(tabs_->currentIndex());
+  showTab(tabs_->currentIndex());
   return true;
 }
 
 bool HelpWindow::openContents() {
-  if (!isReady()) return false;
+  if (!ensureLoaded()) return false;
   showPage(QUrl(home));
-  come(ContentsTab);
+  showTab(ContentsTab);
   return true;
 }
 
 bool HelpWindow::openSearch() {
-  if (!isReady()) return false;
+  if (!ensureLoaded()) return false;
   if (page_->source().isEmpty()) showPage(QUrl(home));
-  come(SearchTab);
+  showTab(SearchTab);
   engine_->searchEngine()->queryWidget()->setFocus();
   return true;
 }

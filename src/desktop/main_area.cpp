@@ -9,7 +9,7 @@
 namespace nimbrel {
 namespace {
 
-constexpr int gripWidth = 40 / twipsPerPixel + 2;  // fills the gap ahead of the sheets
+constexpr int gripWidth = 40 / twipsPerPixel + 2;  // fills the gap before the sheets
 
 }  // namespace
 
@@ -40,7 +40,7 @@ namespace {
 WindowMeasures measures(const QWidget& area, const QLabel& title) {
   return {.formWidth = toTwips(area.width()),
           .innerHeight = toTwips(area.height()),
-          .toolbarVisible = false,  // bars stand outside of the area
+          .toolbarVisible = false,  // bars are outside of the area
           .statusBarVisible = true,
           .statusBarHeight = 0,
           .labelHeight = toTwips(title.sizeHint().height()),

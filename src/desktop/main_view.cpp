@@ -20,7 +20,7 @@
 namespace nimbrel {
 namespace {
 
-bool bringsAnotherDocument(const QString& command) {
+bool mayReplaceDocument(const QString& command) {
   return command.startsWith("mnuFile") || command == "New" || command == "Open";
 }
 
@@ -59,9 +59,9 @@ SheetView& MainView::sheet(Kind kind) {
 void MainView::connectAll() {
   connect(&tree_, &TreeView::nodeChosen, this, &MainView::showNode);
   connect(&tree_, &TreeView::deletePressed, this, &MainView::deleteNode);
-  connect(&tree_, &TreeView::contextMenuWanted, this, &MainView::showContextMenu);
-  connect(&commands_, &CommandActions::commandWanted, this, &MainView::run);
-  connect(&commands_, &CommandActions::helpWanted, this, &MainView::openHelp);
+  connect(&tree_, &TreeView::contextMenuRequested, this, &MainView::showContextMenu);
+  connect(&commands_, &CommandActions::commandTriggered, this, &MainView::run);
+  connect(&commands_, &CommandActions::helpRequested, this, &MainView::openHelp);
   for (auto* sheet : {&menuSheet_, &submenuSheet_, &itemSheet_}) {
     connect(sheet, &SheetView::actionFinished, this, [this] {
       nimbrel::runAction([this] {
@@ -69,16 +69,16 @@ void MainView::connectAll() {
         refresh();
       });
     });
-    connect(sheet, &SheetView::helpWanted, this, &MainView::openHelp);
+    connect(sheet, &SheetView::helpRequested, this, &MainView::openHelp);
   }
   for (auto* window : {&preview_, &liveExamples_}) {
     connect(window, &FormWindow::actionFinished, this, [this] { nimbrel::runAction([this] { refresh(); }); });
-    connect(window, &FormWindow::helpWanted, this, [this] { run("mnuHelpContents"); });
+    connect(window, &FormWindow::helpRequested, this, [this] { run("mnuHelpContents"); });
   }
 }
 
-/// For actions that leave the structure of the tree as it is. They may commit the open cell, and with it the name of
-/// the node that was current before.
+/// For actions that do not change the structure of the tree. They may commit the open cell, and so rename the node
+/// that was current before them.
 void MainView::runAction(const Action& action) {
   endComposing();
   const auto current = main_.CurrentNode == nullptr ? std::string() : main_.CurrentNode->Key;
@@ -92,9 +92,9 @@ void MainView::openHelp(int topic) {
   nimbrel::runAction([&] { main_.ports.help.openTopic(topic); });
 }
 
-/// Where the window stood last. A screen that is gone, or smaller by now, must hide nothing of it.
+/// The last geometry of the window, moved and shrunk to fit if that screen is gone or has become smaller.
 QRect MainView::placeOnScreen() const {
-  constexpr int title = 30;  // pixels, above what is measured
+  constexpr int title = 30;  // pixels, the title bar above the geometry
   const auto& place = main_.geometry;
   const QRect wanted(toPixels(place.left), toPixels(place.top), toPixels(place.width),
                      toPixels(place.height));
@@ -114,7 +114,7 @@ void MainView::start(const std::string& commandLine) {
   const auto showDocument = [this] {
     isStarting_ = false;
     model_.reset();
-    tree_.openUp();
+    tree_.expandInitially();
     refresh();
     tree_.setFocus();
   };
@@ -123,7 +123,7 @@ void MainView::start(const std::string& commandLine) {
 
 void MainView::run(const QString& command) {
   endComposing();
-  // The window may be closed by the command, which ends the program behind it.
+  // Closing the window also ends the program.
   if (command == "mnuFileExit") {
     close();
     return;
@@ -133,9 +133,9 @@ void MainView::run(const QString& command) {
   };
   const auto before = document();
   const auto showTree = [&] {
-    if (bringsAnotherDocument(command) && document() != before) {
+    if (mayReplaceDocument(command) && document() != before) {
       model_.reset();
-      tree_.openUp();
+      tree_.expandInitially();
     } else {
       syncTree();
     }
@@ -161,15 +161,15 @@ void MainView::showContextMenu(const QPoint& place) {
 }
 
 void MainView::refresh() {
-  isClosed_ = false;  // whatever was answered, the author goes on
+  isClosed_ = false;  // the user goes on working, whatever was answered before
   const std::array paths{main_.state.FilePath + '\\' + main_.state.FileTitle};
-  // What Qt takes for the place of its own mark is doubled.
+  // Escapes Qt's placeholder for the "modified" mark.
   const auto title = toDisplayWithPaths(main_.title, paths).replace("[*]", "[*][*]");
   if (windowTitle() != title) setWindowTitle(title);
   commands_.refresh(main_.commands);
   tree_.showSelected(main_.selected);
   showSheets();
-  for (auto* window : {&preview_, &liveExamples_}) showBeside(*window);
+  for (auto* window : {&preview_, &liveExamples_}) refreshSideWindow(*window);
 }
 
 void MainView::showSheets() {
@@ -181,7 +181,7 @@ void MainView::showSheets() {
     if (!shows(view)) continue;
     view->refresh();
     view->show();
-    // Of a sheet that is hidden it would go to whatever comes next.
+    // Otherwise the focus would move to the next widget when the other sheet is hidden.
     const bool isTaken = std::ranges::any_of(
         views, [&](auto* other) { return other != view && other->isAncestorOf(focused); });
     if (isTaken) view->setFocus(Qt::OtherFocusReason);
@@ -193,9 +193,9 @@ void MainView::showSheets() {
   }
 }
 
-void MainView::showBeside(FormWindow& window) {
+void MainView::refreshSideWindow(FormWindow& window) {
   window.refresh();
-  auto& shows = shows_[&window];
+  auto& shows = lastShows_[&window];
   if (!window.form().isOpen || shows == window.form().shows) return;
   if (shows == 0) {
     const auto centre = screen()->availableGeometry().center() - QRect(QPoint(), window.size()).center();
@@ -207,9 +207,9 @@ void MainView::showBeside(FormWindow& window) {
   window.raise();
 }
 
-/// Right of this window, as far as the screen reaches: neither is to hide the other.
+/// To the right of this window if the screen has room, else to the left, so that neither hides the other.
 QPoint MainView::placeBeside(const QSize& size) const {
-  constexpr int frame = 16;  // pixels, about what the system puts around a window
+  constexpr int frame = 16;  // pixels, roughly the window manager's frame
   const auto available = screen()->availableGeometry();
   const auto whole = frameGeometry();
   const int right = whole.right() + 1;
@@ -219,23 +219,23 @@ QPoint MainView::placeBeside(const QSize& size) const {
   return {std::clamp(left, available.left(), std::max(rightmost, available.left())), whole.top()};
 }
 
-/// The library has chosen what comes after a node that went; the view's own choice does not count.
+/// After a deletion the library chooses the next node, not the view.
 void MainView::syncTree() {
-  tree_.quietly([this] { model_.sync(); });
+  tree_.withoutNodeChosen([this] { model_.sync(); });
 }
 
-void MainView::setWaiting(bool isWaiting) {
-  if (isWaiting && isStarting_) {  // the tip of the day is about to cover this window
+void MainView::setModalOpen(bool isOpen) {
+  if (isOpen && isStarting_) {  // the tip of the day is about to cover this window
     nimbrel::runAction([this] { syncTree(); }, {[this] { refresh(); }});
   }
-  preview_.setEnabled(!isWaiting);
-  liveExamples_.setEnabled(!isWaiting);
+  preview_.setEnabled(!isOpen);
+  liveExamples_.setEnabled(!isOpen);
 }
 
 bool MainView::mayClose() {
   if (isClosed_) return true;
-  if (auto* popup = QApplication::activePopupWidget()) popup->close();  // it would take the first answer
-  noteGeometry();
+  if (auto* popup = QApplication::activePopupWidget()) popup->close();  // it would swallow the first click
+  recordGeometry();
   bool mayClose = false;
   runAction([&] { mayClose = main_.QueryClose(); });
   isClosed_ = mayClose;
@@ -247,7 +247,7 @@ void MainView::closeEvent(QCloseEvent* event) {
   if (isClosed_) qApp->quit();
 }
 
-void MainView::noteGeometry() {
+void MainView::recordGeometry() {
   if (!isStarted_) return;
   main_.isMinimised = isMinimized();
   if (main_.isMinimised) return;
@@ -258,12 +258,12 @@ void MainView::noteGeometry() {
 
 void MainView::resizeEvent(QResizeEvent* event) {
   QMainWindow::resizeEvent(event);
-  noteGeometry();
+  recordGeometry();
 }
 
 void MainView::moveEvent(QMoveEvent* event) {
   QMainWindow::moveEvent(event);
-  noteGeometry();
+  recordGeometry();
 }
 
 void MainView::changeEvent(QEvent* event) {
@@ -280,7 +280,7 @@ void MainView::drawIcons() {
   commands_.drawIcons();
 }
 
-/// F1 outside of the sheet.
+/// Handles F1 outside of the sheet.
 void MainView::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_F1) {
     run("mnuHelpContents");

@@ -38,7 +38,7 @@ QMessageBox::StandardButton buttonOf(BoxButton button) {
   }
 }
 
-/// What the Escape key and the close box answer: the last button that takes nothing on.
+/// The answer of the Escape key and of the close box: the button that does the least.
 BoxButton escapeOf(const MessageBox& box) {
   for (const auto button : {BoxButton::Cancel, BoxButton::No}) {
     if (std::ranges::find(box.buttons, button) != box.buttons.end()) return button;
@@ -56,16 +56,16 @@ QString fileFilter(std::string_view filter) {
   return description + " (" + patterns.replace(';', ' ') + ")";
 }
 
-/// Tells when the first wait begins and the last one ends.
-class QtAsker::Wait {
+/// Exists while a modal window is open.
+class QtAsker::ModalScope {
  public:
-  explicit Wait(QtAsker& asker) : asker_(asker) {
-    if (asker_.waits_++ == 0 && asker_.waiting_) asker_.waiting_(true);
+  explicit ModalScope(QtAsker& asker) : asker_(asker) {
+    if (asker_.modalCount_++ == 0 && asker_.onModalChange_) asker_.onModalChange_(true);
   }
-  Wait(const Wait&) = delete;
-  Wait& operator=(const Wait&) = delete;
-  ~Wait() {
-    if (--asker_.waits_ == 0 && asker_.waiting_) asker_.waiting_(false);
+  ModalScope(const ModalScope&) = delete;
+  ModalScope& operator=(const ModalScope&) = delete;
+  ~ModalScope() {
+    if (--asker_.modalCount_ == 0 && asker_.onModalChange_) asker_.onModalChange_(false);
   }
 
  private:
@@ -85,7 +85,7 @@ void QtAsker::hideClosed() {
 }
 
 BoxButton QtAsker::MsgBox(const MessageBox& box) {
-  const Wait wait(*this);
+  const ModalScope modal(*this);
   hideClosed();
   while (true) {
     QMessageBox window(iconOf(box.icon), toDisplay(box.title),
@@ -106,25 +106,25 @@ BoxButton QtAsker::MsgBox(const MessageBox& box) {
 }
 
 std::optional<std::string> QtAsker::chooseFile(const FileDialog& dialog) {
-  const Wait wait(*this);
+  const ModalScope modal(*this);
   hideClosed();
   QFileDialog window(owner(), toDisplay(dialog.title), toDisplayPath(dialog.folder),
                      fileFilter(dialog.filter));
   if (!dialog.name.empty()) window.selectFile(toDisplayPath(dialog.name));
   if (dialog.kind == FileDialog::Save) {
     window.setAcceptMode(QFileDialog::AcceptSave);
-    window.setOption(QFileDialog::DontConfirmOverwrite);  // the form asks, in its own words
+    window.setOption(QFileDialog::DontConfirmOverwrite);  // the form asks with its own text
     const auto pattern = toDisplay(dialog.filter).section('|', 1);
     window.setDefaultSuffix(QFileInfo(pattern).suffix());
   } else {
-    window.setFileMode(QFileDialog::AnyFile);  // likewise where there is none of that name
+    window.setFileMode(QFileDialog::AnyFile);  // the form also asks if there is no such file
   }
   if (window.exec() != QDialog::Accepted || window.selectedFiles().isEmpty()) return std::nullopt;
   return fromDisplayPath(window.selectedFiles().constFirst());
 }
 
 std::optional<std::uint32_t> QtAsker::chooseColour(std::uint32_t start) {
-  const Wait wait(*this);
+  const ModalScope modal(*this);
   constexpr unsigned byte = 8;
   const auto part = [start](unsigned number) { return static_cast<int>(start >> number * byte & 0xFFU); };
   const QColor first(part(0), part(1), part(2));
@@ -135,10 +135,10 @@ std::optional<std::uint32_t> QtAsker::chooseColour(std::uint32_t start) {
 }
 
 void QtAsker::ShowModal(Form& form) {
-  const Wait wait(*this);
+  const ModalScope modal(*this);
   hideClosed();
   FormWindow window(form, owner());
-  QObject::connect(&window, &FormWindow::helpWanted, &window, [this] {
+  QObject::connect(&window, &FormWindow::helpRequested, &window, [this] {
     if (help_ != nullptr) runAction([this] { help_->openContents(); });
   });
   window.setWindowModality(Qt::WindowModal);

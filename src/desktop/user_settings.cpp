@@ -21,7 +21,7 @@ std::string UserSettings::GetSetting(std::string_view section, std::string_view 
   return value.isValid() ? fromDisplay(value.toString()) : std::string(standard);
 }
 
-/// Written at once: the next start may come before this one ends.
+/// Writes at once: another instance may start before this one ends.
 void UserSettings::SaveSetting(std::string_view section, std::string_view key, std::string_view value) {
   store_.setValue(path(section, key), toDisplay(value));
   store_.sync();

@@ -26,7 +26,7 @@ void CellEditors::addButton(Control& control, const char* icon, const QString& t
   button->setObjectName(toDisplay(control.name));
   button->setToolTip(toolTip);
   button->setAccessibleName(name);
-  button->setFocusPolicy(Qt::NoFocus);  // what is typed goes on to the entry
+  button->setFocusPolicy(Qt::NoFocus);  // keys go to the entry
   button->setCursor(Qt::ArrowCursor);
   button->setAutoFillBackground(true);
   button->hide();
@@ -44,11 +44,12 @@ void CellEditors::connectAll() {
   QObject::connect(&entry_, &EntryEdit::clicked, &entry_, [this] {
     if (sheet_.btnCombo.visible) run_([this] { sheet_.txtEntry_Click(); });
   });
-  QObject::connect(&entry_, &EntryEdit::searched, &entry_, [this](const QString& typed) { search(typed); });
+  QObject::connect(&entry_, &EntryEdit::searchRequested, &entry_,
+                   [this](const QString& typed) { search(typed); });
   QObject::connect(&list_, &ListPopup::chosen, &list_, [this](int entry) { choose(entry); });
-  QObject::connect(&list_, &ListPopup::movedOn, &list_, [this](int entry, bool forward) {
+  QObject::connect(&list_, &ListPopup::chosenByTab, &list_, [this](int entry, bool forward) {
     choose(entry);
-    emit entry_.commanded(forward ? EntryCommand::Next : EntryCommand::Previous);
+    emit entry_.commandRequested(forward ? EntryCommand::Next : EntryCommand::Previous);
   });
   QObject::connect(&list_, &ListPopup::closed, &list_, [this] {
     if (openList() != nullptr) run_([this] { sheet_.btnCombo_Click(); });
@@ -97,14 +98,14 @@ void CellEditors::refresh(const QString& name, const QRect& listPlace) {
     if (entry_.isReadOnly() != sheet_.entryIsReadOnly()) entry_.setReadOnly(sheet_.entryIsReadOnly());
     showText();
   }
-  // The focus must not wander on to whatever comes next.
+  // Otherwise hiding the entry would move the focus to the next widget.
   if (!sheet_.txtEntry.visible && entry_.hasFocus()) cells_.parentWidget()->setFocus(Qt::OtherFocusReason);
   entry_.setVisible(sheet_.txtEntry.visible);
   showButtons();
   showList(listPlace);
 }
 
-/// What is being typed stays as it is where it says the same.
+/// Different display texts may stand for the same library text: keeps the one being typed.
 void CellEditors::showText() {
   const auto typed = entry_.text();
   if ((isPath() ? fromDisplayPath(typed) : fromDisplay(typed)) == sheet_.txtEntry.text) return;
@@ -123,7 +124,7 @@ void CellEditors::showList(const QRect& listPlace) {
     list_.hide();
   } else if (!list_.isVisible()) {
     list_.fill(open->list);
-    list_.mark(toDisplay(sheet_.txtEntry.text));
+    list_.setCurrentText(toDisplay(sheet_.txtEntry.text));
     list_.setName(entry_.accessibleName());
     const QRect opener(entry_.mapToGlobal(QPoint()),
                        buttons_.front().widget->mapToGlobal(buttons_.front().widget->rect().bottomRight()));
@@ -138,13 +139,13 @@ void CellEditors::choose(int entry) {
   focusEntry();
 }
 
-/// The list is closed, and the entry that fits is taken at once.
+/// Typing in a closed list takes the matching entry at once.
 void CellEditors::search(const QString& typed) {
   if (!sheet_.btnCombo.visible) return;
   const auto& list =
       sheet_.row(sheet_.cursorRow()).Kind() == KindSortedList ? sheet_.lstSortedList : sheet_.lstList;
   list_.fill(list.list);
-  list_.mark(toDisplay(sheet_.txtEntry.text));
+  list_.setCurrentText(toDisplay(sheet_.txtEntry.text));
   const int entry = list_.search(typed);
   if (entry >= 0) run_([&] { sheet_.type(list.list[static_cast<std::size_t>(entry)]); });
 }
@@ -162,7 +163,7 @@ void CellEditors::focusEntry() {
   if (entry_.isHidden()) return;
   entry_.setFocus(Qt::OtherFocusReason);
   if (sheet_.btnCombo.visible) {
-    entry_.deselect();  // it is for choosing
+    entry_.deselect();  // its text cannot be edited
   } else {
     entry_.selectAll();
   }

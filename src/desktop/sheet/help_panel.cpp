@@ -12,9 +12,9 @@
 namespace nimbrel {
 namespace {
 
-constexpr int labelLeft = 4;  // pixels, so that a text does not touch the window's edge
+constexpr int labelLeft = 4;  // pixels, so that texts do not touch the edge of the window
 
-/// The usual blue cannot be read on a dark ground.
+/// The default blue is unreadable on a dark background.
 QColor linkColour(const QPalette& palette) {
   constexpr int middle = 128;
   const auto link = palette.color(QPalette::Link);
@@ -23,7 +23,7 @@ QColor linkColour(const QPalette& palette) {
   return isDark && link.lightness() <= middle ? QColor::fromRgb(lightBlue) : link;
 }
 
-/// A label would be read out as mere text.
+/// A screen reader would read a QLabel as plain text.
 class AccessibleLink : public QAccessibleWidget {
  public:
   explicit AccessibleLink(LinkLabel& link) : QAccessibleWidget(&link, QAccessible::Link), link_(link) {}
@@ -46,8 +46,8 @@ QAccessibleInterface* accessibleLink(const QString&, QObject* object) {
   return link == nullptr ? nullptr : new AccessibleLink(*link);
 }
 
-void tellOfLinks() {
-  [[maybe_unused]] static const bool isTold = (QAccessible::installFactory(accessibleLink), true);
+void installAccessibleLinks() {
+  [[maybe_unused]] static const bool isInstalled = (QAccessible::installFactory(accessibleLink), true);
 }
 
 void setTextOf(QLabel& label, const QString& text) {
@@ -57,7 +57,7 @@ void setTextOf(QLabel& label, const QString& text) {
 }  // namespace
 
 LinkLabel::LinkLabel(QWidget* parent) : QLabel(parent) {
-  tellOfLinks();
+  installAccessibleLinks();
   setTextFormat(Qt::RichText);
   setFocusPolicy(Qt::TabFocus);  // a click leaves the focus to the entry
   connect(this, &QLabel::linkActivated, this, &LinkLabel::followed);
@@ -123,7 +123,7 @@ void HelpPanel::refresh() {
   setTextOf(caption_, toDisplay(sheet_.HelpLabel1.text));
   const auto text = toDisplay(sheet_.HelpLabel2.text);
   setTextOf(text_, text);
-  // The panel may cut it off.
+  // The panel may cut off the text.
   const auto toolTip = text.isEmpty() ? text : "<p>" + text.toHtmlEscaped() + "</p>";
   if (text_.toolTip() != toolTip) text_.setToolTip(toolTip);
   showLink(moreHelp_, sheet_.lblMoreHelpLink);
@@ -146,7 +146,7 @@ void HelpPanel::layOut(const SheetLayout& layout) {
   placeCaption();
 }
 
-/// The links stand in the caption's line; it ends ahead of them.
+/// The links are on the same line as the caption, which ends before them.
 void HelpPanel::placeCaption() {
   constexpr int gap = 8;
   const int end = moreHelp_.isHidden() ? width() : moreHelp_.x() - gap;

@@ -26,7 +26,7 @@ int HelpSplitter::draggedTop(int pixelsFromTop) const {
 
 void HelpSplitter::mousePressEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
-  emit dragBegun();
+  emit dragStarted();
   shadow_.setGeometry(toPixels(draggingShadow(toTwips(geometry()))));
   shadow_.show();
   shadow_.raise();
@@ -48,7 +48,7 @@ void HelpSplitter::keyPressEvent(QKeyEvent* event) {
     QWidget::keyPressEvent(event);
     return;
   }
-  emit dragBegun();
+  emit dragStarted();
   emit moved(draggedTop(event->key() == Qt::Key_Up ? -step : step));
 }
 

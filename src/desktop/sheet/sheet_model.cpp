@@ -13,7 +13,7 @@ QString stateName(int col) { return toDisplay(stateNames[slotOf(col)]); }
 }  // namespace
 
 SheetModel::SheetModel(const PropertySheet& sheet, QObject* parent)
-    : QAbstractTableModel(parent), sheet_(sheet), seen_(static_cast<std::size_t>(sheet.RowCount())) {
+    : QAbstractTableModel(parent), sheet_(sheet), appearances_(static_cast<std::size_t>(sheet.RowCount())) {
   const bool hasHeadings = std::ranges::any_of(
       sheet.table().rows, [](const PropertyRow* row) { return row->Kind() == KindGroup; });
   if (hasHeadings) indent_ = "  ";
@@ -23,29 +23,29 @@ bool SheetModel::isOpen(int row, int col) const {
   return sheet_.Editing() && sheet_.cursorRow() == row && sheet_.cursorColumn() == col;
 }
 
-SheetModel::Sight SheetModel::sightOf(int row, int col) const {
-  Sight sight{sheet_.Shown(row, col), {}, isOpen(row, col)};
-  if (sheet_.row(row).Kind() == KindColour) sight.swatch = sheet_.swatch(row, col);
-  return sight;
+SheetModel::Appearance SheetModel::appearanceOf(int row, int col) const {
+  Appearance appearance{sheet_.Shown(row, col), {}, isOpen(row, col)};
+  if (sheet_.row(row).Kind() == KindColour) appearance.swatch = sheet_.swatch(row, col);
+  return appearance;
 }
 
 void SheetModel::sync() {
   for (int row = 0; row < sheet_.RowCount(); ++row) {
     for (const int col : valueColumns) {
       if (col >= columnCount() || !sheet_.row(row).takes(col)) continue;
-      auto& seen = seen_[static_cast<std::size_t>(row)][slotOf(col)];
-      auto now = sightOf(row, col);
-      if (now == seen) continue;
-      seen = std::move(now);
+      auto& last = appearances_[static_cast<std::size_t>(row)][slotOf(col)];
+      auto now = appearanceOf(row, col);
+      if (now == last) continue;
+      last = std::move(now);
       emit dataChanged(index(row, col), index(row, col));
     }
   }
   const int openRow = sheet_.Editing() ? sheet_.cursorRow() : -1;
   const int openColumn = sheet_.Editing() ? sheet_.cursorColumn() : -1;
-  for (const int row : {std::exchange(seenOpenRow_, openRow), openRow}) {
+  for (const int row : {std::exchange(lastOpenRow_, openRow), openRow}) {
     if (row >= 0) emit dataChanged(index(row, column::Caption), index(row, column::Caption));
   }
-  if (std::exchange(seenOpenColumn_, openColumn) != openColumn) {
+  if (std::exchange(lastOpenColumn_, openColumn) != openColumn) {
     emit headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
   }
 }

@@ -17,7 +17,7 @@ class ControlBinding {
   virtual ~ControlBinding() = default;
 
   /// Updates the widget from the control, only where they differ, and without raising an event.
-  virtual void show() = 0;
+  virtual void refresh() = 0;
 };
 
 /// Binds a control to a widget. Throws `std::logic_error` if a widget of this class cannot show the control.

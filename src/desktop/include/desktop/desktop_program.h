@@ -23,7 +23,7 @@ class DesktopProgram {
   DesktopProgram& operator=(const DesktopProgram&) = delete;
   ~DesktopProgram();
 
-  /// `commandLine` is the name of a menu file, or empty.
+  /// `commandLine` is the path of a menu file, or empty.
   void start(const std::string& commandLine);
 
   frmMain& main() { return main_; }

@@ -27,7 +27,7 @@ class FormWindow : public QDialog {
   /// The form has run an action of the user, and the window has been refreshed.
   void actionFinished();
   /// The user has pressed F1.
-  void helpWanted();
+  void helpRequested();
 
  protected:
   void closeEvent(QCloseEvent* event) override;

@@ -13,7 +13,7 @@
 
 namespace nimbrel {
 
-/// A drawing by its name, in the ink of the palette of now.
+/// Returns an icon by its name, in the colours of the current palette.
 using IconSource = std::function<QIcon(const char* name)>;
 
 /// The widgets over the open cell: the entry, the small buttons and the list. They show the controls of the sheet.
@@ -22,21 +22,21 @@ class CellEditors {
   /// `cells` is the grid's viewport, which clips the editors. `run` runs the user's actions on the sheet.
   CellEditors(PropertySheet& sheet, QWidget& cells, IconSource icons, ActionRunner run);
 
-  /// Texts and visibility, then the list, which drops down at `listPlace` on the screen.
+  /// Updates the widgets from the sheet. If the list is open, it drops down at `listPlace` on the screen.
   void refresh(const QString& name, const QRect& listPlace);
-  /// Places within `cells`.
+  /// The places are relative to `cells`.
   void place(const QRect& entry, const QRect& button, const QRect& replicate);
-  /// Another cell is open than before: nothing of what was typed there is left to be taken back.
+  /// Another cell has been opened: clears the undo history of the entry.
   void begin();
   void setIconSize(int side);
-  /// The palette has changed; each is drawn again when it is needed.
+  /// After a change of the palette. Each icon is drawn again when it is needed.
   void forgetIcons();
 
   EntryEdit& entry() { return entry_; }
   ListPopup& list() { return list_; }
-  /// Presses the button of the open cell's kind, if it has one.
+  /// Clicks the button of the open cell, if it has one.
   void pressButton();
-  /// A clicked button has its cell typed into again; all of the text is selected.
+  /// Gives the focus to the entry and selects all of its text.
   void focusEntry();
 
  private:

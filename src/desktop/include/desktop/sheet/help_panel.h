@@ -9,7 +9,7 @@
 
 namespace nimbrel {
 
-/// A label that does something. One press of the tabulator reaches it, Enter or the space bar follows it.
+/// A label with a single link, which is one tab stop. Enter and the space bar follow the link.
 class LinkLabel : public QLabel {
   Q_OBJECT
 
@@ -26,7 +26,7 @@ class LinkLabel : public QLabel {
   void paintEvent(QPaintEvent* event) override;
 };
 
-/// What the sheet says of the open cell's property, and the links to more.
+/// Describes the property of the open cell, with links to its help topic and its live example.
 class HelpPanel : public QWidget {
   Q_OBJECT
 
@@ -36,7 +36,7 @@ class HelpPanel : public QWidget {
 
   void refresh();
   void layOut(const SheetLayout& layout);
-  /// Hands the focus to the first link. False: none is there.
+  /// Gives the focus to the first link. Returns false if no link is visible.
   bool focusLinks();
 
  protected:
