@@ -1,6 +1,7 @@
 #include "desktop/folder_view.h"
 
 #include <QDir>
+#include <QScopedValueRollback>
 
 namespace nimbrel {
 
@@ -11,9 +12,12 @@ FolderView::FolderView(QWidget* parent) : QTreeView(parent), folders_(new QFileS
   setHeaderHidden(true);
   for (int column = 1; column < folders_->columnCount(); ++column) hideColumn(column);
   setAccessibleName("Folder");
-  // Rows are loaded in the background, which moves the row that was scrolled to.
+  // Rows are loaded in the background and sorted later, both of which move the row that was scrolled to.
   connect(folders_, &QFileSystemModel::directoryLoaded, this, [this](const QString& path) {
-    if (isLoading_) scrollTo(currentIndex());
+    if (isLoading_) {
+      folders_->sort(0);
+      scrollToFolder();
+    }
     if (QDir::cleanPath(path) == QDir::cleanPath(folder_)) isLoading_ = false;
   });
   connect(this, &QTreeView::expanded, this, [this] { isLoading_ = isLoading_ && isSettingFolder_; });
@@ -23,11 +27,17 @@ void FolderView::setFolder(const QString& path) {
   folder_ = path;
   const auto index = folders_->index(path);
   if (!index.isValid()) return;
-  isSettingFolder_ = isLoading_ = true;
+  isLoading_ = true;
+  const QScopedValueRollback rollback(isSettingFolder_, true);
   setCurrentIndex(index);
   expand(index);
-  scrollTo(index);
-  isSettingFolder_ = false;
+  scrollToFolder();
+}
+
+/// Scrolling expands the parents of the folder, which must not look like the user's doing.
+void FolderView::scrollToFolder() {
+  const QScopedValueRollback rollback(isSettingFolder_, true);
+  scrollTo(currentIndex());
 }
 
 void FolderView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {

@@ -6,7 +6,9 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPointer>
 #include <QSettings>
+#include <QTemporaryFile>
 #include <QTest>
 #include <QWebEnginePage>
 #include <QWebEngineView>
@@ -39,7 +41,12 @@ fs::path programCopy() {
 }  // namespace
 
 std::unique_ptr<QApplication> offscreenApplication(int& argc, char** argv) {
-  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  static QTemporaryFile screen;
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && screen.open()) {
+    screen.write(R"({"screens": [{"name": "screen", "x": 0, "y": 0, "width": 1920, "height": 1440}]})");
+    screen.close();
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screen.fileName().toUtf8());
+  }
   if (geteuid() == 0) qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
   qputenv("QTWEBENGINE_CHROMIUM_FLAGS", "--disable-gpu");
   QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
@@ -105,7 +112,12 @@ void DesktopRun::answerModalWindow() {
     return;
   }
   // Not from this timer, which would not tick again until the answer returns: an answer may open further windows.
-  QTimer::singleShot(0, modal, [answer = std::move(answers_.front()), modal] { answer(*modal); });
+  QTimer::singleShot(0, modal, [this, answer = std::move(answers_.front()), window = QPointer(modal)] {
+    answer(*window);
+    if (window == nullptr || !window->isVisible()) return;
+    problems_ += "left open: " + window->windowTitle();
+    QTest::keyClick(window, Qt::Key_Escape);
+  });
   answers_.pop_front();
 }
 
@@ -116,27 +128,22 @@ QStringList DesktopRun::problems() const {
 }
 
 void DesktopRun::answerWith(const char* button) {
-  answer([this, name = QString(button)](QWidget& window) {
+  answer([name = QString(button)](QWidget& window) {
     for (auto* one : window.findChildren<QAbstractButton*>()) {
       if (one->objectName() == name || one->text().remove('&') == name) {
         QTest::mouseClick(one, Qt::LeftButton);
         return;
       }
     }
-    problems_ += "no button " + name + " in " + window.windowTitle();
-    QTest::keyClick(&window, Qt::Key_Escape);
   });
 }
 
 void DesktopRun::answerWithFile(const QString& path) {
-  answer([this, path](QWidget& window) {
-    if (auto* name = window.findChild<QLineEdit*>("fileNameEdit")) {
-      name->setText(path);
-      QMetaObject::invokeMethod(&window, "accept");
-      return;
-    }
-    problems_ += "no file chooser: " + window.windowTitle();
-    QTest::keyClick(&window, Qt::Key_Escape);
+  answer([path](QWidget& window) {
+    auto* name = window.findChild<QLineEdit*>("fileNameEdit");
+    if (name == nullptr) return;
+    name->setText(path);
+    QMetaObject::invokeMethod(&window, "accept");
   });
 }
 

@@ -24,7 +24,6 @@ class DesktopRun {
  public:
   /// Shows neither tip nor preview at the start.
   DesktopRun();
-  ~DesktopRun();
 
   void start(const QString& commandLine = {});
   DesktopProgram& program() { return *program_; }

@@ -23,6 +23,8 @@ class FolderView : public QTreeView {
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
  private:
+  void scrollToFolder();
+
   QFileSystemModel* folders_;
   QString folder_;
   bool isSettingFolder_ = false;
