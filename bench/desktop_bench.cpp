@@ -1,5 +1,5 @@
-// Prints the desktop program's figures, each with its limit. `nimbrel_desktop_bench empty FOLDER` and
-// `... program FOLDER` are the two starts that it compares, in processes of their own.
+// Measures the desktop program and prints each figure with its limit. It compares two starts, which run in processes
+// of their own as `nimbrel_desktop_bench empty FOLDER` and `nimbrel_desktop_bench program FOLDER`.
 #include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
@@ -11,7 +11,7 @@
 #include <numeric>
 
 #include "desktop/desktop_run.h"
-#include "desktop/shown_text.h"
+#include "desktop/display_text.h"
 #include "large_document.h"
 #include "persistence/menu_file.h"
 
@@ -40,7 +40,7 @@ void verdict(const std::string& what, double value, double limit) {
             << '\n';
 }
 
-/// Until the event loop is idle for the first time behind the window's appearance.
+/// Returns once the event loop is idle after the window has appeared.
 int showAndEnd(QWidget& window) {
   if (!QTest::qWaitForWindowExposed(&window)) return 1;
   QCoreApplication::processEvents();
@@ -48,10 +48,9 @@ int showAndEnd(QWidget& window) {
 }
 
 int startProgram(const QString& folder) {
-  auto& application = *static_cast<Application*>(qApp);
   QSettings::setPath(QSettings::IniFormat, QSettings::UserScope,
                      folder + "/../config");  // no tip, no preview
-  DesktopProgram program(application, folder.toStdString());
+  DesktopProgram program(folder.toStdString());
   program.start("");
   return showAndEnd(program.view());
 }
@@ -76,7 +75,8 @@ void compareStarts(const DesktopRun& run) {
 
 void workOnALargeMenu(DesktopRun& run) {
   constexpr int most = 32'767;
-  SaveMenuFile(*std::make_unique<HostFileSystem>(), heldPath(run.path("large.nbr")), largeDocument(most));
+  SaveMenuFile(*std::make_unique<HostFileSystem>(), fromDisplayPath(run.path("large.nbr")),
+               largeDocument(most));
   run.start(run.path("large.nbr"));
   auto& view = run.view();
   view.resize(1000, 700);
@@ -124,7 +124,7 @@ void previewAnEdit() {
     QTest::qWait(1500);  // the files of the last one are gone
     const auto name = QString("Name%1").arg(i);
     run.main().prctlItem.EnterCell(0, column::Normal);
-    run.main().prctlItem.type(held(name));
+    run.main().prctlItem.type(fromDisplay(name));
     times.push_back(milliseconds([&] {
       QTest::keyClick(&run.view(), Qt::Key_F12);
       waitFor([&] { return shows(name); });

@@ -1,4 +1,4 @@
-// Takes the pictures of docs/pictures from the running program, into the folder of its first argument.
+// Takes the pictures of docs/pictures from the running program, into the folder given as argument.
 #include <QAbstractItemView>
 #include <QDir>
 #include <QPalette>
@@ -21,10 +21,10 @@ class Photographer {
     if (!window.grab().save(path)) std::cerr << "cannot write " << path.toStdString() << '\n';
   }
 
-  /// A command whose window is taken and then closed; windows that come behind it likewise.
+  /// Runs a command and takes pictures of the modal windows that it opens one after another.
   void takeModal(const char* command, const std::vector<QString>& names) {
     for (const auto& name : names) {
-      run_.then([this, name](QWidget& window) {
+      run_.answer([this, name](QWidget& window) {
         if (name == "gallery") QTest::qWait(2500);
         take(window, name);
         QTest::keyClick(&window, Qt::Key_Escape);
@@ -70,19 +70,19 @@ class Photographer {
 
  private:
   void compile() {
-    run_.then([this](QWidget& window) {
+    run_.answer([this](QWidget& window) {
       take(window, "compile-warning");
       QTest::mouseClick(window.findChild<QPushButton*>("cmdOk"), Qt::LeftButton);
     });
-    run_.thenChooseFile(run_.path("site/menu.js"));
+    run_.answerWithFile(run_.path("site/menu.js"));
     QDir().mkpath(run_.path("site"));
     run_.write("site/index.html", "<html><body></body></html>");
     run_.write("site/news.html", "<html><body></body></html>");
-    run_.then([this](QWidget& window) {
+    run_.answer([this](QWidget& window) {
       take(window, "compile-report");
       QTest::mouseClick(window.findChild<QPushButton*>("cmdYes"), Qt::LeftButton);
     });
-    run_.then([this](QWidget& window) {
+    run_.answer([this](QWidget& window) {
       QTest::qWait(500);
       take(window, "linking");
       QTest::keyClick(&window, Qt::Key_Escape);

@@ -1,44 +1,17 @@
 #include "desktop/application.h"
 
-#include <QDebug>
-#include <exception>
+#include <QApplication>
 
 #include "desktop/icons.h"
-#include "desktop/shown_text.h"
-#include "platform/file_error.h"
 
 namespace nimbrel {
 
-Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
-  setApplicationName("Nimbrel");
-  // No display name: the system would put it behind each of our titles.
-  setDesktopFileName("example.nimbrel.Nimbrel");
-  setQuitOnLastWindowClosed(false);
-  setWindowIcon(applicationIcon());
-}
-
-bool Application::notify(QObject* receiver, QEvent* event) {
-  try {
-    return QApplication::notify(receiver, event);
-  } catch (const std::exception& error) {
-    tell(error);
-  }
-  return true;
-}
-
-QString Application::textOf(const std::exception& error) {
-  const auto* file = dynamic_cast<const FileError*>(&error);
-  return file == nullptr ? QString::fromUtf8(error.what())
-                         : shownPath(file->finding().path) + ": " + shown(file->finding().text());
-}
-
-void Application::tell(const std::exception& error) const {
-  const auto text = textOf(error);
-  if (report) {
-    report(text);
-  } else {
-    qCritical().noquote() << text;
-  }
+void setUpApplication() {
+  QApplication::setApplicationName("Nimbrel");
+  // No display name: window managers would append it to our titles.
+  QApplication::setDesktopFileName("example.nimbrel.Nimbrel");
+  QApplication::setQuitOnLastWindowClosed(false);
+  QApplication::setWindowIcon(applicationIcon());
 }
 
 }  // namespace nimbrel

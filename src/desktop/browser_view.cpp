@@ -35,7 +35,7 @@ class LocalFilesOnly : public QWebEngineUrlRequestInterceptor {
   }
 };
 
-/// One for all browsers, which keeps nothing.
+/// One off-the-record profile for all browsers.
 QWebEngineProfile* profile() {
   static auto* one = [] {
     auto* made = new QWebEngineProfile(qApp);
@@ -90,11 +90,11 @@ void BrowserView::showCrash() {
   if (crashed_ == nullptr) {
     crashed_ = new QWidget(this);
     auto* layout = new QVBoxLayout(crashed_);
-    auto* text = new QLabel(tr("The page could not be shown any longer: the browser has stopped."), crashed_);
+    auto* text = new QLabel("The page could not be shown any longer: the browser has stopped.", crashed_);
     text->setWordWrap(true);
     text->setAlignment(Qt::AlignCenter);
-    auto* reload = new QPushButton(tr("Reload"), crashed_);
-    connect(reload, &QPushButton::clicked, this, &BrowserView::reloadWanted);
+    auto* reload = new QPushButton("Reload", crashed_);
+    connect(reload, &QPushButton::clicked, this, &BrowserView::reloadRequested);
     layout->addStretch();
     layout->addWidget(text);
     layout->addWidget(reload, 0, Qt::AlignHCenter);

@@ -6,8 +6,8 @@
 #include <QToolBar>
 #include <algorithm>
 
+#include "desktop/display_text.h"
 #include "desktop/icons.h"
-#include "desktop/shown_text.h"
 #include "shell/command_table.h"
 
 namespace nimbrel {
@@ -15,19 +15,19 @@ namespace {
 
 constexpr const char* topicProperty = "helpTopic";
 
-/// The drawing of a button: its key in small letters, with hyphens.
+/// The icon of a button is named after its key, in lower case and with hyphens.
 QString iconName(std::string_view key) {
   if (key == "Insert Menu into Webpage") return "link-menu";
-  return shown(key).toLower().replace(' ', '-');
+  return toDisplay(key).toLower().replace(' ', '-');
 }
 
-/// A number and a path that may lack its front. A path marks no key.
+/// A caption "1. PATH", whose path may be shortened at the front. An ampersand in the path is no mnemonic.
 QString recentFile(std::string_view caption) {
   constexpr std::string_view number = "1. ";
   constexpr std::string_view cut = "...";
   auto begin = std::min(number.size(), caption.size());
   if (caption.substr(begin).starts_with(cut)) begin += cut.size();
-  return shown(caption.substr(0, begin)) + shownPath(caption.substr(begin)).replace('&', "&&");
+  return toDisplay(caption.substr(0, begin)) + toDisplayPath(caption.substr(begin)).replace('&', "&&");
 }
 
 }  // namespace
@@ -40,19 +40,20 @@ CommandActions::CommandActions(QMainWindow& window) : QObject(&window), window_(
 }
 
 QAction* CommandActions::makeAction(std::string_view name, std::string_view caption) {
-  auto* action = new QAction(shown(caption), this);
+  auto* action = new QAction(toDisplay(caption), this);
   action->setMenuRole(QAction::NoRole);
   entries_.emplace(name, action);
-  connect(action, &QAction::triggered, this, [this, wanted = shown(name)] { emit commandWanted(wanted); });
+  connect(action, &QAction::triggered, this,
+          [this, wanted = toDisplay(name)] { emit commandTriggered(wanted); });
   return action;
 }
 
 void CommandActions::makeMenuBar() {
-  QMenu* menu = nullptr;     // of the bar
-  QMenu* deepest = nullptr;  // where entries go
+  QMenu* menu = nullptr;     // the current one of the bar
+  QMenu* deepest = nullptr;  // the menu or submenu that entries are added to
   for (const auto& entry : menuBar()) {
     if (entry.level == 0) {
-      deepest = menu = window_.menuBar()->addMenu(shown(entry.caption));
+      deepest = menu = window_.menuBar()->addMenu(toDisplay(entry.caption));
       menu->menuAction()->setProperty(topicProperty, entry.helpTopic);
       menu->installEventFilter(this);
       menu->setToolTipsVisible(false);
@@ -66,13 +67,13 @@ void CommandActions::makeMenuBar() {
     const auto* next = &entry + 1;
     const bool hasEntries = next != menuBar().data() + menuBar().size() && next->level > entry.level;
     if (hasEntries) {
-      deepest = menu->addMenu(shown(entry.caption));
+      deepest = menu->addMenu(toDisplay(entry.caption));
       entries_.emplace(entry.name, deepest->menuAction());
       continue;
     }
     auto* action = makeAction(entry.name, entry.caption);
-    action->setShortcut(QKeySequence(shown(entry.shortcut)));
-    // The preview is asked for again from its own window too.
+    action->setShortcut(QKeySequence(toDisplay(entry.shortcut)));
+    // Also works from the preview window, to refresh it.
     if (entry.name == "mnuToolsPreview") action->setShortcutContext(Qt::ApplicationShortcut);
     action->setCheckable((entry.state & Checked) != 0);
     action->setProperty(topicProperty, entry.helpTopic);
@@ -95,7 +96,7 @@ void CommandActions::makeContextMenus() {
 }
 
 void CommandActions::makeToolbar() {
-  auto* bar = window_.addToolBar(tr("Toolbar"));
+  auto* bar = window_.addToolBar("Toolbar");
   bar->setObjectName("tbToolBar");
   bar->setMovable(false);
   bar->setContextMenuPolicy(Qt::PreventContextMenu);
@@ -106,10 +107,10 @@ void CommandActions::makeToolbar() {
       bar->addSeparator();
       continue;
     }
-    auto* action = new QAction(shown(described.toolTip), this);
+    auto* action = new QAction(toDisplay(described.toolTip), this);
     buttons_.emplace(described.key, action);
     connect(action, &QAction::triggered, this,
-            [this, key = shown(described.key)] { emit commandWanted(key); });
+            [this, key = toDisplay(described.key)] { emit commandTriggered(key); });
     bar->addAction(action);
   }
 }
@@ -128,7 +129,7 @@ void CommandActions::refresh(const CommandStates& states) {
     const auto* state = states.find(name);
     if (state == nullptr) continue;
     const bool isFile = name.starts_with("mnuFileMRU");
-    const auto caption = isFile ? recentFile(state->caption) : shown(state->caption);
+    const auto caption = isFile ? recentFile(state->caption) : toDisplay(state->caption);
     if (!action->isSeparator() && action->text() != caption) action->setText(caption);
     action->setEnabled(state->enabled);
     action->setVisible(state->visible);
@@ -160,7 +161,7 @@ bool CommandActions::eventFilter(QObject* watched, QEvent* event) {
   }
   const auto* entry = menu->activeAction() != nullptr ? menu->activeAction() : menu->menuAction();
   const int topic = entry->property(topicProperty).toInt();
-  if (topic != 0) emit helpWanted(topic);
+  if (topic != 0) emit helpRequested(topic);
   return topic != 0;
 }
 

@@ -15,62 +15,60 @@
 #include <stdexcept>
 
 #include "desktop/browser_view.h"
+#include "desktop/display_text.h"
 #include "desktop/folder_view.h"
-#include "desktop/shown_text.h"
 
 namespace nimbrel {
 namespace {
 
-using Act = std::function<void(const std::function<void()>&)>;
-
-/// What all widgets have in common.
+/// What all bindings have in common.
 template <class Widget>
 class Binding : public ControlBinding {
  public:
-  Binding(Form& form, Control& control, Widget& widget, Act act)
-      : form_(form), control_(control), widget_(widget), act_(std::move(act)) {}
+  Binding(Form& form, Control& control, Widget& widget, ActionRunner run)
+      : form_(form), control_(control), widget_(widget), run_(std::move(run)) {}
 
-  void show() override {
+  void refresh() override {
     const QSignalBlocker quiet(&widget_);
     if (widget_.isEnabled() != control_.enabled) widget_.setEnabled(control_.enabled);
     if (widget_.isHidden() == control_.visible) widget_.setVisible(control_.visible);
-    showContent();
+    refreshContent();
   }
 
  protected:
-  virtual void showContent() = 0;
+  virtual void refreshContent() = 0;
 
-  QString text(std::string_view heldText) const {
-    return widget_.property("paths").toBool() ? shownPath(heldText) : shown(heldText);
+  QString text(std::string_view libraryText) const {
+    return widget_.property("paths").toBool() ? toDisplayPath(libraryText) : toDisplay(libraryText);
   }
-  std::string typed(const QString& shownText) const {
-    return widget_.property("paths").toBool() ? heldPath(shownText) : held(shownText);
+  std::string typed(const QString& displayText) const {
+    return widget_.property("paths").toBool() ? fromDisplayPath(displayText) : fromDisplay(displayText);
   }
-  /// Texts of forms end their lines as files do.
-  QString lines(std::string_view heldText) const {
-    return text(heldText).replace("\r\n", "\n").replace('\r', '\n');
+  /// The texts of forms contain CR LF line ends.
+  QString lines(std::string_view libraryText) const {
+    return text(libraryText).replace("\r\n", "\n").replace('\r', '\n');
   }
 
   Form& form_;
   Control& control_;
   Widget& widget_;
-  Act act_;
+  ActionRunner run_;
 };
 
-/// A label that does something is a link, which the keyboard reaches too.
+/// A label with an event is shown as a link, which can also be reached by keyboard.
 class LabelBinding : public Binding<QLabel> {
  public:
-  LabelBinding(Form& form, Control& control, QLabel& label, Act act)
-      : Binding(form, control, label, std::move(act)) {
+  LabelBinding(Form& form, Control& control, QLabel& label, ActionRunner run)
+      : Binding(form, control, label, std::move(run)) {
     if (!control_.event) return;
     label.setTextFormat(Qt::RichText);
     label.setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
     QObject::connect(&label, &QLabel::linkActivated, &label,
-                     [this] { act_([this] { form_.click(control_); }); });
+                     [this] { run_([this] { form_.click(control_); }); });
   }
 
  private:
-  void showContent() override {
+  void refreshContent() override {
     auto wanted = lines(control_.text);
     if (control_.event) wanted = "<a href=\"#\">" + wanted.toHtmlEscaped() + "</a>";
     if (widget_.text() != wanted) widget_.setText(wanted);
@@ -80,37 +78,37 @@ class LabelBinding : public Binding<QLabel> {
 
 class ButtonBinding : public Binding<QAbstractButton> {
  public:
-  ButtonBinding(Form& form, Control& control, QAbstractButton& button, Act act)
-      : Binding(form, control, button, std::move(act)) {
+  ButtonBinding(Form& form, Control& control, QAbstractButton& button, ActionRunner run)
+      : Binding(form, control, button, std::move(run)) {
     QObject::connect(&button, &QAbstractButton::clicked, &button,
-                     [this] { act_([this] { form_.click(control_); }); });
+                     [this] { run_([this] { form_.click(control_); }); });
   }
 
  private:
-  void showContent() override {
+  void refreshContent() override {
     const auto wanted = text(control_.text);
     if (!wanted.isEmpty() && widget_.text() != wanted) widget_.setText(wanted);
   }
 };
 
-/// A check box or an option.
+/// A check box or a radio button.
 class MarkBinding : public Binding<QAbstractButton> {
  public:
-  MarkBinding(Form& form, Control& control, QAbstractButton& button, Act act)
-      : Binding(form, control, button, std::move(act)) {
+  MarkBinding(Form& form, Control& control, QAbstractButton& button, ActionRunner run)
+      : Binding(form, control, button, std::move(run)) {
     button.setAutoExclusive(false);
     if (control.kind == ControlKind::Option) joinGroup();
     QObject::connect(&button, &QAbstractButton::toggled, &button, [this](bool checked) {
       if (control_.kind == ControlKind::Check) {
-        act_([this, checked] { form_.check(control_, checked); });
+        run_([this, checked] { form_.check(control_, checked); });
       } else if (checked) {
-        act_([this] { form_.click(control_); });
+        run_([this] { form_.click(control_); });
       }
     });
   }
 
  private:
-  /// The arrow keys go round in it.
+  /// The arrow keys cycle through the options of a group.
   void joinGroup() {
     const auto name = QString("group%1").arg(control_.group);
     auto* window = widget_.window();
@@ -122,11 +120,11 @@ class MarkBinding : public Binding<QAbstractButton> {
     group->addButton(&widget_);
   }
 
-  void showContent() override {
+  void refreshContent() override {
     const auto wanted = text(control_.text);
     if (widget_.text() != wanted) widget_.setText(wanted);
     if (widget_.isChecked() == control_.value) return;
-    // A group lets go of its one chosen button only as it is taken for another.
+    // An exclusive group does not let its checked button be unchecked.
     if (widget_.group() != nullptr) widget_.group()->setExclusive(false);
     widget_.setChecked(control_.value);
     if (widget_.group() != nullptr) widget_.group()->setExclusive(true);
@@ -135,31 +133,31 @@ class MarkBinding : public Binding<QAbstractButton> {
 
 class TextBinding : public Binding<QLineEdit> {
  public:
-  TextBinding(Form& form, Control& control, QLineEdit& edit, Act act)
-      : Binding(form, control, edit, std::move(act)) {
+  TextBinding(Form& form, Control& control, QLineEdit& edit, ActionRunner run)
+      : Binding(form, control, edit, std::move(run)) {
     QObject::connect(&edit, &QLineEdit::textEdited, &edit, [this](const QString& entry) {
-      act_([this, entry] { form_.enter(control_, typed(entry)); });
+      run_([this, entry] { form_.enter(control_, typed(entry)); });
     });
   }
 
  private:
-  void showContent() override {
-    // What is being typed stays as it is where it says the same.
+  void refreshContent() override {
+    // Different display texts may stand for the same library text: keep the one being typed.
     if (typed(widget_.text()) != control_.text) widget_.setText(text(control_.text));
   }
 };
 
 class ComboBinding : public Binding<QComboBox> {
  public:
-  ComboBinding(Form& form, Control& control, QComboBox& box, Act act)
-      : Binding(form, control, box, std::move(act)) {
+  ComboBinding(Form& form, Control& control, QComboBox& box, ActionRunner run)
+      : Binding(form, control, box, std::move(run)) {
     QObject::connect(&box, &QComboBox::activated, &box, [this](int index) {
-      act_([this, index] { form_.choose(control_, {static_cast<std::size_t>(index)}); });
+      run_([this, index] { form_.choose(control_, {static_cast<std::size_t>(index)}); });
     });
   }
 
  private:
-  void showContent() override {
+  void refreshContent() override {
     if (entries_ != control_.list) {
       entries_ = control_.list;
       widget_.clear();
@@ -174,14 +172,14 @@ class ComboBinding : public Binding<QComboBox> {
 
 class ListBinding : public Binding<QListWidget> {
  public:
-  ListBinding(Form& form, Control& control, QListWidget& list, Act act)
-      : Binding(form, control, list, std::move(act)) {
+  ListBinding(Form& form, Control& control, QListWidget& list, ActionRunner run)
+      : Binding(form, control, list, std::move(run)) {
     list.setSelectionMode(control.manyAtOnce ? QAbstractItemView::ExtendedSelection
                                              : QAbstractItemView::SingleSelection);
     QObject::connect(&list, &QListWidget::itemSelectionChanged, &list,
-                     [this] { act_([this] { form_.choose(control_, selectedRows()); }); });
+                     [this] { run_([this] { form_.choose(control_, selectedRows()); }); });
     const auto doubled = [this] {
-      if (control_.doubleClick) act_(control_.doubleClick);
+      if (control_.doubleClick) run_(control_.doubleClick);
     };
     QObject::connect(&list, &QListWidget::itemDoubleClicked, &list, doubled);
     for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
@@ -200,7 +198,7 @@ class ListBinding : public Binding<QListWidget> {
     return rows;
   }
 
-  void showContent() override {
+  void refreshContent() override {
     if (entries_ != control_.list) {
       entries_ = control_.list;
       widget_.clear();
@@ -216,31 +214,31 @@ class ListBinding : public Binding<QListWidget> {
 
 class FolderBinding : public Binding<FolderView> {
  public:
-  FolderBinding(Form& form, Control& control, FolderView& view, Act act)
-      : Binding(form, control, view, std::move(act)) {
+  FolderBinding(Form& form, Control& control, FolderView& view, ActionRunner run)
+      : Binding(form, control, view, std::move(run)) {
     QObject::connect(&view, &FolderView::folderChosen, &view, [this](const QString& folder) {
-      act_([this, folder] { form_.enter(control_, heldPath(folder)); });
+      run_([this, folder] { form_.enter(control_, fromDisplayPath(folder)); });
     });
   }
 
  private:
-  void showContent() override {
-    if (heldPath(widget_.folder()) != control_.text) widget_.setFolder(shownPath(control_.text));
+  void refreshContent() override {
+    if (fromDisplayPath(widget_.folder()) != control_.text) widget_.setFolder(toDisplayPath(control_.text));
   }
 };
 
 class TabsBinding : public Binding<QTabBar> {
  public:
-  TabsBinding(Form& form, Control& control, QTabBar& tabs, Act act)
-      : Binding(form, control, tabs, std::move(act)) {
-    for (const auto& caption : control.list) tabs.addTab(shown(caption));
+  TabsBinding(Form& form, Control& control, QTabBar& tabs, ActionRunner run)
+      : Binding(form, control, tabs, std::move(run)) {
+    for (const auto& caption : control.list) tabs.addTab(toDisplay(caption));
     QObject::connect(&tabs, &QTabBar::currentChanged, &tabs, [this](int index) {
-      act_([this, index] { form_.choose(control_, {static_cast<std::size_t>(index)}); });
+      run_([this, index] { form_.choose(control_, {static_cast<std::size_t>(index)}); });
     });
   }
 
  private:
-  void showContent() override {
+  void refreshContent() override {
     const int index = control_.selected.empty() ? 0 : static_cast<int>(control_.selected.front());
     if (widget_.currentIndex() != index) widget_.setCurrentIndex(index);
   }
@@ -251,7 +249,7 @@ class FrameBinding : public Binding<QWidget> {
   using Binding::Binding;
 
  private:
-  void showContent() override {
+  void refreshContent() override {
     auto* box = qobject_cast<QGroupBox*>(&widget_);
     if (box != nullptr && box->title() != text(control_.text)) box->setTitle(text(control_.text));
   }
@@ -259,25 +257,25 @@ class FrameBinding : public Binding<QWidget> {
 
 class BrowserBinding : public Binding<BrowserView> {
  public:
-  BrowserBinding(Form& form, Control& control, BrowserView& view, Act act)
-      : Binding(form, control, view, std::move(act)) {
+  BrowserBinding(Form& form, Control& control, BrowserView& view, ActionRunner run)
+      : Binding(form, control, view, std::move(run)) {
     QObject::connect(&view, &BrowserView::documentComplete, &view, [this] {
-      if (control_.event) act_(control_.event);
+      if (control_.event) run_(control_.event);
     });
-    QObject::connect(&view, &BrowserView::reloadWanted, &view, [this] {
+    QObject::connect(&view, &BrowserView::reloadRequested, &view, [this] {
       if (control_.reload) {
-        act_(control_.reload);
+        run_(control_.reload);
       } else {
-        widget_.navigate(shownPath(control_.text));
+        widget_.navigate(toDisplayPath(control_.text));
       }
     });
   }
 
  private:
-  void showContent() override {
+  void refreshContent() override {
     if (visits_ == control_.visits) return;
     visits_ = control_.visits;
-    widget_.navigate(shownPath(control_.text));
+    widget_.navigate(toDisplayPath(control_.text));
   }
 
   std::size_t visits_ = 0;
@@ -285,20 +283,21 @@ class BrowserBinding : public Binding<BrowserView> {
 
 class TimerBinding : public ControlBinding {
  public:
-  TimerBinding(Control& control, QObject& owner, Act act) : control_(control), timer_(new QTimer(&owner)) {
+  TimerBinding(Control& control, QObject& owner, ActionRunner run)
+      : control_(control), timer_(new QTimer(&owner)) {
     timer_->setInterval(control.interval);
     QObject::connect(timer_, &QTimer::timeout, timer_,
-                     [this, act = std::move(act)] { act([this] { control_.event(); }); });
+                     [this, run = std::move(run)] { run([this] { control_.event(); }); });
   }
 
   TimerBinding(const TimerBinding&) = delete;
   TimerBinding& operator=(const TimerBinding&) = delete;
-  /// A window that goes ahead of its timer leaves nothing behind that the timer was to remove.
+  /// Timers remove temporary files. If the window closes first, they do so now.
   ~TimerBinding() override {
-    if (control_.value) control_.event();
+    if (control_.value) runAction(control_.event);
   }
 
-  void show() override {
+  void refresh() override {
     if (control_.value == timer_->isActive()) return;
     if (control_.value) {
       timer_->start();
@@ -313,26 +312,26 @@ class TimerBinding : public ControlBinding {
 };
 
 template <class Bound, class Widget>
-std::unique_ptr<ControlBinding> bindAs(Form& form, Control& control, QWidget& widget, Act& act) {
+std::unique_ptr<ControlBinding> bindAs(Form& form, Control& control, QWidget& widget, ActionRunner& run) {
   auto* fitting = qobject_cast<Widget*>(&widget);
   if (fitting == nullptr) return nullptr;
-  return std::make_unique<Bound>(form, control, *fitting, std::move(act));
+  return std::make_unique<Bound>(form, control, *fitting, std::move(run));
 }
 
-std::unique_ptr<ControlBinding> bindOfKind(Form& form, Control& control, QWidget& widget, Act& act) {
+std::unique_ptr<ControlBinding> bindOfKind(Form& form, Control& control, QWidget& widget, ActionRunner& run) {
   switch (control.kind) {
-    case ControlKind::Label: return bindAs<LabelBinding, QLabel>(form, control, widget, act);
-    case ControlKind::Button: return bindAs<ButtonBinding, QAbstractButton>(form, control, widget, act);
+    case ControlKind::Label: return bindAs<LabelBinding, QLabel>(form, control, widget, run);
+    case ControlKind::Button: return bindAs<ButtonBinding, QAbstractButton>(form, control, widget, run);
     case ControlKind::Option:
-    case ControlKind::Check: return bindAs<MarkBinding, QAbstractButton>(form, control, widget, act);
-    case ControlKind::Text: return bindAs<TextBinding, QLineEdit>(form, control, widget, act);
+    case ControlKind::Check: return bindAs<MarkBinding, QAbstractButton>(form, control, widget, run);
+    case ControlKind::Text: return bindAs<TextBinding, QLineEdit>(form, control, widget, run);
     case ControlKind::List:
-      if (auto bound = bindAs<ComboBinding, QComboBox>(form, control, widget, act)) return bound;
-      return bindAs<ListBinding, QListWidget>(form, control, widget, act);
-    case ControlKind::Folder: return bindAs<FolderBinding, FolderView>(form, control, widget, act);
-    case ControlKind::Tabs: return bindAs<TabsBinding, QTabBar>(form, control, widget, act);
-    case ControlKind::Frame: return bindAs<FrameBinding, QWidget>(form, control, widget, act);
-    case ControlKind::Browser: return bindAs<BrowserBinding, BrowserView>(form, control, widget, act);
+      if (auto bound = bindAs<ComboBinding, QComboBox>(form, control, widget, run)) return bound;
+      return bindAs<ListBinding, QListWidget>(form, control, widget, run);
+    case ControlKind::Folder: return bindAs<FolderBinding, FolderView>(form, control, widget, run);
+    case ControlKind::Tabs: return bindAs<TabsBinding, QTabBar>(form, control, widget, run);
+    case ControlKind::Frame: return bindAs<FrameBinding, QWidget>(form, control, widget, run);
+    case ControlKind::Browser: return bindAs<BrowserBinding, BrowserView>(form, control, widget, run);
     case ControlKind::Timer: break;
   }
   return nullptr;
@@ -340,13 +339,13 @@ std::unique_ptr<ControlBinding> bindOfKind(Form& form, Control& control, QWidget
 
 }  // namespace
 
-std::unique_ptr<ControlBinding> bindControl(Form& form, Control& control, QWidget& widget, Act act) {
-  if (auto bound = bindOfKind(form, control, widget, act)) return bound;
+std::unique_ptr<ControlBinding> bindControl(Form& form, Control& control, QWidget& widget, ActionRunner run) {
+  if (auto bound = bindOfKind(form, control, widget, run)) return bound;
   throw std::logic_error(std::string(form.name) + ": no widget for " + std::string(control.name));
 }
 
-std::unique_ptr<ControlBinding> bindTimer(Control& control, QObject& owner, Act act) {
-  return std::make_unique<TimerBinding>(control, owner, std::move(act));
+std::unique_ptr<ControlBinding> bindTimer(Control& control, QObject& owner, ActionRunner run) {
+  return std::make_unique<TimerBinding>(control, owner, std::move(run));
 }
 
 }  // namespace nimbrel

@@ -3,7 +3,7 @@
 #include <QDesktopServices>
 #include <QUrl>
 
-#include "desktop/shown_text.h"
+#include "desktop/display_text.h"
 
 namespace nimbrel {
 
@@ -11,7 +11,7 @@ void DesktopOpener::ShellExecuteA(std::string_view /*verb*/, std::string_view fi
                                   std::string_view /*parameters*/, std::string_view /*folder*/,
                                   int /*showCommand*/) {
   const bool isAddress = file.find("://") != std::string_view::npos || file.starts_with("mailto:");
-  QDesktopServices::openUrl(isAddress ? QUrl(shown(file)) : QUrl::fromLocalFile(shownPath(file)));
+  QDesktopServices::openUrl(isAddress ? QUrl(toDisplay(file)) : QUrl::fromLocalFile(toDisplayPath(file)));
 }
 
 }  // namespace nimbrel

@@ -1,14 +1,14 @@
 #include "desktop/desktop_program.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QFontDatabase>
 #include <QRandomGenerator>
 #include <QSessionManager>
 #include <QStandardPaths>
 
-#include "desktop/application.h"
 #include "desktop/browser_view.h"
-#include "desktop/shown_text.h"
+#include "desktop/display_text.h"
+#include "desktop/run_action.h"
 #include "platform/posix/host_paths.h"
 #include "text/product.h"
 
@@ -20,14 +20,14 @@ QString userFolder(QStandardPaths::StandardLocation kind) { return QStandardPath
 std::vector<std::string> installedFonts() {
   std::vector<std::string> fonts;
   for (const auto& family : QFontDatabase::families()) {
-    if (!QFontDatabase::isPrivateFamily(family)) fonts.push_back(held(family));
+    if (!QFontDatabase::isPrivateFamily(family)) fonts.push_back(fromDisplay(family));
   }
   return fonts;
 }
 
 }  // namespace
 
-DesktopProgram::DesktopProgram(Application& application, const std::string& programFolder)
+DesktopProgram::DesktopProgram(const std::string& programFolder)
     : help_(QString::fromStdString(programFolder) + "/nbrhelp.hlp",
             userFolder(QStandardPaths::CacheLocation)),
       fileTypes_(userFolder(QStandardPaths::GenericDataLocation), QCoreApplication::applicationFilePath()),
@@ -39,35 +39,27 @@ DesktopProgram::DesktopProgram(Application& application, const std::string& prog
   BrowserView::setReadableFolder(QString::fromStdString(programFolder));
   asker_.setMainWindow(&view_);
   asker_.setHelp(&help_);
-  asker_.onWaiting([this](bool isWaiting) { view_.setWaiting(isWaiting); });
+  asker_.onModalChange([this](bool isOpen) { view_.setModalOpen(isOpen); });
   help_.onMissing([this](const QString& file) {
     asker_.MsgBox(
-        {.title = std::string(productTitle), .text = held("The help file cannot be opened: " + file)});
+        {.title = std::string(productTitle), .text = fromDisplay("The help file cannot be opened: " + file)});
   });
-  application.report = [this](const QString& text) {
-    asker_.MsgBox({.title = std::string(productTitle), .text = held(text), .icon = BoxIcon::Critical});
-  };
-  QObject::connect(&application, &QGuiApplication::commitDataRequest, &view_,
-                   [this](QSessionManager& session) {
-                     if (!session.allowsInteraction() && !session.allowsErrorInteraction()) return;
-                     if (!mayEnd()) session.cancel();
-                     session.release();
-                   });
-  termination_.onAsked([this] { view_.close(); });
+  setErrorReporter([this](const QString& text) {
+    asker_.MsgBox({.title = std::string(productTitle), .text = fromDisplay(text), .icon = BoxIcon::Critical});
+  });
+  QObject::connect(qApp, &QGuiApplication::commitDataRequest, &view_, [this](QSessionManager& session) {
+    if (!session.allowsInteraction() && !session.allowsErrorInteraction()) return;
+    if (!view_.mayClose()) session.cancel();
+    session.release();
+  });
+  termination_.onRequest([this] { view_.close(); });
 }
 
-/// A save that fails keeps the session, and is told here: nothing may be thrown through the session's library.
-bool DesktopProgram::mayEnd() {
-  try {
-    return view_.mayClose();
-  } catch (const std::exception& error) {
-    static_cast<Application*>(qApp)->tell(error);
-    return false;
-  }
-}
+/// What fails from now on goes to the log: message boxes need the windows, which are about to be destroyed.
+DesktopProgram::~DesktopProgram() { setErrorReporter(nullptr); }
 
 void DesktopProgram::start(const std::string& commandLine) {
-  fileTypes_.publish();
+  runAction([this] { fileTypes_.publish(); });
   view_.start(commandLine);
 }
 

@@ -7,7 +7,7 @@
 #include <QStandardPaths>
 #include <array>
 
-#include "desktop/shown_text.h"
+#include "desktop/display_text.h"
 
 namespace nimbrel {
 namespace {
@@ -20,7 +20,7 @@ struct FileType {
 constexpr std::array types{FileType{".nbr", "application/x-nimbrel-menu", "nimbrel-document"},
                            FileType{".nbs", "application/x-nimbrel-style", "nimbrel-style"}};
 
-/// Whether the file was written: it was not there, or said something else.
+/// Writes a file that is missing or has other contents. Returns whether it was written.
 bool writeIfNew(const QString& path, const QByteArray& bytes) {
   QFile old(path);
   if (old.open(QIODevice::ReadOnly) && old.readAll() == bytes) return false;
@@ -69,19 +69,19 @@ QString FileTypes::mimeTypes() const {
     text += QString(
                 "  <mime-type type=\"%1\">\n    <comment>%2</comment>\n    <icon name=\"%3\"/>\n"
                 "    <glob pattern=\"*%4\"/>\n  </mime-type>\n")
-                .arg(type.mimeType, shown(value(value(type.extension))).toHtmlEscaped(), type.icon,
+                .arg(type.mimeType, toDisplay(value(value(type.extension))).toHtmlEscaped(), type.icon,
                      type.extension);
   }
   return text + "</mime-info>\n";
 }
 
-/// For the command of a desktop entry, which is quoted as a command and then as a value.
+/// Quotes a program for the Exec key of a desktop entry: as an argument of a command, then as a string value.
 QString quoted(QString program) {
   for (const auto* special : {"\\", "\"", "`", "$"}) program.replace(special, QString("\\") + special);
   return '"' + program.replace('%', "%%").replace('\\', "\\\\") + '"';
 }
 
-/// The style type opens nothing: its command takes no file.
+/// Lists only the types whose command takes a file; that of the style type does not.
 QString FileTypes::desktopEntry() const {
   QStringList opened;
   for (const auto& type : types) {

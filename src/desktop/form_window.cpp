@@ -12,13 +12,13 @@
 #include <stdexcept>
 
 #include "desktop/browser_view.h"
+#include "desktop/display_text.h"
 #include "desktop/folder_view.h"
-#include "desktop/shown_text.h"
 
 namespace nimbrel {
 namespace {
 
-/// Knows the widgets that are ours, or that the loader cannot make.
+/// Creates our own widget classes, and those that QUiLoader does not know.
 class Loader : public QUiLoader {
  public:
   QWidget* createWidget(const QString& className, QWidget* parent, const QString& name) override {
@@ -47,47 +47,39 @@ FormWindow::FormWindow(Form& form, QWidget* parent) : QDialog(parent), form_(for
   whole->addWidget(content);
   setObjectName(named(form.name));
   const QFontMetrics letters(font());
-  constexpr int drawnFor = 15;  // pixels, the height of the letters that the layouts were drawn with
+  constexpr int drawnFor = 15;  // pixels, the height of the font that the layouts were designed with
   resize(content->size() * std::max(1.0, static_cast<double>(letters.height()) / drawnFor));
   setWindowFlag(Qt::WindowContextHelpButtonHint, false);
   bind();
 }
 
 void FormWindow::bind() {
-  const auto carryOut = [this](const std::function<void()>& deed) { act(deed); };
+  const auto run = [this](const Action& action) { runAction(action); };
   for (auto* control : form_.controls()) {
     auto* widget = findChild<QWidget*>(named(control->name));
     if (control->kind == ControlKind::Timer) {
-      bindings_.push_back(bindTimer(*control, *this, carryOut));
+      bindings_.push_back(bindTimer(*control, *this, run));
     } else if (widget != nullptr) {
-      bindings_.push_back(bindControl(form_, *control, *widget, carryOut));
-    } else if (control->visible && control->kind != ControlKind::Label) {  // a label may hold state alone
+      bindings_.push_back(bindControl(form_, *control, *widget, run));
+    } else if (control->visible && control->kind != ControlKind::Label) {  // hidden labels only hold state
       throw std::logic_error(std::string(form_.name) + ": nothing shows " + std::string(control->name));
     }
   }
 }
 
-/// What an event throws goes on to whoever reports it, with the window as the form says.
-void FormWindow::act(const std::function<void()>& deed) {
-  struct Refresh {
-    FormWindow& window;
-    ~Refresh() {
-      window.refresh();
-      emit window.acted();
-    }
-  } const whatever{*this};
-  deed();
+void FormWindow::runAction(const Action& action) {
+  nimbrel::runAction(action, {[this] { refresh(); }, [this] { emit actionFinished(); }});
 }
 
 void FormWindow::refresh() {
-  if (windowTitle() != shown(form_.caption)) setWindowTitle(shown(form_.caption));
-  for (const auto& binding : bindings_) binding->show();
+  if (!form_.isOpen && isVisible()) hide();  // first, so that a modal window closes even if the rest throws
+  if (windowTitle() != toDisplay(form_.caption)) setWindowTitle(toDisplay(form_.caption));
+  for (const auto& binding : bindings_) binding->refresh();
   growToText();
   focus();
-  if (!form_.isOpen && isVisible()) hide();
 }
 
-/// Texts may be longer, and the system's letters larger, than the layout was drawn for.
+/// Texts may be longer and the system font larger than the layout was designed for.
 void FormWindow::growToText() {
   const auto room = screen()->availableSize();
   const int needed = layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(width())
@@ -106,13 +98,13 @@ void FormWindow::focus() {
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {
-  act([this] { form_.QueryClose(); });
+  runAction([this] { form_.QueryClose(); });
   event->setAccepted(!form_.isOpen);
 }
 
-/// The Escape key: the cancel button where there is one, else the close box.
+/// Called for the Escape key: clicks the cancel button if there is one, else acts as the close box.
 void FormWindow::reject() {
-  act([this] {
+  runAction([this] {
     if (auto* cancel = form_.find(form_.cancelButton)) {
       form_.click(*cancel);
     } else {
@@ -121,7 +113,7 @@ void FormWindow::reject() {
   });
 }
 
-/// In a list or a page the Enter key is theirs: it must not press the window's button behind the author's back.
+/// Lists and pages handle the Enter key themselves: it must not press the default button as well.
 bool FormWindow::isEnterForContent(int key) const {
   if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;
   for (auto* widget = focusWidget(); widget != nullptr && widget != this; widget = widget->parentWidget()) {
@@ -133,7 +125,7 @@ bool FormWindow::isEnterForContent(int key) const {
 void FormWindow::keyPressEvent(QKeyEvent* event) {
   if (isEnterForContent(event->key())) return;
   if (event->key() == Qt::Key_F1) {
-    emit helpWanted();
+    emit helpRequested();
     return;
   }
   QDialog::keyPressEvent(event);

@@ -24,12 +24,12 @@ namespace {
 enum Tab { ContentsTab, IndexTab, SearchTab };
 constexpr const char* home = "qthelp://nimbrel.help/help/index.html";
 
-/// Shows pages, pictures and style sheets out of the compiled help.
+/// Shows pages, pictures and style sheets from the compiled help.
 class HelpPage : public QTextBrowser {
  public:
   HelpPage(QHelpEngine& engine, QWidget* parent) : QTextBrowser(parent), engine_(engine) {
     setOpenExternalLinks(true);
-    setAccessibleName(HelpWindow::tr("Help topic"));
+    setAccessibleName("Help topic");
   }
   QVariant loadResource(int /*type*/, const QUrl& name) override {
     const auto url = name.isRelative() ? source().resolved(name) : name;
@@ -45,12 +45,12 @@ class HelpPage : public QTextBrowser {
 
 HelpWindow::HelpWindow(QString file, QString cacheFolder)
     : file_(std::move(file)), cacheFolder_(std::move(cacheFolder)) {
-  setWindowTitle(tr("Nimbrel Help"));
+  setWindowTitle("Nimbrel Help");
 }
 
 HelpWindow::~HelpWindow() = default;
 
-/// The help is registered in a collection of this user's, anew whenever the file is another one.
+/// Registers the help in a collection file of this user, again if the help file has changed.
 bool HelpWindow::load() {
   if (!QFileInfo(file_).isFile()) return false;
   QDir().mkpath(cacheFolder_);
@@ -71,20 +71,20 @@ bool HelpWindow::load() {
   }
   engine_ = engine.release();
   build();
-  nameForReaders();
+  setAccessibleNames();
   return true;
 }
 
 void HelpWindow::build() {
   tabs_ = new QTabWidget(this);
-  tabs_->addTab(engine_->contentWidget(), tr("Contents"));
+  tabs_->addTab(engine_->contentWidget(), "Contents");
   auto* index = new QWidget(this);
   auto* indexLayout = new QVBoxLayout(index);
   auto* filter = new QLineEdit(index);
-  filter->setPlaceholderText(tr("Look for"));
+  filter->setPlaceholderText("Look for");
   indexLayout->addWidget(filter);
   indexLayout->addWidget(engine_->indexWidget());
-  tabs_->addTab(index, tr("Index"));
+  tabs_->addTab(index, "Index");
   connect(filter, &QLineEdit::textChanged, engine_->indexWidget(),
           [this](const QString& text) { engine_->indexWidget()->filterIndices(text); });
   connect(filter, &QLineEdit::returnPressed, engine_->indexWidget(), &QHelpIndexWidget::activateCurrentItem);
@@ -106,7 +106,7 @@ void HelpWindow::build() {
   setCentralWidget(splitter);
   resize(width, height);
 
-  auto* bar = addToolBar(tr("Navigation"));
+  auto* bar = addToolBar("Navigation");
   bar->setMovable(false);
   const auto add = [&](const QString& text, const QKeySequence& keys, auto slot) {
     auto* action = bar->addAction(text);
@@ -114,9 +114,9 @@ void HelpWindow::build() {
     connect(action, &QAction::triggered, page_, slot);
     return action;
   };
-  auto* back = add(tr("Back"), QKeySequence::Back, &QTextBrowser::backward);
-  auto* forward = add(tr("Forward"), QKeySequence::Forward, &QTextBrowser::forward);
-  connect(bar->addAction(tr("Contents")), &QAction::triggered, this, [this] { openContents(); });
+  auto* back = add("Back", QKeySequence::Back, &QTextBrowser::backward);
+  auto* forward = add("Forward", QKeySequence::Forward, &QTextBrowser::forward);
+  connect(bar->addAction("Contents"), &QAction::triggered, this, [this] { openContents(); });
   back->setEnabled(false);
   forward->setEnabled(false);
   connect(page_, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
@@ -129,23 +129,23 @@ void HelpWindow::buildSearch() {
   auto* layout = new QVBoxLayout(panel);
   layout->addWidget(search->queryWidget());
   layout->addWidget(search->resultWidget());
-  tabs_->addTab(panel, tr("Search"));
+  tabs_->addTab(panel, "Search");
   connect(search->queryWidget(), &QHelpSearchQueryWidget::search, search,
           [search] { search->search(search->queryWidget()->searchInput()); });
   connect(search->resultWidget(), &QHelpSearchResultWidget::requestShowLink, this, &HelpWindow::showPage);
   search->scheduleIndexDocumentation();
 }
 
-/// Most of these come without a name that a screen reader could say.
-void HelpWindow::nameForReaders() {
-  tabs_->setAccessibleName(tr("Ways into the help"));
-  engine_->contentWidget()->setAccessibleName(tr("Contents"));
-  engine_->indexWidget()->setAccessibleName(tr("Index"));
+/// Most of Qt's help widgets come without accessible names.
+void HelpWindow::setAccessibleNames() {
+  tabs_->setAccessibleName("Ways into the help");
+  engine_->contentWidget()->setAccessibleName("Contents");
+  engine_->indexWidget()->setAccessibleName("Index");
   auto* search = engine_->searchEngine();
-  search->resultWidget()->setAccessibleName(tr("Pages found"));
-  for (auto* edit : findChildren<QLineEdit*>()) edit->setAccessibleName(tr("Look for"));
+  search->resultWidget()->setAccessibleName("Pages found");
+  for (auto* edit : findChildren<QLineEdit*>()) edit->setAccessibleName("Look for");
   for (auto* results : search->resultWidget()->findChildren<QTextBrowser*>()) {
-    results->setAccessibleName(tr("Pages found"));
+    results->setAccessibleName("Pages found");
   }
   for (auto* button : search->resultWidget()->findChildren<QToolButton*>()) {
     if (button->text().isEmpty()) button->setAccessibleName(button->toolTip());
@@ -154,7 +154,7 @@ void HelpWindow::nameForReaders() {
 
 void HelpWindow::showPage(const QUrl& page) { page_->setSource(page); }
 
-void HelpWindow::come(int tab) {
+void HelpWindow::showTab(int tab) {
   tabs_->setCurrentIndex(tab);
   setWindowState(windowState() & ~Qt::WindowMinimized);
   show();
@@ -162,32 +162,32 @@ void HelpWindow::come(int tab) {
   activateWindow();
 }
 
-bool HelpWindow::isReady() {
+bool HelpWindow::ensureLoaded() {
   if (engine_ != nullptr || load()) return true;
   if (missing_) missing_(file_);
   return false;
 }
 
 bool HelpWindow::openTopic(int topic) {
-  if (!isReady()) return false;
+  if (!ensureLoaded()) return false;
   const auto links = engine_->documentsForIdentifier(QString("topic-%1").arg(topic));
   if (links.isEmpty()) return openContents();
   showPage(links.constFirst().url);
-  come(tabs_->currentIndex());
+  showTab(tabs_->currentIndex());
   return true;
 }
 
 bool HelpWindow::openContents() {
-  if (!isReady()) return false;
+  if (!ensureLoaded()) return false;
   showPage(QUrl(home));
-  come(ContentsTab);
+  showTab(ContentsTab);
   return true;
 }
 
 bool HelpWindow::openSearch() {
-  if (!isReady()) return false;
+  if (!ensureLoaded()) return false;
   if (page_->source().isEmpty()) showPage(QUrl(home));
-  come(SearchTab);
+  showTab(SearchTab);
   engine_->searchEngine()->queryWidget()->setFocus();
   return true;
 }

@@ -9,7 +9,7 @@
 namespace nimbrel {
 namespace {
 
-/// Pixels: 16, 20 and 24 at the usual scales; between them the icon is scaled down.
+/// Pixels: 16, 20 and 24 at the usual scale factors. Other sizes are scaled down from the next larger one.
 constexpr std::array sizes{16, 20, 24, 25, 28, 30, 32, 35, 36, 40, 42, 48, 60, 64, 72, 96};
 
 QPixmap rendered(QSvgRenderer& drawing, int size, double opacity) {

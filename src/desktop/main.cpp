@@ -1,3 +1,4 @@
+#include <QApplication>
 #include <QLabel>
 #include <QLayout>
 #include <QMessageBox>
@@ -8,25 +9,26 @@
 
 #include "desktop/application.h"
 #include "desktop/desktop_program.h"
+#include "desktop/display_text.h"
 #include "desktop/form_window.h"
-#include "desktop/shown_text.h"
+#include "desktop/run_action.h"
 #include "platform/posix/host_paths.h"
 #include "platform/posix/program_folder.h"
 #include "shell/small_forms.h"
 
 namespace {
 
-/// The browser refuses its sandbox to the administrator.
+/// The embedded browser does not start as root unless its sandbox is off.
 void allowAdministrator() {
   if (geteuid() == 0) qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
 }
 
-/// The whole rest of the command line is one name, whatever blanks are in it.
+/// The whole command line is one file name, which may contain spaces.
 std::string commandLine(const QStringList& arguments) {
-  return nimbrel::heldPath(arguments.mid(1).join(' '));
+  return nimbrel::fromDisplayPath(arguments.mid(1).join(' '));
 }
 
-/// Stands while the rest loads.
+/// Shows the splash screen while the rest of the program loads.
 void showAtOnce(nimbrel::frmSplash& splash, nimbrel::FormWindow& window) {
   const QSize size(nimbrel::frmSplash::width, nimbrel::frmSplash::height);
   window.setWindowFlags(Qt::SplashScreen | Qt::FramelessWindowHint);
@@ -44,23 +46,21 @@ void showAtOnce(nimbrel::frmSplash& splash, nimbrel::FormWindow& window) {
 int main(int argc, char** argv) {
   allowAdministrator();
   QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
-  nimbrel::Application application(argc, argv);
-
-  nimbrel::frmSplash splash;
-  nimbrel::FormWindow splashWindow(splash);
-  showAtOnce(splash, splashWindow);
+  QApplication application(argc, argv);
+  nimbrel::setUpApplication();
 
   std::optional<nimbrel::DesktopProgram> program;
   try {
-    program.emplace(application, nimbrel::absoluteHostPath(nimbrel::programFolder(std::nullopt)));
+    nimbrel::frmSplash splash;
+    nimbrel::FormWindow splashWindow(splash);
+    showAtOnce(splash, splashWindow);
+    program.emplace(nimbrel::absoluteHostPath(nimbrel::programFolder(std::nullopt)));
   } catch (const std::exception& error) {
-    // Without its folder it cannot go on.
-    splashWindow.hide();
-    QMessageBox::critical(nullptr, "Nimbrel", nimbrel::Application::textOf(error));
+    // Without its folder the program cannot go on.
+    QMessageBox::critical(nullptr, "Nimbrel", nimbrel::errorText(error));
     return EXIT_FAILURE;
   }
-  splashWindow.hide();
-  // Within the event loop, where a fault is told and the program goes on.
+  // From the event loop, since the windows of the start may wait for answers.
   QTimer::singleShot(0, &application, [&] { program->start(commandLine(QCoreApplication::arguments())); });
   return QCoreApplication::exec();
 }

@@ -9,7 +9,7 @@
 namespace nimbrel {
 namespace {
 
-constexpr int gripWidth = 40 / twipsPerPixel + 2;  // fills the gap ahead of the sheets
+constexpr int gripWidth = 40 / twipsPerPixel + 2;  // fills the gap before the sheets
 
 }  // namespace
 
@@ -17,7 +17,7 @@ MainArea::MainArea(QWidget& tree, std::vector<QWidget*> sheets, QWidget* parent)
     : QWidget(parent),
       tree_(tree),
       sheets_(std::move(sheets)),
-      title_(tr("Menu Structure"), this),
+      title_("Menu Structure", this),
       grip_(this),
       bar_(this) {
   tree_.setParent(this);
@@ -28,7 +28,7 @@ MainArea::MainArea(QWidget& tree, std::vector<QWidget*> sheets, QWidget* parent)
   grip_.setObjectName("imgSplitter");
   grip_.setCursor(Qt::SplitHCursor);
   grip_.setFocusPolicy(Qt::TabFocus);
-  grip_.setAccessibleName(tr("Splitter between tree and properties"));
+  grip_.setAccessibleName("Splitter between tree and properties");
   grip_.installEventFilter(this);
   bar_.setAutoFillBackground(true);
   bar_.setBackgroundRole(QPalette::Highlight);
@@ -40,7 +40,7 @@ namespace {
 WindowMeasures measures(const QWidget& area, const QLabel& title) {
   return {.formWidth = toTwips(area.width()),
           .innerHeight = toTwips(area.height()),
-          .toolbarVisible = false,  // bars stand outside of the area
+          .toolbarVisible = false,  // bars are outside of the area
           .statusBarVisible = true,
           .statusBarHeight = 0,
           .labelHeight = toTwips(title.sizeHint().height()),

@@ -10,40 +10,21 @@
 #include <array>
 #include <utility>
 
+#include "desktop/display_text.h"
 #include "desktop/icons.h"
 #include "desktop/main_area.h"
+#include "desktop/run_action.h"
 #include "desktop/sheet/entry_edit.h"
-#include "desktop/shown_text.h"
 #include "desktop/twips.h"
 
 namespace nimbrel {
 namespace {
 
-bool bringsAnotherDocument(const QString& command) {
+bool mayReplaceDocument(const QString& command) {
   return command.startsWith("mnuFile") || command == "New" || command == "Open";
 }
 
 }  // namespace
-
-/// Shows what stands after a deed, also where it threw. The name of the node whose cells a deed leaves may have
-/// changed.
-class MainView::AfterDeed {
- public:
-  explicit AfterDeed(MainView& view) : view_(view) {
-    endComposing();
-    if (view.main_.CurrentNode != nullptr) left_ = view.main_.CurrentNode->Key;
-  }
-  AfterDeed(const AfterDeed&) = delete;
-  AfterDeed& operator=(const AfterDeed&) = delete;
-  ~AfterDeed() {
-    if (const auto* node = view_.main_.document.tvTreeView.find(left_)) view_.model_.syncText(*node);
-    view_.refresh();
-  }
-
- private:
-  MainView& view_;
-  std::string left_;
-};
 
 MainView::MainView(frmMain& main)
     : main_(main),
@@ -78,26 +59,42 @@ SheetView& MainView::sheet(Kind kind) {
 void MainView::connectAll() {
   connect(&tree_, &TreeView::nodeChosen, this, &MainView::showNode);
   connect(&tree_, &TreeView::deletePressed, this, &MainView::deleteNode);
-  connect(&tree_, &TreeView::contextMenuWanted, this, &MainView::showContextMenu);
-  connect(&commands_, &CommandActions::commandWanted, this, &MainView::run);
-  connect(&commands_, &CommandActions::helpWanted, this,
-          [this](int topic) { main_.ports.help.openTopic(topic); });
+  connect(&tree_, &TreeView::contextMenuRequested, this, &MainView::showContextMenu);
+  connect(&commands_, &CommandActions::commandTriggered, this, &MainView::run);
+  connect(&commands_, &CommandActions::helpRequested, this, &MainView::openHelp);
   for (auto* sheet : {&menuSheet_, &submenuSheet_, &itemSheet_}) {
-    connect(sheet, &SheetView::acted, this, [this] {
-      if (main_.CurrentNode != nullptr) model_.syncText(*main_.CurrentNode);
-      refresh();
+    connect(sheet, &SheetView::actionFinished, this, [this] {
+      nimbrel::runAction([this] {
+        if (main_.CurrentNode != nullptr) model_.syncText(*main_.CurrentNode);
+        refresh();
+      });
     });
-    connect(sheet, &SheetView::helpWanted, this, [this](int topic) { main_.ports.help.openTopic(topic); });
+    connect(sheet, &SheetView::helpRequested, this, &MainView::openHelp);
   }
   for (auto* window : {&preview_, &liveExamples_}) {
-    connect(window, &FormWindow::acted, this, &MainView::refresh);
-    connect(window, &FormWindow::helpWanted, this, [this] { run("mnuHelpContents"); });
+    connect(window, &FormWindow::actionFinished, this, [this] { nimbrel::runAction([this] { refresh(); }); });
+    connect(window, &FormWindow::helpRequested, this, [this] { run("mnuHelpContents"); });
   }
 }
 
-/// Where the window stood last. A screen that is gone, or smaller by now, must hide nothing of it.
+/// For actions that do not change the structure of the tree. They may commit the open cell, and so rename the node
+/// that was current before them.
+void MainView::runAction(const Action& action) {
+  endComposing();
+  const auto current = main_.CurrentNode == nullptr ? std::string() : main_.CurrentNode->Key;
+  const auto syncName = [&] {
+    if (const auto* node = main_.document.tvTreeView.find(current)) model_.syncText(*node);
+  };
+  nimbrel::runAction(action, {syncName, [this] { refresh(); }});
+}
+
+void MainView::openHelp(int topic) {
+  nimbrel::runAction([&] { main_.ports.help.openTopic(topic); });
+}
+
+/// The last geometry of the window, moved and shrunk to fit if that screen is gone or has become smaller.
 QRect MainView::placeOnScreen() const {
-  constexpr int title = 30;  // pixels, above what is measured
+  constexpr int title = 30;  // pixels, the title bar above the geometry
   const auto& place = main_.geometry;
   const QRect wanted(toPixels(place.left), toPixels(place.top), toPixels(place.width),
                      toPixels(place.height));
@@ -114,72 +111,65 @@ void MainView::start(const std::string& commandLine) {
   setGeometry(placeOnScreen());
   show();
   isStarted_ = isStarting_ = true;
-  {
-    const AfterDeed after(*this);
-    main_.Activate(commandLine);
-  }
-  isStarting_ = false;
-  model_.reset();
-  tree_.openUp();
-  refresh();
-  tree_.setFocus();
+  const auto showDocument = [this] {
+    isStarting_ = false;
+    model_.reset();
+    tree_.expandInitially();
+    refresh();
+    tree_.setFocus();
+  };
+  nimbrel::runAction([&] { main_.Activate(commandLine); }, {showDocument});
 }
 
 void MainView::run(const QString& command) {
   endComposing();
-  // The window may be closed by the command, which ends the program behind it.
+  // Closing the window also ends the program.
   if (command == "mnuFileExit") {
     close();
     return;
   }
-  const auto before =
-      std::pair(main_.state.FilePath + '\\' + main_.state.FileTitle, main_.document.tvTreeView.root());
-  const auto show = [&] {
-    const auto now =
-        std::pair(main_.state.FilePath + '\\' + main_.state.FileTitle, main_.document.tvTreeView.root());
-    if (bringsAnotherDocument(command) && before != now) {
+  const auto document = [this] {
+    return std::pair(main_.state.FilePath + '\\' + main_.state.FileTitle, main_.document.tvTreeView.root());
+  };
+  const auto before = document();
+  const auto showTree = [&] {
+    if (mayReplaceDocument(command) && document() != before) {
       model_.reset();
-      tree_.openUp();
+      tree_.expandInitially();
     } else {
       syncTree();
     }
-    refresh();
   };
-  try {
-    main_.run(held(command));
-  } catch (...) {
-    show();
-    throw;
-  }
-  show();
+  nimbrel::runAction([&] { main_.run(fromDisplay(command)); }, {showTree, [this] { refresh(); }});
 }
 
 void MainView::showNode(Node* node) {
-  const AfterDeed after(*this);
-  main_.tvTreeView_NodeClick(node);
+  runAction([&] { main_.tvTreeView_NodeClick(node); });
 }
 
 void MainView::deleteNode() {
   constexpr int deleteKey = 46;
-  const AfterDeed after(*this);
-  main_.tvTreeView_KeyUp(deleteKey);
-  syncTree();
+  endComposing();
+  nimbrel::runAction([this] { main_.tvTreeView_KeyUp(deleteKey); },
+                     {[this] { syncTree(); }, [this] { refresh(); }});
 }
 
 void MainView::showContextMenu(const QPoint& place) {
-  if (auto* menu = commands_.contextMenu(main_.contextMenu())) menu->popup(place);
+  nimbrel::runAction([&] {
+    if (auto* menu = commands_.contextMenu(main_.contextMenu())) menu->popup(place);
+  });
 }
 
 void MainView::refresh() {
-  isClosed_ = false;  // whatever was answered, the author goes on
+  isClosed_ = false;  // the user goes on working, whatever was answered before
   const std::array paths{main_.state.FilePath + '\\' + main_.state.FileTitle};
-  // What Qt takes for the place of its own mark is doubled.
-  const auto title = shownWithPaths(main_.title, paths).replace("[*]", "[*][*]");
+  // Escapes Qt's placeholder for the "modified" mark.
+  const auto title = toDisplayWithPaths(main_.title, paths).replace("[*]", "[*][*]");
   if (windowTitle() != title) setWindowTitle(title);
   commands_.refresh(main_.commands);
   tree_.showSelected(main_.selected);
   showSheets();
-  for (auto* window : {&preview_, &liveExamples_}) showBeside(*window);
+  for (auto* window : {&preview_, &liveExamples_}) refreshSideWindow(*window);
 }
 
 void MainView::showSheets() {
@@ -191,7 +181,7 @@ void MainView::showSheets() {
     if (!shows(view)) continue;
     view->refresh();
     view->show();
-    // Of a sheet that is hidden it would go to whatever comes next.
+    // Otherwise the focus would move to the next widget when the other sheet is hidden.
     const bool isTaken = std::ranges::any_of(
         views, [&](auto* other) { return other != view && other->isAncestorOf(focused); });
     if (isTaken) view->setFocus(Qt::OtherFocusReason);
@@ -203,9 +193,9 @@ void MainView::showSheets() {
   }
 }
 
-void MainView::showBeside(FormWindow& window) {
+void MainView::refreshSideWindow(FormWindow& window) {
   window.refresh();
-  auto& shows = shows_[&window];
+  auto& shows = lastShows_[&window];
   if (!window.form().isOpen || shows == window.form().shows) return;
   if (shows == 0) {
     const auto centre = screen()->availableGeometry().center() - QRect(QPoint(), window.size()).center();
@@ -217,9 +207,9 @@ void MainView::showBeside(FormWindow& window) {
   window.raise();
 }
 
-/// Right of this window, as far as the screen reaches: neither is to hide the other.
+/// To the right of this window if the screen has room, else to the left, so that neither hides the other.
 QPoint MainView::placeBeside(const QSize& size) const {
-  constexpr int frame = 16;  // pixels, about what the system puts around a window
+  constexpr int frame = 16;  // pixels, roughly the window manager's frame
   const auto available = screen()->availableGeometry();
   const auto whole = frameGeometry();
   const int right = whole.right() + 1;
@@ -229,40 +219,35 @@ QPoint MainView::placeBeside(const QSize& size) const {
   return {std::clamp(left, available.left(), std::max(rightmost, available.left())), whole.top()};
 }
 
-/// The library has chosen what comes after a node that went; the view's own choice does not count.
+/// After a deletion the library chooses the next node, not the view.
 void MainView::syncTree() {
-  tree_.quietly([this] { model_.sync(); });
+  tree_.withoutNodeChosen([this] { model_.sync(); });
 }
 
-void MainView::setWaiting(bool isWaiting) {
-  if (isWaiting && isStarting_) {  // behind the tip of the day
-    syncTree();
-    refresh();
+void MainView::setModalOpen(bool isOpen) {
+  if (isOpen && isStarting_) {  // the tip of the day is about to cover this window
+    nimbrel::runAction([this] { syncTree(); }, {[this] { refresh(); }});
   }
-  preview_.setEnabled(!isWaiting);
-  liveExamples_.setEnabled(!isWaiting);
+  preview_.setEnabled(!isOpen);
+  liveExamples_.setEnabled(!isOpen);
 }
 
 bool MainView::mayClose() {
   if (isClosed_) return true;
-  if (auto* popup = QApplication::activePopupWidget()) popup->close();  // it would take the first answer
-  noteGeometry();
+  if (auto* popup = QApplication::activePopupWidget()) popup->close();  // it would swallow the first click
+  recordGeometry();
   bool mayClose = false;
-  {
-    const AfterDeed after(*this);
-    mayClose = main_.QueryClose();
-  }
+  runAction([&] { mayClose = main_.QueryClose(); });
   isClosed_ = mayClose;
   return mayClose;
 }
 
 void MainView::closeEvent(QCloseEvent* event) {
-  event->ignore();  // also if the save throws
-  if (mayClose()) event->accept();
+  event->setAccepted(mayClose());
   if (isClosed_) qApp->quit();
 }
 
-void MainView::noteGeometry() {
+void MainView::recordGeometry() {
   if (!isStarted_) return;
   main_.isMinimised = isMinimized();
   if (main_.isMinimised) return;
@@ -273,12 +258,12 @@ void MainView::noteGeometry() {
 
 void MainView::resizeEvent(QResizeEvent* event) {
   QMainWindow::resizeEvent(event);
-  noteGeometry();
+  recordGeometry();
 }
 
 void MainView::moveEvent(QMoveEvent* event) {
   QMainWindow::moveEvent(event);
-  noteGeometry();
+  recordGeometry();
 }
 
 void MainView::changeEvent(QEvent* event) {
@@ -295,7 +280,7 @@ void MainView::drawIcons() {
   commands_.drawIcons();
 }
 
-/// F1 outside of the sheet.
+/// Handles F1 outside of the sheet.
 void MainView::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_F1) {
     run("mnuHelpContents");

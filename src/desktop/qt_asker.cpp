@@ -7,10 +7,12 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QScopeGuard>
 #include <algorithm>
 
+#include "desktop/display_text.h"
 #include "desktop/form_window.h"
-#include "desktop/shown_text.h"
+#include "desktop/run_action.h"
 
 namespace nimbrel {
 namespace {
@@ -36,7 +38,7 @@ QMessageBox::StandardButton buttonOf(BoxButton button) {
   }
 }
 
-/// What the Escape key and the close box answer: the last button that takes nothing on.
+/// The answer of the Escape key and of the close box: the button that does the least.
 BoxButton escapeOf(const MessageBox& box) {
   for (const auto button : {BoxButton::Cancel, BoxButton::No}) {
     if (std::ranges::find(box.buttons, button) != box.buttons.end()) return button;
@@ -47,23 +49,23 @@ BoxButton escapeOf(const MessageBox& box) {
 }  // namespace
 
 QString fileFilter(std::string_view filter) {
-  const auto parts = shown(filter).split('|');
+  const auto parts = toDisplay(filter).split('|');
   auto patterns = parts.value(1);
   auto description = parts.value(0);
   description.remove(QRegularExpression(R"(\s*\([^)]*\)\s*$)"));
   return description + " (" + patterns.replace(';', ' ') + ")";
 }
 
-/// Tells when the first wait begins and the last one ends.
-class QtAsker::Wait {
+/// Exists while a modal window is open.
+class QtAsker::ModalScope {
  public:
-  explicit Wait(QtAsker& asker) : asker_(asker) {
-    if (asker_.waits_++ == 0 && asker_.waiting_) asker_.waiting_(true);
+  explicit ModalScope(QtAsker& asker) : asker_(asker) {
+    if (asker_.modalCount_++ == 0 && asker_.onModalChange_) asker_.onModalChange_(true);
   }
-  Wait(const Wait&) = delete;
-  Wait& operator=(const Wait&) = delete;
-  ~Wait() {
-    if (--asker_.waits_ == 0 && asker_.waiting_) asker_.waiting_(false);
+  ModalScope(const ModalScope&) = delete;
+  ModalScope& operator=(const ModalScope&) = delete;
+  ~ModalScope() {
+    if (--asker_.modalCount_ == 0 && asker_.onModalChange_) asker_.onModalChange_(false);
   }
 
  private:
@@ -83,11 +85,11 @@ void QtAsker::hideClosed() {
 }
 
 BoxButton QtAsker::MsgBox(const MessageBox& box) {
-  const Wait wait(*this);
+  const ModalScope modal(*this);
   hideClosed();
   while (true) {
-    QMessageBox window(iconOf(box.icon), shown(box.title),
-                       shownWithPaths(box.text, box.paths).replace("\r\n", "\n").replace('\r', '\n'),
+    QMessageBox window(iconOf(box.icon), toDisplay(box.title),
+                       toDisplayWithPaths(box.text, box.paths).replace("\r\n", "\n").replace('\r', '\n'),
                        QMessageBox::NoButton, owner());
     window.setTextFormat(Qt::PlainText);
     for (const auto button : box.buttons) window.addButton(buttonOf(button));
@@ -104,50 +106,54 @@ BoxButton QtAsker::MsgBox(const MessageBox& box) {
 }
 
 std::optional<std::string> QtAsker::chooseFile(const FileDialog& dialog) {
-  const Wait wait(*this);
+  const ModalScope modal(*this);
   hideClosed();
-  QFileDialog window(owner(), shown(dialog.title), shownPath(dialog.folder), fileFilter(dialog.filter));
-  if (!dialog.name.empty()) window.selectFile(shownPath(dialog.name));
+  QFileDialog window(owner(), toDisplay(dialog.title), toDisplayPath(dialog.folder),
+                     fileFilter(dialog.filter));
+  if (!dialog.name.empty()) window.selectFile(toDisplayPath(dialog.name));
   if (dialog.kind == FileDialog::Save) {
     window.setAcceptMode(QFileDialog::AcceptSave);
-    window.setOption(QFileDialog::DontConfirmOverwrite);  // the form asks, in its own words
-    const auto pattern = shown(dialog.filter).section('|', 1);
+    window.setOption(QFileDialog::DontConfirmOverwrite);  // the form asks with its own text
+    const auto pattern = toDisplay(dialog.filter).section('|', 1);
     window.setDefaultSuffix(QFileInfo(pattern).suffix());
   } else {
-    window.setFileMode(QFileDialog::AnyFile);  // likewise where there is none of that name
+    window.setFileMode(QFileDialog::AnyFile);  // the form also asks if there is no such file
   }
   if (window.exec() != QDialog::Accepted || window.selectedFiles().isEmpty()) return std::nullopt;
-  return heldPath(window.selectedFiles().constFirst());
+  return fromDisplayPath(window.selectedFiles().constFirst());
 }
 
 std::optional<std::uint32_t> QtAsker::chooseColour(std::uint32_t start) {
-  const Wait wait(*this);
+  const ModalScope modal(*this);
   constexpr unsigned byte = 8;
   const auto part = [start](unsigned number) { return static_cast<int>(start >> number * byte & 0xFFU); };
   const QColor first(part(0), part(1), part(2));
-  const auto colour = QColorDialog::getColor(first, owner(), QWidget::tr("Choose Color"));
+  const auto colour = QColorDialog::getColor(first, owner(), "Choose Color");
   if (!colour.isValid()) return std::nullopt;
   return static_cast<std::uint32_t>(colour.red()) | static_cast<std::uint32_t>(colour.green()) << byte |
          static_cast<std::uint32_t>(colour.blue()) << 2 * byte;
 }
 
 void QtAsker::ShowModal(Form& form) {
-  const Wait wait(*this);
+  const ModalScope modal(*this);
   hideClosed();
   FormWindow window(form, owner());
-  QObject::connect(&window, &FormWindow::helpWanted, &window, [this] {
-    if (help_ != nullptr) help_->openContents();
+  QObject::connect(&window, &FormWindow::helpRequested, &window, [this] {
+    if (help_ != nullptr) runAction([this] { help_->openContents(); });
   });
-  form.isOpen = true;
   window.setWindowModality(Qt::WindowModal);
-  window.refresh();
+  form.isOpen = true;
   open_.push_back(&window);
+  const auto close = qScopeGuard([&] {
+    form.isOpen = false;
+    std::erase(open_, &window);
+  });
+  window.refresh();
   if (form.isOpen) window.exec();
-  std::erase(open_, &window);
 }
 
 void QtAsker::noteFailure(const Finding& finding) {
-  qCInfo(quietSteps).noquote() << shownPath(finding.path) << shown(finding.text());
+  qCInfo(quietSteps).noquote() << toDisplayPath(finding.path) << toDisplay(finding.text());
 }
 
 }  // namespace nimbrel

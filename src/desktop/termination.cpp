@@ -7,12 +7,12 @@
 namespace nimbrel {
 namespace {
 
-constexpr std::array wishes{SIGTERM, SIGHUP};
+constexpr std::array endingSignals{SIGTERM, SIGHUP, SIGINT};
 
-/// A signal handler may do little; it writes a byte here.
+/// Signal handlers may do little: ours writes a byte to this pipe, which the event loop reads.
 volatile std::sig_atomic_t writeEnd = -1;
 
-void note(int /*signal*/) {
+void handleSignal(int /*signal*/) {
   constexpr char byte = 0;
   [[maybe_unused]] const auto written = ::write(writeEnd, &byte, 1);
 }
@@ -26,14 +26,14 @@ Termination::Termination() {
   QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(), [this] {
     char byte = 0;
     while (::read(pipe_[0], &byte, 1) > 0) continue;
-    if (asked_) asked_();
+    if (onRequest_) onRequest_();
   });
-  for (const int wish : wishes) std::signal(wish, note);
+  for (const int number : endingSignals) std::signal(number, handleSignal);
 }
 
 Termination::~Termination() {
   if (notifier_ == nullptr) return;
-  for (const int wish : wishes) std::signal(wish, SIG_DFL);
+  for (const int number : endingSignals) std::signal(number, SIG_DFL);
   notifier_.reset();
   for (const int end : pipe_) ::close(end);
 }

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "desktop/shown_text.h"
+#include "desktop/display_text.h"
 
 namespace nimbrel {
 
@@ -13,7 +13,7 @@ struct TreeModel::Mirror {
   std::size_t row = 0;
   Children children;
 
-  /// Takes what hangs from it apart level by level: a file may nest as deep as it is long.
+  /// Not recursive: the nesting of a file is only limited by its length.
   ~Mirror() {
     Children all = std::move(children);
     for (std::size_t i = 0; i < all.size(); ++i) {
@@ -54,7 +54,7 @@ void TreeModel::setIcons(QIcon menu, QIcon submenu, QIcon item) {
   item_ = std::move(item);
 }
 
-/// Without recursion, for the depth that a file may have.
+/// Not recursive, as the destructor above.
 std::unique_ptr<TreeModel::Mirror> TreeModel::copyOf(const Node& top, Mirror* parent) {
   auto copied = std::make_unique<Mirror>();
   copied->parent = parent;
@@ -108,8 +108,8 @@ void TreeModel::syncText(const Node& node) {
   emit dataChanged(index, index);
 }
 
-/// What differs lies between a common start and a common end. Two neighbours that have changed places stay the
-/// same rows to the views; of anything else the old goes and the new comes.
+/// Replaces the rows between the common start and the common end. Two neighbours that were swapped are moved instead,
+/// so that the views keep their state.
 void TreeModel::syncChildren(Mirror& mirror, std::vector<Node*> nodes) {
   const auto& old = mirror.children;
   const auto same = [&](std::size_t row, std::size_t node) { return old[row]->key == nodes[node]->Key; };
@@ -160,7 +160,7 @@ void TreeModel::swap(Mirror& mirror, std::size_t first) {
   endMoveRows();
 }
 
-/// A node that only went elsewhere may have been entered there already.
+/// A node that was moved may already have an entry for its new place.
 void TreeModel::forget(const Mirror& top) {
   std::vector<const Mirror*> open{&top};
   while (!open.empty()) {
@@ -209,16 +209,16 @@ QVariant TreeModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid()) return {};
   const auto& mirror = *mirrorOf(index);
   switch (role) {
-    case Qt::DisplayRole: return shown(mirror.text);
+    case Qt::DisplayRole: return toDisplay(mirror.text);
     case Qt::DecorationRole: {
       const auto kind = kindOf(mirror.key);
       return kind == Kind::Menu ? menu_ : kind == Kind::Submenu ? submenu_ : item_;
     }
     case Qt::AccessibleDescriptionRole:
       switch (kindOf(mirror.key)) {
-        case Kind::Menu: return tr("main menu");
-        case Kind::Submenu: return tr("submenu");
-        default: return tr("item");
+        case Kind::Menu: return "main menu";
+        case Kind::Submenu: return "submenu";
+        default: return "item";
       }
     default: return {};
   }

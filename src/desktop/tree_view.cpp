@@ -2,6 +2,7 @@
 
 #include <QContextMenuEvent>
 #include <QKeyEvent>
+#include <QScopedValueRollback>
 
 namespace nimbrel {
 
@@ -11,25 +12,24 @@ TreeView::TreeView(TreeModel& model, QWidget* parent) : QTreeView(parent), tree_
   setUniformRowHeights(true);
   setEditTriggers(NoEditTriggers);
   setExpandsOnDoubleClick(true);
-  setAccessibleName(tr("Menu structure"));
+  setAccessibleName("Menu structure");
 }
 
 void TreeView::showSelected(const Node* node) {
   const auto index = tree_.indexOf(node);
   if (currentIndex() == index && (!index.isValid() || selectionModel()->isSelected(index))) return;
-  isOwnMove_ = true;
-  setCurrentIndex(index);
-  if (index.isValid()) scrollTo(index);
-  isOwnMove_ = false;
+  withoutNodeChosen([&] {
+    setCurrentIndex(index);
+    if (index.isValid()) scrollTo(index);
+  });
 }
 
-void TreeView::quietly(const std::function<void()>& change) {
-  isOwnMove_ = true;
+void TreeView::withoutNodeChosen(const std::function<void()>& change) {
+  const QScopedValueRollback rollback(isSettingCurrent_, true);
   change();
-  isOwnMove_ = false;
 }
 
-void TreeView::openUp() {
+void TreeView::expandInitially() {
   constexpr int small = 400;  // rows
   constexpr int levels = 1;
   int rows = 0;
@@ -45,23 +45,23 @@ void TreeView::openUp() {
 
 void TreeView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
   QTreeView::currentChanged(current, previous);
-  if (!isOwnMove_ && current.isValid()) emit nodeChosen(tree_.node(current));
+  if (!isSettingCurrent_ && current.isValid()) emit nodeChosen(tree_.node(current));
 }
 
-/// The right button selects nothing: its menu belongs to the current node.
+/// The right button does not select: its menu is for the current node.
 void TreeView::mousePressEvent(QMouseEvent* event) {
   if (event->button() == Qt::RightButton) return;
   const auto index = indexAt(event->pos());
-  const bool isAnew = index.isValid() && index == currentIndex() && event->button() == Qt::LeftButton;
+  const bool isCurrentAgain = index.isValid() && index == currentIndex() && event->button() == Qt::LeftButton;
   QTreeView::mousePressEvent(event);
-  if (isAnew) emit nodeChosen(tree_.node(currentIndex()));
+  if (isCurrentAgain) emit nodeChosen(tree_.node(currentIndex()));
 }
 
 void TreeView::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() != Qt::RightButton) {
     QTreeView::mouseReleaseEvent(event);
   } else if (indexAt(event->pos()).isValid()) {
-    emit contextMenuWanted(event->globalPosition().toPoint());
+    emit contextMenuRequested(event->globalPosition().toPoint());
   }
 }
 
@@ -73,10 +73,10 @@ void TreeView::keyPressEvent(QKeyEvent* event) {
   }
 }
 
-/// From the keyboard; the mouse has its own way.
+/// For the keyboard; `mouseReleaseEvent` handles the mouse.
 void TreeView::contextMenuEvent(QContextMenuEvent* event) {
   if (event->reason() == QContextMenuEvent::Mouse || !currentIndex().isValid()) return;
-  emit contextMenuWanted(viewport()->mapToGlobal(visualRect(currentIndex()).bottomLeft()));
+  emit contextMenuRequested(viewport()->mapToGlobal(visualRect(currentIndex()).bottomLeft()));
 }
 
 }  // namespace nimbrel

@@ -6,7 +6,9 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPointer>
 #include <QSettings>
+#include <QTemporaryFile>
 #include <QTest>
 #include <QWebEnginePage>
 #include <QWebEngineView>
@@ -17,33 +19,41 @@
 #include <unistd.h>
 
 #include "desktop/browser_view.h"
-#include "desktop/shown_text.h"
+#include "desktop/display_text.h"
 
 namespace nimbrel {
 namespace {
 
 namespace fs = std::filesystem;
 
-/// What of the staged program an author's work needs.
-void copyProgram(const QString& to) {
-  const fs::path stage = NIMBREL_STAGE;
-  fs::create_directories(to.toStdString());
-  for (const auto& entry : fs::directory_iterator(stage)) {
-    const auto name = entry.path().filename().string();
-    if (name == "nbrc" || name == "Nimbrel") continue;
-    fs::copy(entry.path(), fs::path(to.toStdString()) / name, fs::copy_options::recursive);
+/// A copy of the staged program for this process, without the executables. Runs link its files, so that no test can
+/// change the stage.
+fs::path programCopy() {
+  static const QTemporaryDir folder;
+  const fs::path copy = folder.filePath("program").toStdString();
+  if (!fs::exists(copy)) {
+    fs::copy(NIMBREL_STAGE, copy, fs::copy_options::recursive);
+    for (const auto* program : {"nbrc", "Nimbrel"}) fs::remove(copy / program);
   }
+  return copy;
 }
 
 }  // namespace
 
-std::unique_ptr<Application> offscreenApplication(int& argc, char** argv) {
-  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+std::unique_ptr<QApplication> offscreenApplication(int& argc, char** argv) {
+  static QTemporaryFile screen;
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && screen.open()) {
+    screen.write(R"({"screens": [{"name": "screen", "x": 0, "y": 0, "width": 1920, "height": 1440}]})");
+    screen.close();
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screen.fileName().toUtf8());
+  }
   if (geteuid() == 0) qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
   qputenv("QTWEBENGINE_CHROMIUM_FLAGS", "--disable-gpu");
   QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
   QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-  return std::make_unique<Application>(argc, argv);
+  auto application = std::make_unique<QApplication>(argc, argv);
+  setUpApplication();
+  return application;
 }
 
 bool waitFor(const std::function<bool()>& holds, int milliseconds) {
@@ -57,29 +67,24 @@ bool waitFor(const std::function<bool()>& holds, int milliseconds) {
 }
 
 DesktopRun::DesktopRun() {
-  copyProgram(programFolder());
+  fs::copy(programCopy(), programFolder().toStdString(),
+           fs::copy_options::recursive | fs::copy_options::create_hard_links);
   QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, path("config"));
   qputenv("XDG_DATA_HOME", path("data").toLocal8Bit());
   qputenv("XDG_CACHE_HOME", path("cache").toLocal8Bit());
   UserSettings settings;
   settings.SaveSetting("Settings", "Show Tips at Startup", "0");
   settings.SaveSetting("Settings", "ShowPreviewOnStartup", "False");
-  program_ =
-      std::make_unique<DesktopProgram>(*static_cast<Application*>(qApp), programFolder().toStdString());
+  program_ = std::make_unique<DesktopProgram>(programFolder().toStdString());
   constexpr int often = 10;
-  look_.setInterval(often);
-  QObject::connect(&look_, &QTimer::timeout, [this] { lookForWaiting(); });
-  look_.start();
-}
-
-DesktopRun::~DesktopRun() {
-  look_.stop();
-  static_cast<Application*>(qApp)->report = nullptr;
+  poll_.setInterval(often);
+  QObject::connect(&poll_, &QTimer::timeout, [this] { answerModalWindow(); });
+  poll_.start();
 }
 
 void DesktopRun::start(const QString& commandLine) {
-  program_->start(heldPath(commandLine));
-  QTest::qWait(1);
+  program_->start(fromDisplayPath(commandLine));
+  QCoreApplication::processEvents();
 }
 
 void DesktopRun::write(const QString& name, const QByteArray& bytes) const {
@@ -94,45 +99,50 @@ QByteArray DesktopRun::read(const QString& name) const {
   return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-/// Each window once: while a step of its runs, others may come up above it.
-void DesktopRun::lookForWaiting() {
+/// Each window only once: while its answer runs, others may open above it.
+void DesktopRun::answerModalWindow() {
   auto* modal = QApplication::activeModalWidget();
   constexpr const char* isAnswered = "isAnswered";
   if (modal == nullptr || !modal->isVisible() || modal->property(isAnswered).toBool()) return;
   modal->setProperty(isAnswered, true);
-  if (steps_.empty()) {
-    ++unexpected_;
-    qWarning().noquote() << "unexpected window:" << modal->windowTitle();
-    if (auto* box = qobject_cast<QMessageBox*>(modal)) qWarning().noquote() << box->text();
+  if (answers_.empty()) {
+    auto* box = qobject_cast<QMessageBox*>(modal);
+    problems_ += "no answer for " + modal->windowTitle() + (box == nullptr ? "" : ": " + box->text());
     QTest::keyClick(modal, Qt::Key_Escape);
     return;
   }
-  // Not within this tick, which would hold up the next: a step may bring up windows that wait in their turn.
-  QTimer::singleShot(0, modal, [step = std::move(steps_.front()), modal] { step(*modal); });
-  steps_.pop_front();
+  // Not from this timer, which would not tick again until the answer returns: an answer may open further windows.
+  QTimer::singleShot(0, modal, [this, answer = std::move(answers_.front()), window = QPointer(modal)] {
+    answer(*window);
+    if (window == nullptr || !window->isVisible()) return;
+    problems_ += "left open: " + window->windowTitle();
+    QTest::keyClick(window, Qt::Key_Escape);
+  });
+  answers_.pop_front();
 }
 
-void DesktopRun::thenPress(const char* button) {
-  then([name = QString(button)](QWidget& window) {
-    if (auto* box = qobject_cast<QMessageBox*>(&window)) {
-      for (auto* one : box->buttons()) {
-        if (one->text().remove('&') == name) return QTest::mouseClick(one, Qt::LeftButton);
+QStringList DesktopRun::problems() const {
+  auto all = problems_;
+  if (!answers_.empty()) all += QString("%1 answers are left over").arg(answers_.size());
+  return all;
+}
+
+void DesktopRun::answerWith(const char* button) {
+  answer([name = QString(button)](QWidget& window) {
+    for (auto* one : window.findChildren<QAbstractButton*>()) {
+      if (one->objectName() == name || one->text().remove('&') == name) {
+        QTest::mouseClick(one, Qt::LeftButton);
+        return;
       }
     }
-    auto* control = window.findChild<QAbstractButton*>(name);
-    if (control == nullptr) {
-      qWarning().noquote() << "no button" << name << "in" << window.windowTitle();
-      return QTest::keyClick(&window, Qt::Key_Escape);
-    }
-    QTest::mouseClick(control, Qt::LeftButton);
   });
 }
 
-void DesktopRun::thenChooseFile(const QString& chosen) {
-  then([chosen](QWidget& window) {
+void DesktopRun::answerWithFile(const QString& path) {
+  answer([path](QWidget& window) {
     auto* name = window.findChild<QLineEdit*>("fileNameEdit");
-    if (name == nullptr) return QTest::keyClick(&window, Qt::Key_Escape);
-    name->setText(chosen);
+    if (name == nullptr) return;
+    name->setText(path);
     QMetaObject::invokeMethod(&window, "accept");
   });
 }
@@ -148,7 +158,7 @@ void DesktopRun::select(const char* key) {
 QVariant DesktopRun::evaluate(FormWindow& window, const QString& script) {
   auto* browser = window.findChild<BrowserView*>();
   if (browser == nullptr || browser->view() == nullptr) return {};
-  // A page that goes away takes the answer with it, or gives it when nobody waits any longer.
+  // The result may come after the wait, or never if the page is left.
   const auto answer = std::make_shared<std::optional<QVariant>>();
   browser->view()->page()->runJavaScript(script, [answer](const QVariant& value) { *answer = value; });
   constexpr int patience = 400;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QApplication>
 #include <QDialog>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -12,50 +13,53 @@
 
 namespace nimbrel {
 
-/// The application of a run without a screen: call ahead of all else in `main`.
-std::unique_ptr<Application> offscreenApplication(int& argc, char** argv);
+/// The application, without a screen. Call first in `main`.
+std::unique_ptr<QApplication> offscreenApplication(int& argc, char** argv);
 
-/// Waits, with all events going on, until something holds; false after a while.
+/// Processes events until `holds` returns true. Returns false if that takes too long.
 bool waitFor(const std::function<bool()>& holds, int milliseconds = 15'000);
 
-/// The whole program on folders of its own, with windows that nobody sees.
+/// The whole program, in folders of its own and without a screen.
 class DesktopRun {
  public:
-  /// Brings neither tip nor preview at its start.
+  /// Shows neither tip nor preview at the start.
   DesktopRun();
-  ~DesktopRun();
 
   void start(const QString& commandLine = {});
   DesktopProgram& program() { return *program_; }
   MainView& view() { return program_->view(); }
   frmMain& main() { return program_->main(); }
-  /// Of a file in the run's own folder.
+  /// The path of a file in the run's folder.
   QString path(const QString& name) const { return folder_.filePath(name); }
   QString programFolder() const { return path("program"); }
   void write(const QString& name, const QByteArray& bytes) const;
   QByteArray read(const QString& name) const;
 
-  /// What is done with the windows that will wait for an answer, one after the other. A window that nothing
-  /// is told for is closed by Escape, and counted.
-  void then(std::function<void(QWidget&)> step) { steps_.push_back(std::move(step)); }
-  /// The same for the form or message box of that title or name.
-  void thenPress(const char* button);
-  void thenChooseFile(const QString& path);
-  bool allDone() const { return steps_.empty() && unexpected_ == 0; }
+  /// Queues what to do with the next modal window. Each window takes the next answer; windows without one are closed
+  /// with Escape.
+  void answer(std::function<void(QWidget&)> step) { answers_.push_back(std::move(step)); }
+  /// Clicks a button: of a form by its name, of a message box by its text.
+  void answerWith(const char* button);
+  void answerWithFile(const QString& path);
+  /// Whether all answers have been given.
+  bool isAnswered() const { return answers_.empty(); }
+  /// Answers that are left over, windows without an answer, and answers that did not fit their windows.
+  QStringList problems() const;
 
   /// Runs a command as its menu entry does.
   void run(const char* command) { view().commands().action(command)->trigger(); }
+  /// Clicks a node of the tree.
   void select(const char* key);
-  /// What a script gives in a page of the embedded browser.
+  /// Returns the result of a script in a page of the embedded browser.
   QVariant evaluate(FormWindow& window, const QString& script);
 
  private:
-  void lookForWaiting();
+  void answerModalWindow();
 
   QTemporaryDir folder_;
-  QTimer look_;
-  std::deque<std::function<void(QWidget&)>> steps_;
-  int unexpected_ = 0;
+  QTimer poll_;
+  std::deque<std::function<void(QWidget&)>> answers_;
+  QStringList problems_;
   std::unique_ptr<DesktopProgram> program_;
 };
 

@@ -12,12 +12,12 @@
 
 namespace nimbrel {
 
-/// An author who picks this colour.
+/// Chooses red.
 struct PaintingAuthor : ScriptedAsker {
   std::optional<std::uint32_t> chooseColour(std::uint32_t) override { return 0x0000FFU; }
 };
 
-/// Once in a run.
+/// Creates the application, once in a process.
 inline void startWithoutScreen() {
   if (QCoreApplication::instance() != nullptr) return;
   qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -28,14 +28,17 @@ inline void startWithoutScreen() {
   static_cast<void>(application);
 }
 
-/// A sheet filled with a new element, in a window too low for all its rows.
+/// The sheet of a new element, in a window that is too low for all of its rows.
 template <class Element>
 class SheetOnScreen : public testing::Test {
  protected:
   static void SetUpTestSuite() { startWithoutScreen(); }
 
   explicit SheetOnScreen(const SheetTable& table)
-      : sheet(table, ports, state, viewer), view(sheet, [](const char*) { return QIcon(); }) {
+      : sheet(table, ports, state, viewer), view(sheet, [this](const char*) {
+          if (drawIcon) drawIcon();
+          return QIcon();
+        }) {
     SetDefaultValues(element);
     PutValuesToPropertyControl(element, sheet);
     sheet.Change = [this](int ordinal) { changes.push_back(ordinal); };
@@ -62,7 +65,14 @@ class SheetOnScreen : public testing::Test {
   void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
     QTest::keyClick(QApplication::focusWidget(), key, modifiers);
   }
-  /// The first key may open an entry, which takes the others.
+  /// Presses keys and expects a certain cell to be open after each.
+  void pressAndExpect(std::initializer_list<std::pair<Qt::Key, CellPlace>> moves) {
+    for (const auto& [key, place] : moves) {
+      press(key);
+      EXPECT_TRUE(isOpen(place.row, place.column)) << place.row << ", " << place.column;
+    }
+  }
+  /// The first key may open the entry, which gets the others.
   void type(std::string_view text) {
     for (const char key : text) QTest::keyClick(QApplication::focusWidget(), key);
   }
@@ -76,7 +86,9 @@ class SheetOnScreen : public testing::Test {
   bool isOpen(int row, int col) const {
     return sheet.Editing() && CellPlace{sheet.cursorRow(), sheet.cursorColumn()} == CellPlace{row, col};
   }
-  std::string textOf(int row, int col) const { return sheet.Shown(row, col).str(); }
+  QString displayed(int row, int col, int role = Qt::DisplayRole) {
+    return grid().model()->index(row, col).data(role).toString();
+  }
 
   ScriptedPorts system;
   PaintingAuthor author;
@@ -92,6 +104,7 @@ class SheetOnScreen : public testing::Test {
   frmLiveExamples viewer{state};
   Element element;
   PropertySheet sheet;
+  std::function<void()> drawIcon;
   SheetView view;
   std::vector<int> changes;
 };

@@ -3,18 +3,18 @@
 namespace nimbrel {
 namespace {
 
-std::optional<CellPlace> beside(const PropertySheet& sheet, CellPlace from, int direction) {
-  const int columns = sheet.table().hasStates ? static_cast<int>(valueColumns.size()) : 1;
-  const int end = sheet.RowCount() * columns;
-  const int start = from.row * columns + static_cast<int>(slotOf(from.column));
+std::optional<CellPlace> inReadingOrder(const PropertySheet& sheet, CellPlace from, int direction) {
+  const int cellsPerRow = sheet.table().hasStates ? static_cast<int>(valueColumns.size()) : 1;
+  const int end = sheet.RowCount() * cellsPerRow;
+  const int start = from.row * cellsPerRow + static_cast<int>(slotOf(from.column));
   for (int at = start + direction; at >= 0 && at < end; at += direction) {
-    const CellPlace place{at / columns, valueColumns[static_cast<std::size_t>(at % columns)]};
+    const CellPlace place{at / cellsPerRow, valueColumns[static_cast<std::size_t>(at % cellsPerRow)]};
     if (sheet.row(place.row).takes(place.column)) return place;
   }
   return std::nullopt;
 }
 
-std::optional<CellPlace> above(const PropertySheet& sheet, CellPlace from, int direction) {
+std::optional<CellPlace> inColumn(const PropertySheet& sheet, CellPlace from, int direction) {
   for (int row = from.row + direction; row >= 0 && row < sheet.RowCount(); row += direction) {
     if (sheet.row(row).Kind() != KindGroup) return CellPlace{row, from.column};
   }
@@ -25,10 +25,10 @@ std::optional<CellPlace> above(const PropertySheet& sheet, CellPlace from, int d
 
 std::optional<CellPlace> cellAfter(const PropertySheet& sheet, CellPlace from, Step step) {
   switch (step) {
-    case Step::Next: return beside(sheet, from, 1);
-    case Step::Previous: return beside(sheet, from, -1);
-    case Step::Below: return above(sheet, from, 1);
-    case Step::Above: return above(sheet, from, -1);
+    case Step::Next: return inReadingOrder(sheet, from, 1);
+    case Step::Previous: return inReadingOrder(sheet, from, -1);
+    case Step::Below: return inColumn(sheet, from, 1);
+    case Step::Above: return inColumn(sheet, from, -1);
   }
   return std::nullopt;
 }

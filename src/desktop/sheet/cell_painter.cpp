@@ -10,9 +10,9 @@
 namespace nimbrel {
 namespace {
 
-constexpr int right = 3;      // pixels behind a text
-constexpr int textTop = 3;    // pixels, as the entry has it
-constexpr int longest = 500;  // characters, more than any cell shows
+constexpr int rightMargin = 3;  // pixels after a text
+constexpr int textTop = 3;      // pixels, the same as in the entry
+constexpr int maxLength = 500;  // characters, more than any cell shows
 
 constexpr QRgb groupCaption = 0xFF808080;
 constexpr QRgb groupValue = 0xFFD0D0D0;
@@ -23,7 +23,7 @@ bool isDark(const QPalette& palette) {
   return palette.color(QPalette::Base).lightness() < middle;
 }
 
-/// A light palette takes the fixed grey, a dark one is lightened as much as white is darkened by it.
+/// The fixed grey, or in a dark palette the base colour lightened as much as the grey is darker than white.
 QColor grey(const QPalette& palette, QRgb fixed) {
   if (!isDark(palette)) return QColor::fromRgb(fixed);
   const auto base = palette.color(QPalette::Base);
@@ -76,7 +76,7 @@ bool CellPainter::isColour(const QModelIndex& index) const {
 }
 
 QRect CellPainter::textPlace(const QRect& cell, const QModelIndex& index) const {
-  return cell.adjusted(inset + (isColour(index) ? cell.height() : 0), textTop, -right, 0);
+  return cell.adjusted(inset + (isColour(index) ? cell.height() : 0), textTop, -rightMargin, 0);
 }
 
 void CellPainter::paint(QPainter* painter, const QStyleOptionViewItem& option,
@@ -96,7 +96,7 @@ void CellPainter::paint(QPainter* painter, const QStyleOptionViewItem& option,
 
 void CellPainter::paintText(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index,
                             const QColor& ink) const {
-  const auto text = index.data().toString().left(longest).replace('\n', ' ');
+  const auto text = index.data().toString().left(maxLength).replace('\n', ' ');
   if (text.isEmpty()) return;
   const bool isCaption = index.column() == column::Caption;
   const auto font = isCaption ? captionFont(model_.sheet().row(index.row()), option.font) : option.font;
@@ -110,9 +110,9 @@ void CellPainter::paintText(QPainter& painter, const QStyleOptionViewItem& optio
 bool CellPainter::helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
                             const QModelIndex& index) {
   if (event->type() != QEvent::ToolTip || !index.isValid()) return false;
-  const auto text = index.data().toString().left(longest).trimmed();
+  const auto text = index.data().toString().left(maxLength).trimmed();
   const bool isCut = option.fontMetrics.horizontalAdvance(text) > textPlace(option.rect, index).width();
-  // A name may hold tags; they are to be read, not obeyed.
+  // Item names may contain tags.
   QToolTip::showText(event->globalPos(), isCut ? "<p>" + text.toHtmlEscaped() + "</p>" : QString(), view);
   return true;
 }
@@ -125,7 +125,7 @@ StateHeader::StateHeader(const PropertySheet& sheet, QWidget* parent)
   setMinimumSectionSize(1);
 }
 
-/// The header itself measures letters that are not bold, and cuts these off at both ends.
+/// QHeaderView would measure the text in a regular font, and cut off the bold one at both ends.
 void StateHeader::initStyleOptionForIndex(QStyleOptionHeader* option, int logicalIndex) const {
   QHeaderView::initStyleOptionForIndex(option, logicalIndex);
   QFont bold = font();

@@ -40,7 +40,7 @@ std::optional<EntryCommand> commandOf(const QKeyEvent& event) {
   return std::nullopt;
 }
 
-/// The window's own commands of these keys are about the tree.
+/// In the main window these shortcuts act on the tree.
 bool isEditing(const QKeyEvent& event) {
   return event.matches(QKeySequence::Cut) || event.matches(QKeySequence::Paste) ||
          event.matches(QKeySequence::Undo) || event.matches(QKeySequence::Redo) ||
@@ -54,7 +54,7 @@ bool isTyped(const QKeyEvent& event) {
 
 }  // namespace
 
-/// Asked for without need, some systems' input methods crash where there is no keyboard.
+/// Only if needed: on some systems without a keyboard, committing crashes the input method.
 void endComposing() {
   if (qobject_cast<EntryEdit*>(QGuiApplication::focusObject()) != nullptr) {
     QGuiApplication::inputMethod()->commit();
@@ -65,7 +65,7 @@ EntryEdit::EntryEdit(QWidget* parent) : QLineEdit(parent) {
   setObjectName("txtEntry");
   setFrame(false);
   setMaxLength(std::numeric_limits<int>::max());
-  setFocusPolicy(Qt::ClickFocus);  // the table's turn in the order of the tabulator is the entry's
+  setFocusPolicy(Qt::ClickFocus);  // in the tab order the table stands for the entry
   hide();
 }
 
@@ -82,11 +82,11 @@ bool EntryEdit::event(QEvent* event) {
 
 void EntryEdit::keyPressEvent(QKeyEvent* event) {
   if (const auto command = commandOf(*event)) {
-    emit commanded(*command);
+    emit commandRequested(*command);
   } else if (isReadOnly() && event->key() == Qt::Key_Space) {
-    emit commanded(EntryCommand::PressButton);
+    emit commandRequested(EntryCommand::PressButton);
   } else if (isReadOnly() && isTyped(*event)) {
-    emit searched(event->text());
+    emit searchRequested(event->text());
   } else {
     QLineEdit::keyPressEvent(event);
   }
@@ -98,7 +98,7 @@ void EntryEdit::mousePressEvent(QMouseEvent* event) {
 }
 
 bool EntryEdit::focusNextPrevChild(bool next) {
-  emit commanded(next ? EntryCommand::Next : EntryCommand::Previous);
+  emit commandRequested(next ? EntryCommand::Next : EntryCommand::Previous);
   return true;
 }
 

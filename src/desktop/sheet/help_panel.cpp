@@ -6,15 +6,15 @@
 #include <QStylePainter>
 #include <algorithm>
 
-#include "desktop/shown_text.h"
+#include "desktop/display_text.h"
 #include "desktop/twips.h"
 
 namespace nimbrel {
 namespace {
 
-constexpr int labelLeft = 4;  // pixels, so that a text does not touch the window's edge
+constexpr int labelLeft = 4;  // pixels, so that texts do not touch the edge of the window
 
-/// The usual blue cannot be read on a dark ground.
+/// The default blue is unreadable on a dark background.
 QColor linkColour(const QPalette& palette) {
   constexpr int middle = 128;
   const auto link = palette.color(QPalette::Link);
@@ -23,7 +23,7 @@ QColor linkColour(const QPalette& palette) {
   return isDark && link.lightness() <= middle ? QColor::fromRgb(lightBlue) : link;
 }
 
-/// A label would be read out as mere text.
+/// A screen reader would read a QLabel as plain text.
 class AccessibleLink : public QAccessibleWidget {
  public:
   explicit AccessibleLink(LinkLabel& link) : QAccessibleWidget(&link, QAccessible::Link), link_(link) {}
@@ -46,8 +46,8 @@ QAccessibleInterface* accessibleLink(const QString&, QObject* object) {
   return link == nullptr ? nullptr : new AccessibleLink(*link);
 }
 
-void tellOfLinks() {
-  [[maybe_unused]] static const bool isTold = (QAccessible::installFactory(accessibleLink), true);
+void installAccessibleLinks() {
+  [[maybe_unused]] static const bool isInstalled = (QAccessible::installFactory(accessibleLink), true);
 }
 
 void setTextOf(QLabel& label, const QString& text) {
@@ -57,7 +57,7 @@ void setTextOf(QLabel& label, const QString& text) {
 }  // namespace
 
 LinkLabel::LinkLabel(QWidget* parent) : QLabel(parent) {
-  tellOfLinks();
+  installAccessibleLinks();
   setTextFormat(Qt::RichText);
   setFocusPolicy(Qt::TabFocus);  // a click leaves the focus to the entry
   connect(this, &QLabel::linkActivated, this, &LinkLabel::followed);
@@ -86,10 +86,10 @@ void LinkLabel::paintEvent(QPaintEvent* event) {
   QStylePainter(this).drawPrimitive(QStyle::PE_FrameFocusRect, option);
 }
 
-HelpPanel::HelpPanel(PropertySheet& sheet, Act act, QWidget* parent)
+HelpPanel::HelpPanel(PropertySheet& sheet, ActionRunner run, QWidget* parent)
     : QWidget(parent),
       sheet_(sheet),
-      act_(std::move(act)),
+      run_(std::move(run)),
       caption_(this),
       text_(this),
       moreHelp_(this),
@@ -105,25 +105,25 @@ HelpPanel::HelpPanel(PropertySheet& sheet, Act act, QWidget* parent)
   text_.setAlignment(Qt::AlignTop | Qt::AlignLeft);
   prepareLink(moreHelp_, sheet.lblMoreHelpLink);
   prepareLink(example_, sheet.lblExamplesLink);
-  example_.setToolTip(tr("Click here for a live demonstration of the selected property"));
+  example_.setToolTip("Click here for a live demonstration of the selected property");
 }
 
 void HelpPanel::prepareLink(LinkLabel& link, Control& control) {
-  link.setObjectName(shown(control.name));
+  link.setObjectName(toDisplay(control.name));
   connect(&link, &LinkLabel::followed, &link,
-          [this, &control] { act_([this, &control] { sheet_.click(control); }); });
+          [this, &control] { run_([this, &control] { sheet_.click(control); }); });
 }
 
 void HelpPanel::showLink(LinkLabel& link, const Control& control) {
-  link.setLink(shown(control.text));
+  link.setLink(toDisplay(control.text));
   link.setVisible(control.visible);
 }
 
 void HelpPanel::refresh() {
-  setTextOf(caption_, shown(sheet_.HelpLabel1.text));
-  const auto text = shown(sheet_.HelpLabel2.text);
+  setTextOf(caption_, toDisplay(sheet_.HelpLabel1.text));
+  const auto text = toDisplay(sheet_.HelpLabel2.text);
   setTextOf(text_, text);
-  // The panel may cut it off.
+  // The panel may cut off the text.
   const auto toolTip = text.isEmpty() ? text : "<p>" + text.toHtmlEscaped() + "</p>";
   if (text_.toolTip() != toolTip) text_.setToolTip(toolTip);
   showLink(moreHelp_, sheet_.lblMoreHelpLink);
@@ -146,7 +146,7 @@ void HelpPanel::layOut(const SheetLayout& layout) {
   placeCaption();
 }
 
-/// The links stand in the caption's line; it ends ahead of them.
+/// The links are on the same line as the caption, which ends before them.
 void HelpPanel::placeCaption() {
   constexpr int gap = 8;
   const int end = moreHelp_.isHidden() ? width() : moreHelp_.x() - gap;

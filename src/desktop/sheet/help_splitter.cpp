@@ -12,7 +12,7 @@ HelpSplitter::HelpSplitter(QWidget* parent) : QWidget(parent), shadow_(parent) {
   setObjectName("imgSplitter");
   setCursor(Qt::SplitVCursor);
   setFocusPolicy(Qt::TabFocus);
-  setAccessibleName(tr("Splitter between properties and help"));
+  setAccessibleName("Splitter between properties and help");
   setAutoFillBackground(true);
   shadow_.setObjectName("picSplitter");
   shadow_.setAutoFillBackground(true);
@@ -26,7 +26,7 @@ int HelpSplitter::draggedTop(int pixelsFromTop) const {
 
 void HelpSplitter::mousePressEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
-  emit dragBegun();
+  emit dragStarted();
   shadow_.setGeometry(toPixels(draggingShadow(toTwips(geometry()))));
   shadow_.show();
   shadow_.raise();
@@ -48,7 +48,7 @@ void HelpSplitter::keyPressEvent(QKeyEvent* event) {
     QWidget::keyPressEvent(event);
     return;
   }
-  emit dragBegun();
+  emit dragStarted();
   emit moved(draggedTop(event->key() == Qt::Key_Up ? -step : step));
 }
 

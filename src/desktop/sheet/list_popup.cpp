@@ -6,12 +6,12 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
-#include "desktop/shown_text.h"
+#include "desktop/display_text.h"
 
 namespace nimbrel {
 namespace {
 
-constexpr int spacing = 2;  // pixels between entries, as the sheet's geometry has it
+constexpr int spacing = 2;  // pixels between entries, the same as in the sheet's geometry
 
 }  // namespace
 
@@ -38,16 +38,16 @@ void ListPopup::fill(const std::vector<std::string>& texts) {
   texts_ = texts;
   list_.clear();
   widest_ = 0;
-  constexpr int margin = 8;  // pixels at both sides
+  constexpr int margin = 8;  // pixels, both sides together
   const int height = list_.fontMetrics().height() + spacing;
   for (const auto& text : texts) {
-    auto* item = new QListWidgetItem(shown(text), &list_);
+    auto* item = new QListWidgetItem(toDisplay(text), &list_);
     widest_ = std::max(widest_, list_.fontMetrics().horizontalAdvance(item->text()) + margin);
     item->setSizeHint(QSize(1, height));
   }
 }
 
-void ListPopup::mark(const QString& text) {
+void ListPopup::setCurrentText(const QString& text) {
   const auto found = list_.findItems(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
   list_.setCurrentItem(found.isEmpty() ? nullptr : found.constFirst());
 }
@@ -72,7 +72,7 @@ void ListPopup::open(const QRect& inner, const QRect& opener) {
   if (list_.currentItem() != nullptr) list_.scrollToItem(list_.currentItem());
 }
 
-/// Comes here only from outside of the list.
+/// Only clicks outside of the list arrive here.
 void ListPopup::mousePressEvent(QMouseEvent* event) {
   if (opener_.contains(event->globalPosition().toPoint())) setAttribute(Qt::WA_NoMouseReplay);
   QFrame::mousePressEvent(event);
@@ -83,34 +83,34 @@ void ListPopup::hideEvent(QHideEvent* event) {
   emit closed();
 }
 
-bool ListPopup::focusNextPrevChild(bool next) { return take(next ? Qt::Key_Tab : Qt::Key_Backtab); }
+bool ListPopup::focusNextPrevChild(bool next) { return acceptCurrent(next ? Qt::Key_Tab : Qt::Key_Backtab); }
 
 bool ListPopup::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() != QEvent::KeyPress) return QFrame::eventFilter(watched, event);
-  return press(static_cast<QKeyEvent*>(event)->key()) || QFrame::eventFilter(watched, event);
+  return handleKey(static_cast<QKeyEvent*>(event)->key()) || QFrame::eventFilter(watched, event);
 }
 
-bool ListPopup::take(int key) {
+bool ListPopup::acceptCurrent(int key) {
   const int entry = list_.currentRow();
   if (entry < 0) {
     hide();
   } else if (key == Qt::Key_Tab || key == Qt::Key_Backtab) {
-    emit movedOn(entry, key == Qt::Key_Tab);
+    emit chosenByTab(entry, key == Qt::Key_Tab);
   } else {
     emit chosen(entry);
   }
   return true;
 }
 
-bool ListPopup::press(int key) {
+bool ListPopup::handleKey(int key) {
   switch (key) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
     case Qt::Key_Tab:
-    case Qt::Key_Backtab: return take(key);
+    case Qt::Key_Backtab: return acceptCurrent(key);
     case Qt::Key_Escape:
     case Qt::Key_F4: hide(); return true;
-    case Qt::Key_F1: emit helpWanted(); return true;
+    case Qt::Key_F1: emit helpRequested(); return true;
     default: return false;
   }
 }

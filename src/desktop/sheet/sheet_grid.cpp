@@ -4,7 +4,7 @@
 #include <QMouseEvent>
 #include <algorithm>
 
-#include "desktop/shown_text.h"
+#include "desktop/display_text.h"
 
 namespace nimbrel {
 namespace {
@@ -22,7 +22,7 @@ SheetGrid::SheetGrid(SheetModel& model, QWidget* parent)
   setHorizontalHeader(new StateHeader(model.sheet(), this));
   setModel(&model);
   setItemDelegate(&painter_);
-  setAccessibleName(shown(model.sheet().table().title));
+  setAccessibleName(toDisplay(model.sheet().table().title));
   horizontalHeader()->setVisible(model.sheet().table().hasStates);
   verticalHeader()->hide();
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
@@ -30,7 +30,7 @@ SheetGrid::SheetGrid(SheetModel& model, QWidget* parent)
   setVerticalScrollMode(ScrollPerPixel);
   setSelectionMode(NoSelection);
   setEditTriggers(NoEditTriggers);
-  setTabKeyNavigation(false);  // from a closed cell the tabulator leaves the table
+  setTabKeyNavigation(false);  // while no cell is open, Tab leaves the table
   setCornerButtonEnabled(false);
   setWordWrap(false);
 }
@@ -48,17 +48,17 @@ void SheetGrid::goTo(CellPlace place) {
   scrollTo(index);
 }
 
-int SheetGrid::rowsInSight() const {
+int SheetGrid::visibleRows() const {
   return std::max(viewport()->height() / std::max(verticalHeader()->defaultSectionSize(), 1), 1);
 }
 
 void SheetGrid::mousePressEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
   const auto index = indexAt(event->position().toPoint());
-  emit pressed(index.row(), index.column());
+  emit cellPressed(index.row(), index.column());
 }
 
-/// No other cell becomes current while the button is down.
+/// Dragging does not change the current cell.
 void SheetGrid::mouseMoveEvent(QMouseEvent* event) {
   if (event->buttons() == Qt::NoButton) QTableView::mouseMoveEvent(event);
 }
@@ -79,20 +79,20 @@ bool SheetGrid::isForCell(const QKeyEvent& event) const {
          (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == 0;
 }
 
-/// What the entry has no use for comes here too, and goes on.
+/// Keys that the entry ignores arrive here too, and are passed on.
 void SheetGrid::keyPressEvent(QKeyEvent* event) {
   if (!hasFocus()) {
     event->ignore();
   } else if (isForCell(*event)) {
-    emit keyForCell(event);
+    emit cellKeyPressed(event);
   } else {
     QTableView::keyPressEvent(event);
   }
 }
 
-void SheetGrid::inputMethodEvent(QInputMethodEvent* event) { emit composed(event); }
+void SheetGrid::inputMethodEvent(QInputMethodEvent* event) { emit textComposed(event); }
 
-/// The table asks for no input method where its cells have no editors that it knows of.
+/// QTableView enables input methods only for cells with editors of its own.
 QVariant SheetGrid::inputMethodQuery(Qt::InputMethodQuery query) const {
   return query == Qt::ImEnabled ? QVariant(true) : QTableView::inputMethodQuery(query);
 }
@@ -102,7 +102,7 @@ void SheetGrid::focusInEvent(QFocusEvent* event) {
   setAttribute(Qt::WA_InputMethodEnabled);
   const auto reason = event->reason();
   if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason) {
-    emit reachedByKeyboard();
+    emit focusedByKeyboard();
   }
 }
 
@@ -137,8 +137,8 @@ QModelIndex SheetGrid::moveCursor(CursorAction action, Qt::KeyboardModifiers) {
     case MoveNext: place = moved(place, Step::Next, 1); break;
     case MoveLeft:
     case MovePrevious: place = moved(place, Step::Previous, 1); break;
-    case MovePageDown: place = moved(place, Step::Below, rowsInSight()); break;
-    case MovePageUp: place = moved(place, Step::Above, rowsInSight()); break;
+    case MovePageDown: place = moved(place, Step::Below, visibleRows()); break;
+    case MovePageUp: place = moved(place, Step::Above, visibleRows()); break;
     case MoveHome: place = moved(place, Step::Above, all); break;
     case MoveEnd: place = moved(place, Step::Below, all); break;
   }

@@ -3,17 +3,17 @@
 #include <QFont>
 #include <algorithm>
 
-#include "desktop/shown_text.h"
+#include "desktop/display_text.h"
 
 namespace nimbrel {
 namespace {
 
-QString stateName(int col) { return shown(stateNames[slotOf(col)]); }
+QString stateName(int col) { return toDisplay(stateNames[slotOf(col)]); }
 
 }  // namespace
 
 SheetModel::SheetModel(const PropertySheet& sheet, QObject* parent)
-    : QAbstractTableModel(parent), sheet_(sheet), seen_(static_cast<std::size_t>(sheet.RowCount())) {
+    : QAbstractTableModel(parent), sheet_(sheet), appearances_(static_cast<std::size_t>(sheet.RowCount())) {
   const bool hasHeadings = std::ranges::any_of(
       sheet.table().rows, [](const PropertyRow* row) { return row->Kind() == KindGroup; });
   if (hasHeadings) indent_ = "  ";
@@ -23,29 +23,29 @@ bool SheetModel::isOpen(int row, int col) const {
   return sheet_.Editing() && sheet_.cursorRow() == row && sheet_.cursorColumn() == col;
 }
 
-SheetModel::Sight SheetModel::sightOf(int row, int col) const {
-  Sight sight{sheet_.Shown(row, col), {}, isOpen(row, col)};
-  if (sheet_.row(row).Kind() == KindColour) sight.swatch = sheet_.swatch(row, col);
-  return sight;
+SheetModel::Appearance SheetModel::appearanceOf(int row, int col) const {
+  Appearance appearance{sheet_.Shown(row, col), {}, isOpen(row, col)};
+  if (sheet_.row(row).Kind() == KindColour) appearance.swatch = sheet_.swatch(row, col);
+  return appearance;
 }
 
 void SheetModel::sync() {
   for (int row = 0; row < sheet_.RowCount(); ++row) {
     for (const int col : valueColumns) {
       if (col >= columnCount() || !sheet_.row(row).takes(col)) continue;
-      auto& seen = seen_[static_cast<std::size_t>(row)][slotOf(col)];
-      auto now = sightOf(row, col);
-      if (now == seen) continue;
-      seen = std::move(now);
+      auto& last = appearances_[static_cast<std::size_t>(row)][slotOf(col)];
+      auto now = appearanceOf(row, col);
+      if (now == last) continue;
+      last = std::move(now);
       emit dataChanged(index(row, col), index(row, col));
     }
   }
   const int openRow = sheet_.Editing() ? sheet_.cursorRow() : -1;
   const int openColumn = sheet_.Editing() ? sheet_.cursorColumn() : -1;
-  for (const int row : {std::exchange(seenOpenRow_, openRow), openRow}) {
+  for (const int row : {std::exchange(lastOpenRow_, openRow), openRow}) {
     if (row >= 0) emit dataChanged(index(row, column::Caption), index(row, column::Caption));
   }
-  if (std::exchange(seenOpenColumn_, openColumn) != openColumn) {
+  if (std::exchange(lastOpenColumn_, openColumn) != openColumn) {
     emit headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
   }
 }
@@ -57,22 +57,22 @@ int SheetModel::columnCount(const QModelIndex& parent) const {
   return (sheet_.table().hasStates ? column::MouseClick : column::Normal) + 1;
 }
 
-QString SheetModel::heldText(int row, std::string_view text) const {
-  return sheet_.row(row).Kind() == KindFile ? shownPath(text) : shown(text);
+QString SheetModel::displayText(int row, std::string_view text) const {
+  return sheet_.row(row).Kind() == KindFile ? toDisplayPath(text) : toDisplay(text);
 }
 
 QString SheetModel::text(int row, int col) const {
   if (col == column::Replicate || !sheet_.row(row).takes(col)) return {};
-  return heldText(row, sheet_.Shown(row, col));
+  return displayText(row, sheet_.Shown(row, col));
 }
 
 QString SheetModel::caption(int row) const {
   const auto& entry = sheet_.row(row);
-  return (entry.Kind() == KindGroup ? QString() : indent_) + shown(entry.Caption);
+  return (entry.Kind() == KindGroup ? QString() : indent_) + toDisplay(entry.Caption);
 }
 
 QString SheetModel::nameOf(int row, int col) const {
-  const auto name = shown(sheet_.row(row).Caption);
+  const auto name = toDisplay(sheet_.row(row).Caption);
   return sheet_.table().hasStates ? name + ", " + stateName(col) : name;
 }
 
@@ -83,7 +83,8 @@ QVariant SheetModel::data(const QModelIndex& index, int role) const {
   if (col == column::Caption) return role == Qt::DisplayRole ? caption(row) : caption(row).trimmed();
   if (role == Qt::DisplayRole) return isOpen(row, col) ? QString() : text(row, col);
   if (col == column::Replicate || !sheet_.row(row).takes(col)) return {};
-  return nameOf(row, col) + ": " + (isOpen(row, col) ? heldText(row, sheet_.txtEntry.text) : text(row, col));
+  return nameOf(row, col) + ": " +
+         (isOpen(row, col) ? displayText(row, sheet_.txtEntry.text) : text(row, col));
 }
 
 QVariant SheetModel::headerData(int section, Qt::Orientation orientation, int role) const {
@@ -98,7 +99,7 @@ QVariant SheetModel::headerData(int section, Qt::Orientation orientation, int ro
     return font;
   }
   if (role != Qt::DisplayRole || section == column::Replicate) return {};
-  return isCaption ? tr("Item State:") : stateName(section);
+  return isCaption ? "Item State:" : stateName(section);
 }
 
 Qt::ItemFlags SheetModel::flags(const QModelIndex& index) const {

@@ -5,7 +5,7 @@
 #include <QScrollBar>
 #include <algorithm>
 
-#include "desktop/shown_text.h"
+#include "desktop/display_text.h"
 #include "desktop/twips.h"
 
 namespace nimbrel {
@@ -17,12 +17,13 @@ SheetView::SheetView(PropertySheet& sheet, IconSource icons, QWidget* parent)
       grid_(model_, this),
       splitter_(this),
       help_(
-          sheet, [this](const auto& deed) { act(deed); }, this),
-      editors_(sheet, *grid_.viewport(), std::move(icons), [this](const auto& deed) { act(deed); }) {
-  setObjectName(shown(sheet.name));
-  title_.setObjectName(shown(sheet.lblTitle.name));
+          sheet, [this](const Action& action) { runAction(action); }, this),
+      editors_(sheet, *grid_.viewport(), std::move(icons),
+               [this](const Action& action) { runAction(action); }) {
+  setObjectName(toDisplay(sheet.name));
+  title_.setObjectName(toDisplay(sheet.lblTitle.name));
   title_.setTextFormat(Qt::PlainText);
-  title_.setText(shown(sheet.lblTitle.text));
+  title_.setText(toDisplay(sheet.lblTitle.text));
   title_.setMargin(3);
   title_.setBuddy(&grid_);
   setFocusProxy(&grid_);
@@ -34,46 +35,39 @@ SheetView::SheetView(PropertySheet& sheet, IconSource icons, QWidget* parent)
 }
 
 void SheetView::connectAll() {
-  connect(&grid_, &SheetGrid::pressed, this, &SheetView::press);
-  connect(&grid_, &SheetGrid::keyForCell, this, &SheetView::keyForCell);
-  connect(&grid_, &SheetGrid::composed, this, &SheetView::compose);
-  connect(&grid_, &SheetGrid::reachedByKeyboard, this, [this] { open(grid_.current()); });
+  connect(&grid_, &SheetGrid::cellPressed, this, &SheetView::press);
+  connect(&grid_, &SheetGrid::cellKeyPressed, this, &SheetView::cellKeyPressed);
+  connect(&grid_, &SheetGrid::textComposed, this, &SheetView::compose);
+  connect(&grid_, &SheetGrid::focusedByKeyboard, this, [this] { open(grid_.current()); });
   connect(&grid_, &SheetGrid::scrolled, this, &SheetView::scrolled);
   connect(&grid_, &SheetGrid::resized, this, &SheetView::setColumns);
-  connect(&editors_.entry(), &EntryEdit::commanded, this, &SheetView::command);
-  connect(&editors_.list(), &ListPopup::helpWanted, this, &SheetView::help);
-  connect(&splitter_, &HelpSplitter::dragBegun, this, &SheetView::leave);
+  connect(&editors_.entry(), &EntryEdit::commandRequested, this, &SheetView::command);
+  connect(&editors_.list(), &ListPopup::helpRequested, this, &SheetView::help);
+  connect(&splitter_, &HelpSplitter::dragStarted, this, &SheetView::leaveCell);
   connect(&splitter_, &HelpSplitter::moved, this, [this](int top) {
     helpHeight_ = HelpHeight(toTwips(height()), top);
     layOut();
   });
 }
 
-void SheetView::act(const std::function<void()>& deed) {
-  const bool isWithinAnother = std::exchange(isActing_, true);  // which waits for a chooser
-  const auto show = [&] {
-    refresh();
-    isActing_ = isWithinAnother;
-    emit acted();
+void SheetView::runAction(const Action& action) {
+  const bool isNested = std::exchange(isRunning_, true);  // in the event loop of a chooser
+  const auto finish = [&] {
+    isRunning_ = isNested;
+    emit actionFinished();
   };
-  try {
-    deed();
-  } catch (...) {
-    show();
-    throw;
-  }
-  show();
+  nimbrel::runAction(action, {[this] { refresh(); }, finish});
 }
 
 void SheetView::refresh() {
   auto& entry = editors_.entry();
-  if (!sheet_.Editing() && !isActing_ && entry.hasFocus()) caret_ = entry.cursorPosition();
+  if (!sheet_.Editing() && !isRunning_ && entry.hasFocus()) caret_ = entry.cursorPosition();
   model_.sync();
   if (std::exchange(fillings_, sheet_.fillings()) != sheet_.fillings() && !sheet_.Editing()) {
     grid_.scrollToTop();
     caret_.reset();
   }
-  // The links go with the cell.
+  // The links are hidden when the cell is closed.
   if (!sheet_.Editing() && help_.isAncestorOf(window()->focusWidget())) grid_.setFocus(Qt::OtherFocusReason);
   help_.refresh();
   followOpenCell();
@@ -81,26 +75,26 @@ void SheetView::refresh() {
   editors_.refresh(model_.nameOf(sheet_.cursorRow(), sheet_.cursorColumn()), listPlace());
 }
 
-/// A deed may open another cell than the author was in: copying to the other states goes back to the first.
+/// An action may open another cell: replicating moves to the first state.
 void SheetView::followOpenCell() {
   const auto open = openCell();
-  const auto before = std::exchange(shownCell_, open);
+  const auto before = std::exchange(lastOpenCell_, open);
   if (!open || open == before) return;
   editors_.begin();
   if (grid_.current() != *open) grid_.goTo(*open);
   if (before && before->row == open->row) column_ = open->column;
 }
 
-void SheetView::leave() {
+void SheetView::leaveCell() {
   endComposing();
-  if (sheet_.Editing()) act([this] { sheet_.LeaveCell(); });
+  if (sheet_.Editing()) runAction([this] { sheet_.LeaveCell(); });
 }
 
-/// Commits what is open ahead of it.
+/// Commits the open cell first.
 void SheetView::open(CellPlace place) {
   endComposing();
   caret_.reset();
-  act([&] {
+  runAction([&] {
     sheet_.LeaveCell();
     sheet_.EnterCell(place.row, place.column);
   });
@@ -110,7 +104,7 @@ void SheetView::open(CellPlace place) {
 void SheetView::press(int row, int col) {
   grid_.setFocus(Qt::MouseFocusReason);
   if (row < 0 || col < 0) {
-    leave();
+    leaveCell();
   } else if (model_.isOpen(row, col)) {
     editors_.focusEntry();
   } else {
@@ -125,12 +119,12 @@ void SheetView::command(EntryCommand command) {
     case EntryCommand::Previous: go(Step::Previous, 1); break;
     case EntryCommand::Below: go(Step::Below, 1); break;
     case EntryCommand::Above: go(Step::Above, 1); break;
-    case EntryCommand::PageDown: go(Step::Below, grid_.rowsInSight()); break;
-    case EntryCommand::PageUp: go(Step::Above, grid_.rowsInSight()); break;
-    case EntryCommand::TakeBack: act([this] { sheet_.TakeBack(); }); break;
+    case EntryCommand::PageDown: go(Step::Below, grid_.visibleRows()); break;
+    case EntryCommand::PageUp: go(Step::Above, grid_.visibleRows()); break;
+    case EntryCommand::TakeBack: runAction([this] { sheet_.TakeBack(); }); break;
     case EntryCommand::PressButton: editors_.pressButton(); break;
     case EntryCommand::Replicate:
-      act([this] { sheet_.click(sheet_.btnReplicate); });
+      runAction([this] { sheet_.click(sheet_.btnReplicate); });
       editors_.focusEntry();
       break;
     case EntryCommand::GoToLinks: help_.focusLinks(); break;
@@ -152,18 +146,18 @@ void SheetView::go(Step step, int times) {
   } else if (isAlong) {
     leaveTable(step == Step::Next);
   } else {
-    leave();
+    leaveCell();
   }
 }
 
 void SheetView::leaveTable(bool forward) {
-  leave();
+  leaveCell();
   grid_.setFocus(Qt::OtherFocusReason);
   focusNextPrevChild(forward);
 }
 
-/// An open cell that was scrolled away comes back; one that a command closed is typed on.
-void SheetView::goOnTyping() {
+/// Scrolls back to an open cell. Opens one again that a command has closed, with the cursor where it was.
+void SheetView::continueTyping() {
   if (sheet_.Editing()) {
     grid_.goTo(lastCell());
     editors_.entry().setFocus(Qt::OtherFocusReason);
@@ -175,9 +169,9 @@ void SheetView::goOnTyping() {
   }
 }
 
-void SheetView::keyForCell(QKeyEvent* event) {
+void SheetView::cellKeyPressed(QKeyEvent* event) {
   const bool wasOpen = sheet_.Editing();
-  goOnTyping();
+  continueTyping();
   const int key = event->key();
   const bool onlyOpens = key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_F2;
   auto& entry = editors_.entry();
@@ -185,7 +179,7 @@ void SheetView::keyForCell(QKeyEvent* event) {
 }
 
 void SheetView::compose(QInputMethodEvent* event) {
-  goOnTyping();
+  continueTyping();
   auto& entry = editors_.entry();
   if (entry.hasFocus()) QCoreApplication::sendEvent(&entry, event);
 }
@@ -193,13 +187,13 @@ void SheetView::compose(QInputMethodEvent* event) {
 void SheetView::scrolled() {
   if (!sheet_.Editing()) return;
   const bool isTyping = grid_.hasFocus();
-  sheet_.Grid_Scroll(grid_.isInSight(lastCell()));
-  refresh();
+  nimbrel::runAction([this] { sheet_.Grid_Scroll(grid_.isCellVisible(lastCell())); },
+                     {[this] { refresh(); }});
   if (isTyping && sheet_.txtEntry.visible) editors_.entry().setFocus(Qt::OtherFocusReason);
 }
 
 void SheetView::help() {
-  if (sheet_.HelpContextID() != 0) emit helpWanted(sheet_.HelpContextID());
+  if (sheet_.HelpContextID() != 0) emit helpRequested(sheet_.HelpContextID());
 }
 
 void SheetView::keyPressEvent(QKeyEvent* event) {
@@ -215,11 +209,11 @@ void SheetView::keyPressEvent(QKeyEvent* event) {
 
 void SheetView::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
-  // What a chooser brings is still to come to the cell.
-  if (!isActing_) {
+  // A chooser is about to set the text of the open cell.
+  if (!isRunning_) {
     const auto& entry = editors_.entry();
     const auto caret = entry.hasFocus() ? std::optional(entry.cursorPosition()) : std::nullopt;
-    leave();
+    leaveCell();
     caret_ = caret;
   }
   layOut();
@@ -242,7 +236,7 @@ void SheetView::changeEvent(QEvent* event) {
 }
 
 void SheetView::measure() {
-  constexpr int air = 8;  // pixels around a line of text in a cell
+  constexpr int air = 8;  // pixels above and below a line of text in a cell, together
   const int rowHeight = fontMetrics().height() + air;
   grid_.setRowHeight(rowHeight);
   int widest = 0;
@@ -260,7 +254,7 @@ void SheetView::measure() {
       .textHeight = toTwips(fontMetrics().height()),
       .swatchWidth = toTwips(rowHeight - 1),  // the last pixel is the grid line
       .widestCaption = toTwips(widest),
-      .exampleLinkWidth = toTwips(fontMetrics().horizontalAdvance(shown(sheet_.lblExamplesLink.text)))};
+      .exampleLinkWidth = toTwips(fontMetrics().horizontalAdvance(toDisplay(sheet_.lblExamplesLink.text)))};
   editors_.setIconSize(toPixels(metrics_.buttonSide()));
 }
 
@@ -276,7 +270,7 @@ void SheetView::layOut() {
   setColumns();
 }
 
-/// The geometry leaves 6 pixels to the grid's frame, of which ours takes less.
+/// The sheet's geometry reserves 6 pixels for the frame of the grid; ours is narrower.
 void SheetView::setColumns() {
   constexpr int frame = 6;
   const auto* bar = grid_.verticalScrollBar();

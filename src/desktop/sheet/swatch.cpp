@@ -8,11 +8,11 @@ namespace {
 
 QColor colourOf(const Rgb& colour) { return {colour.red, colour.green, colour.blue}; }
 
-/// Drawn as lines: a pattern brush has its own pixels, too fine for a screen of many.
+/// A pattern brush would be too fine on screens of high resolution.
 void hatchDownwards(QPainter& painter, const QRect& box) {
   constexpr int gap = 5;
   painter.setClipRect(box);
-  painter.setPen(Qt::black);  // what fills the box is light, whatever the palette is
+  painter.setPen(Qt::black);  // the fill is light in every palette
   for (int x = box.left() - box.height(); x < box.right(); x += gap) {
     painter.drawLine(x, box.top(), x + box.height(), box.bottom() + 1);
   }

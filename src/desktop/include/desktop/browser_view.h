@@ -6,25 +6,25 @@ class QWebEngineView;
 
 namespace nimbrel {
 
-/// A browser for pages of the program itself. It loads files of the program's folder and nothing else: no network,
-/// no other file. Links are not followed. The browser's process starts with the first page.
+/// A browser for the program's own pages. It loads files from the program's folder only: nothing from the network
+/// and no other files. It follows no links. The browser process starts with the first page.
 class BrowserView : public QStackedWidget {
   Q_OBJECT
 
  public:
   explicit BrowserView(QWidget* parent = nullptr);
 
-  /// The folder that all browsers may read, set once ahead of the first page.
+  /// The folder that all browsers may read. Must be set before the first page.
   static void setReadableFolder(const QString& folder);
 
   void navigate(const QString& path);
-  /// None ahead of the first page.
+  /// nullptr before the first page.
   QWebEngineView* view() const { return view_; }
 
  signals:
   void documentComplete();
-  /// The browser's process has ended, and the author wants the page again.
-  void reloadWanted();
+  /// The browser process has crashed, and the user wants to load the page again.
+  void reloadRequested();
 
  private:
   void createView();

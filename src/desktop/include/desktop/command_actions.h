@@ -12,27 +12,27 @@ class QMenu;
 
 namespace nimbrel {
 
-/// The command table as menus, context menus and toolbar of a window.
+/// Builds the menus, the context menus and the toolbar of a window from the command table.
 class CommandActions : public QObject {
   Q_OBJECT
 
  public:
   explicit CommandActions(QMainWindow& window);
 
-  /// Shows captions, marks and states as they are now.
+  /// Updates captions, check marks and states.
   void refresh(const CommandStates& states);
-  /// Draws the icons anew, in the colours of the window.
+  /// Draws the icons again, in the window's current colours.
   void drawIcons();
+  /// These return nullptr for an unknown name.
   QMenu* contextMenu(std::string_view name) const;
-  /// None for a name that is no entry.
   QAction* action(std::string_view name) const;
   QAction* button(std::string_view key) const;
 
  signals:
-  /// The author wants a command, by its entry's name or its button's key.
-  void commandWanted(const QString& name);
-  /// F1 over an entry that has a topic of its own.
-  void helpWanted(int topic);
+  /// `name` is the name of a menu entry or the key of a toolbar button.
+  void commandTriggered(const QString& name);
+  /// The user has pressed F1 on a menu entry that has its own topic.
+  void helpRequested(int topic);
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;

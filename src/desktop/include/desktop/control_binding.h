@@ -1,14 +1,14 @@
 #pragma once
 
 #include <QWidget>
-#include <functional>
 #include <memory>
 
+#include "desktop/run_action.h"
 #include "platform/form.h"
 
 namespace nimbrel {
 
-/// One control of a form and the widget that shows it.
+/// Connects a control of a form with the widget that shows it.
 class ControlBinding {
  public:
   ControlBinding() = default;
@@ -16,19 +16,17 @@ class ControlBinding {
   ControlBinding& operator=(const ControlBinding&) = delete;
   virtual ~ControlBinding() = default;
 
-  /// Shows what the control says; touches only what differs, and raises no event.
-  virtual void show() = 0;
+  /// Updates the widget from the control, only where they differ, and without raising an event.
+  virtual void refresh() = 0;
 };
 
-/// Ties a control to a widget of a class that can show its kind; throws `std::logic_error` for any other.
-/// `act` is called with what the author does, to be carried out; it shows the whole form anew afterwards.
+/// Binds a control to a widget. Throws `std::logic_error` if a widget of this class cannot show the control.
+/// `run` runs what the user does and then refreshes the whole form.
 ///
-/// A widget with the dynamic property "paths" holds paths, which are shown in the system's own form.
-std::unique_ptr<ControlBinding> bindControl(Form& form, Control& control, QWidget& widget,
-                                            std::function<void(const std::function<void()>&)> act);
+/// A widget with the dynamic property "paths" shows paths, in the form of this system.
+std::unique_ptr<ControlBinding> bindControl(Form& form, Control& control, QWidget& widget, ActionRunner run);
 
 /// A timer needs no widget.
-std::unique_ptr<ControlBinding> bindTimer(Control& control, QObject& owner,
-                                          std::function<void(const std::function<void()>&)> act);
+std::unique_ptr<ControlBinding> bindTimer(Control& control, QObject& owner, ActionRunner run);
 
 }  // namespace nimbrel

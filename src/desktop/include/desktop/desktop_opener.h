@@ -4,7 +4,7 @@
 
 namespace nimbrel {
 
-/// Opens paths and web addresses with the user's own programs.
+/// Opens paths and web addresses with the user's default programs.
 class DesktopOpener : public Opener {
  public:
   void ShellExecuteA(std::string_view verb, std::string_view file, std::string_view parameters,

@@ -14,15 +14,16 @@
 
 namespace nimbrel {
 
-class Application;
-
-/// The whole desktop program: the ports to this system, the main window behind them, and its view.
+/// The whole desktop program: the ports to this system, the main window and its view.
 class DesktopProgram {
  public:
-  /// `programFolder` is a host path. Shows the splash screen until the main window can be shown.
-  DesktopProgram(Application& application, const std::string& programFolder);
+  /// `programFolder` is a host path.
+  explicit DesktopProgram(const std::string& programFolder);
+  DesktopProgram(const DesktopProgram&) = delete;
+  DesktopProgram& operator=(const DesktopProgram&) = delete;
+  ~DesktopProgram();
 
-  /// `commandLine` is the name of a menu file, or empty.
+  /// `commandLine` is the path of a menu file, or empty.
   void start(const std::string& commandLine);
 
   frmMain& main() { return main_; }
@@ -30,8 +31,6 @@ class DesktopProgram {
   HelpWindow& help() { return help_; }
 
  private:
-  bool mayEnd();
-
   HostFileSystem files_;
   QtAsker asker_;
   UserSettings settings_;

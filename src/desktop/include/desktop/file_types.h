@@ -8,18 +8,17 @@
 
 namespace nimbrel {
 
-/// The file types of the program as this user's desktop knows them: MIME types, icons and a desktop entry. What is
-/// registered comes in as keys of a classes root and is written by `publish`; a file that cannot be written is let
-/// be.
+/// Registers the program's file types with the user's desktop: MIME types, icons and a desktop entry. The types
+/// arrive as keys and values; `publish` writes them to files. Files that cannot be written are ignored.
 class FileTypes : public ClassesRoot {
  public:
-  /// `dataFolder` is the user's own, `program` the path of the running program.
+  /// `dataFolder` is the user's XDG data folder, `program` the path of the running program.
   FileTypes(QString dataFolder, QString program);
 
   void CreateClassKey(std::string_view key) override;
   void SetClassValue(std::string_view key, std::string_view valueName, std::string_view value) override;
 
-  /// Writes what differs, and has the desktop's caches made anew in the background if anything did.
+  /// Writes the files that differ. If there are any, updates the desktop's caches in the background.
   void publish() const;
 
  private:
@@ -29,7 +28,7 @@ class FileTypes : public ClassesRoot {
 
   QString dataFolder_;
   QString program_;
-  std::map<std::string, std::string> values_;  ///< the own value of each key
+  std::map<std::string, std::string> values_;  ///< the unnamed value of each key
 };
 
 }  // namespace nimbrel

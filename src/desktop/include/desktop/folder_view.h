@@ -5,7 +5,7 @@
 
 namespace nimbrel {
 
-/// The folders of this machine as a tree, in which one is open.
+/// The folders of this machine as a tree in which one folder is open.
 class FolderView : public QTreeView {
   Q_OBJECT
 
@@ -13,7 +13,7 @@ class FolderView : public QTreeView {
   explicit FolderView(QWidget* parent = nullptr);
 
   QString folder() const { return folder_; }
-  /// Opens a folder, no signal. One that is not there is remembered, and the tree stays as it is.
+  /// Opens a folder without a signal. If it does not exist, `folder` returns it but the tree stays unchanged.
   void setFolder(const QString& path);
 
  signals:
@@ -23,10 +23,12 @@ class FolderView : public QTreeView {
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
  private:
+  void scrollToFolder();
+
   QFileSystemModel* folders_;
   QString folder_;
-  bool isOwnMove_ = false;
-  bool isComing_ = false;  ///< the folder that was set is not in its place yet
+  bool isSettingFolder_ = false;
+  bool isLoading_ = false;  ///< rows around the folder that was set
 };
 
 }  // namespace nimbrel

@@ -1,33 +1,33 @@
 #pragma once
 
 #include <QDialog>
-#include <functional>
 #include <memory>
 #include <vector>
 
 #include "desktop/control_binding.h"
+#include "desktop/run_action.h"
 #include "platform/form.h"
 
 namespace nimbrel {
 
-/// The window of a form: its layout comes from the `.ui` file of the form's name, and each widget is tied to the
-/// control of the same name. It decides nothing.
+/// The window of a form. Its layout comes from the `.ui` file named after the form, and each widget is bound to the
+/// control of the same name. It decides nothing itself.
 class FormWindow : public QDialog {
   Q_OBJECT
 
  public:
-  /// Throws `std::logic_error` where layout and form do not fit each other.
+  /// Throws `std::logic_error` if layout and form do not match.
   explicit FormWindow(Form& form, QWidget* parent = nullptr);
 
-  /// Takes over what the form says now. The window of a form that is no longer open hides; showing is the owner's.
+  /// Updates the window from the form. Hides it if the form is no longer open; the owner is the one that shows it.
   void refresh();
   Form& form() { return form_; }
 
  signals:
-  /// The author has done something that the form has carried out.
-  void acted();
-  /// F1.
-  void helpWanted();
+  /// The form has run an action of the user, and the window has been refreshed.
+  void actionFinished();
+  /// The user has pressed F1.
+  void helpRequested();
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -38,7 +38,7 @@ class FormWindow : public QDialog {
   bool isEnterForContent(int key) const;
   void growToText();
   void bind();
-  void act(const std::function<void()>& deed);
+  void runAction(const Action& action);
   void focus();
 
   Form& form_;

@@ -12,17 +12,17 @@ class QTextBrowser;
 
 namespace nimbrel {
 
-/// The help: contents, index and search beside the topic. Its window opens with the first topic.
+/// The help: contents, index and search beside the current topic.
 class HelpWindow : public QMainWindow, public HelpSystem {
   Q_OBJECT
 
  public:
-  /// `file` is the compiled help; `cacheFolder` takes what the search writes.
+  /// `file` is the compiled help. Its collection and its search index are written to `cacheFolder`.
   HelpWindow(QString file, QString cacheFolder);
   ~HelpWindow() override;
 
-  /// Called with the name of a help file that cannot be opened, each time that help is wanted.
-  void onMissing(std::function<void(const QString&)> tell) { missing_ = std::move(tell); }
+  /// `callback` is called with the path of the help file whenever help is requested and the file cannot be opened.
+  void onMissing(std::function<void(const QString&)> callback) { missing_ = std::move(callback); }
 
   bool openTopic(int topic) override;
   bool openContents() override;
@@ -30,12 +30,12 @@ class HelpWindow : public QMainWindow, public HelpSystem {
 
  private:
   bool load();
-  bool isReady();
-  void nameForReaders();
+  bool ensureLoaded();
+  void setAccessibleNames();
   void build();
   void buildSearch();
   void showPage(const QUrl& page);
-  void come(int tab);
+  void showTab(int tab);
 
   QString file_;
   std::function<void(const QString&)> missing_;

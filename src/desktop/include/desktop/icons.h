@@ -6,13 +6,12 @@
 
 namespace nimbrel {
 
-/// A drawing of the program's icon set by its name, its strokes in `ink`; paler where it is disabled. Empty for a
-/// name that the set lacks.
+/// An icon of the program's set, with strokes in `ink`, paler when disabled. Empty if the set has no such name.
 QIcon drawnIcon(const QString& name, const QColor& ink);
-/// The same for a list, drawn in `selectedInk` alone where it is selected.
+/// The same for a list, with all of the icon in `selectedInk` when selected.
 QIcon drawnIcon(const QString& name, const QColor& ink, const QColor& selectedInk);
 
-/// The program's own icon, in its colours.
+/// The icon of the program itself.
 QIcon applicationIcon();
 
 }  // namespace nimbrel

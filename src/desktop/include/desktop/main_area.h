@@ -6,15 +6,15 @@
 
 namespace nimbrel {
 
-/// Tree and sheet beside each other, with the grip between them, laid out by the main window's own rules.
+/// The tree and the sheet side by side with a splitter grip between them, laid out by `SizeControls`.
 class MainArea : public QWidget {
   Q_OBJECT
 
  public:
-  /// All sheets stand in one place; one at a time is visible.
+  /// All sheets share one place; at most one of them is visible.
   MainArea(QWidget& tree, std::vector<QWidget*> sheets, QWidget* parent = nullptr);
 
-  /// Where the tree ends, pixels.
+  /// The right edge of the tree, pixels.
   int splitter() const { return splitter_; }
   void setSplitter(int pixels);
 
@@ -32,7 +32,7 @@ class MainArea : public QWidget {
   QWidget grip_;
   QWidget bar_;  ///< follows the pointer during a drag
   int splitter_ = 0;
-  bool isPlaced_ = false;  ///< by the author; else it keeps its part of the width
+  bool isPlaced_ = false;  ///< by the user; until then it keeps its share of the width
   bool isDragged_ = false;
 };
 

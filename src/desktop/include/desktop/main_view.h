@@ -16,20 +16,20 @@ namespace nimbrel {
 
 class MainArea;
 
-/// The main window on the screen. All it does is to hand on what the author does and to show what stands after it.
+/// The main window on the screen. It passes the user's actions on to `frmMain` and shows the state that results.
 class MainView : public QMainWindow {
   Q_OBJECT
 
  public:
   explicit MainView(frmMain& main);
 
-  /// Shows the window where it stood last, and what comes with the program's start once it stands.
+  /// Shows the window where it was last, then the windows that open at the start.
   void start(const std::string& commandLine);
-  /// Takes over what the main window says now.
+  /// Updates the window from `frmMain`.
   void refresh();
-  /// While another window waits for its answer, those that stand beside this one wait with it.
-  void setWaiting(bool isWaiting);
-  /// Whether the window may go; asks to save. It then is closed.
+  /// While a modal window is open, the preview and the live examples are disabled.
+  void setModalOpen(bool isOpen);
+  /// Asks whether to save. Returns whether the window may close.
   bool mayClose();
 
   TreeView& tree() { return tree_; }
@@ -48,9 +48,9 @@ class MainView : public QMainWindow {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  class AfterDeed;
-
   void connectAll();
+  void runAction(const Action& action);
+  void openHelp(int topic);
   IconSource icons() const;
   void showNode(Node* node);
   void deleteNode();
@@ -58,9 +58,9 @@ class MainView : public QMainWindow {
   QRect placeOnScreen() const;
   void showContextMenu(const QPoint& place);
   void showSheets();
-  void showBeside(FormWindow& window);
+  void refreshSideWindow(FormWindow& window);
   QPoint placeBeside(const QSize& size) const;
-  void noteGeometry();
+  void recordGeometry();
   void drawIcons();
 
   frmMain& main_;
@@ -72,7 +72,7 @@ class MainView : public QMainWindow {
   FormWindow preview_;
   FormWindow liveExamples_;
   std::map<const FormWindow*, std::size_t>
-      shows_;  ///< of the windows beside this one, as they were last seen
+      lastShows_;  ///< `Form::shows` of the side windows at the last refresh
   bool isStarted_ = false;
   bool isStarting_ = false;
   bool isClosed_ = false;

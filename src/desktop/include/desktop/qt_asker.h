@@ -10,14 +10,15 @@ namespace nimbrel {
 
 class FormWindow;
 
-/// Reaches the author with real windows.
+/// Asks the user with real windows.
 class QtAsker : public Asker {
  public:
-  /// The window that all others belong to, once there is one.
+  /// The parent of the windows that this class opens.
   void setMainWindow(QWidget* window) { main_ = window; }
   void setHelp(HelpSystem* help) { help_ = help; }
-  /// Called with true as the first window comes up that waits for its answer, with false as the last one goes.
-  void onWaiting(std::function<void(bool)> told) { waiting_ = std::move(told); }
+  /// `callback` is called with true before the first modal window opens, and with false after the last one has
+  /// closed.
+  void onModalChange(std::function<void(bool)> callback) { onModalChange_ = std::move(callback); }
 
   BoxButton MsgBox(const MessageBox& box) override;
   std::optional<std::string> chooseFile(const FileDialog& dialog) override;
@@ -26,20 +27,20 @@ class QtAsker : public Asker {
   void noteFailure(const Finding& finding) override;
 
  private:
-  class Wait;
-  /// What a new window is to stand over.
+  class ModalScope;
+  /// The parent of the next window.
   QWidget* owner() const;
-  /// A form that closed itself ahead of asking is to be gone from the screen.
+  /// Hides forms that have closed themselves and then ask for something.
   void hideClosed();
 
   QWidget* main_ = nullptr;
   HelpSystem* help_ = nullptr;
-  std::function<void(bool)> waiting_;
+  std::function<void(bool)> onModalChange_;
   std::vector<FormWindow*> open_;
-  int waits_ = 0;
+  int modalCount_ = 0;
 };
 
-/// The filter of a file chooser as Qt writes it, for a description and patterns parted by "|" and ";".
+/// Qt's form of a file filter: "Images (*.gif)|*.gif;*.jpg" becomes "Images (*.gif *.jpg)".
 QString fileFilter(std::string_view filter);
 
 }  // namespace nimbrel

@@ -7,8 +7,8 @@
 
 namespace nimbrel {
 
-/// The system's wish that the program end, by SIGTERM or SIGHUP: so ends a session that has no manager which asks.
-/// One at a time.
+/// Calls back when a signal asks the program to end, as a terminal and a session without a session manager do. There
+/// may be only one instance at a time.
 class Termination {
  public:
   Termination();
@@ -16,13 +16,13 @@ class Termination {
   Termination& operator=(const Termination&) = delete;
   ~Termination();
 
-  /// `asked` is called from the event loop.
-  void onAsked(std::function<void()> asked) { asked_ = std::move(asked); }
+  /// `callback` is called from the event loop.
+  void onRequest(std::function<void()> callback) { onRequest_ = std::move(callback); }
 
  private:
   std::array<int, 2> pipe_{-1, -1};
   std::unique_ptr<QSocketNotifier> notifier_;
-  std::function<void()> asked_;
+  std::function<void()> onRequest_;
 };
 
 }  // namespace nimbrel

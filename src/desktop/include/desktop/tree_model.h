@@ -11,9 +11,9 @@
 
 namespace nimbrel {
 
-/// The document's tree as Qt's views take it. It keeps a copy of keys and texts, since a command changes the tree
-/// in many places before anyone is told; `sync` then brings the views after it with the fewest changes, so that
-/// what is open stays open.
+/// The document's tree as a Qt model. It holds a copy of the keys and texts, since a command may change the tree in
+/// many places before the model learns of it. `sync` then updates the model with the fewest changes, so that
+/// expanded nodes stay expanded.
 class TreeModel : public QAbstractItemModel {
   Q_OBJECT
 
@@ -22,16 +22,16 @@ class TreeModel : public QAbstractItemModel {
   explicit TreeModel(Tree& tree, QObject* parent = nullptr);
   ~TreeModel() override;
 
-  /// After a change. Linear in the tree.
+  /// Call after a change. Linear in the size of the tree.
   void sync();
-  /// After another document came in: views begin anew.
+  /// Call after another document has been loaded.
   void reset();
-  /// After another text of one node.
+  /// Call after a change of one node's text.
   void syncText(const Node& node);
   void setIcons(QIcon menu, QIcon submenu, QIcon item);
 
   QModelIndex indexOf(const Node* node) const;
-  /// None for an invalid index.
+  /// nullptr for an invalid index.
   Node* node(const QModelIndex& index) const;
 
   QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
@@ -54,7 +54,7 @@ class TreeModel : public QAbstractItemModel {
   void forget(const Mirror& top);
 
   Tree& tree_;
-  std::unique_ptr<Mirror> top_;  ///< stands above the roots
+  std::unique_ptr<Mirror> top_;  ///< the parent of the roots
   std::unordered_map<std::string, Mirror*> byKey_;
   QIcon menu_, submenu_, item_;
 };

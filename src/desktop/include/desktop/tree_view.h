@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QTreeView>
+#include <functional>
 
 #include "desktop/tree_model.h"
 
@@ -13,17 +14,17 @@ class TreeView : public QTreeView {
  public:
   explicit TreeView(TreeModel& model, QWidget* parent = nullptr);
 
-  /// Marks the node that the main window has selected and brings it into view; no signal.
+  /// Makes a node the current one and scrolls to it, without a signal.
   void showSelected(const Node* node);
-  /// While the model changes, which node is current is told to nobody.
-  void quietly(const std::function<void()>& change);
-  /// Opens a small tree whole, of a large one the first levels.
-  void openUp();
+  /// Runs a change of the model, with no signal for the node that becomes current by it.
+  void withoutNodeChosen(const std::function<void()>& change);
+  /// Expands all of a small tree, or the first levels of a large one.
+  void expandInitially();
 
  signals:
   void nodeChosen(Node* node);
   void deletePressed();
-  void contextMenuWanted(const QPoint& globalPosition);
+  void contextMenuRequested(const QPoint& globalPosition);
 
  protected:
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
@@ -34,7 +35,7 @@ class TreeView : public QTreeView {
 
  private:
   TreeModel& tree_;
-  bool isOwnMove_ = false;
+  bool isSettingCurrent_ = false;
 };
 
 }  // namespace nimbrel

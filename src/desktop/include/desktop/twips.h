@@ -6,15 +6,14 @@
 
 #include "platform/box.h"
 
-/// The library measures the screen in twips, 1/1440 inch; Qt in pixels that are independent of the screen, 96 to
-/// the inch.
+/// The library measures the screen in twips (1/1440 inch), Qt in device-independent pixels (1/96 inch).
 namespace nimbrel {
 
 inline constexpr int twipsPerPixel = 15;
 
 constexpr int toTwips(int pixels) { return pixels * twipsPerPixel; }
 constexpr int toPixels(int twips) { return twips / twipsPerPixel; }
-/// For what is stored, which may be any number.
+/// For stored values, which may be any number.
 inline int toPixels(float twips) {
   constexpr float farthest = 100'000;
   return static_cast<int>(std::lround(std::clamp(twips / twipsPerPixel, -farthest, farthest)));

@@ -6,7 +6,7 @@
 
 namespace nimbrel {
 
-/// The settings in the user's configuration: a file of texts, in groups by section.
+/// The settings of the user, in an INI file with one group per section.
 class UserSettings : public SettingsStore {
  public:
   UserSettings();

@@ -5,6 +5,7 @@
 #include <functional>
 #include <vector>
 
+#include "desktop/run_action.h"
 #include "desktop/sheet/entry_edit.h"
 #include "desktop/sheet/list_popup.h"
 #include "properties/property_sheet.h"
@@ -12,33 +13,30 @@
 
 namespace nimbrel {
 
-/// A drawing by its name, in the ink of the palette of now.
+/// Returns an icon by its name, in the colours of the current palette.
 using IconSource = std::function<QIcon(const char* name)>;
 
-/// What floats over the open cell: the entry, the small buttons and the list. It shows what the sheet's controls
-/// say. What the author does goes to the sheet through `act`, which is handed the deed to carry it out.
+/// The widgets over the open cell: the entry, the small buttons and the list. They show the controls of the sheet.
 class CellEditors {
  public:
-  using Act = std::function<void(const std::function<void()>&)>;
+  /// `cells` is the grid's viewport, which clips the editors. `run` runs the user's actions on the sheet.
+  CellEditors(PropertySheet& sheet, QWidget& cells, IconSource icons, ActionRunner run);
 
-  /// `cells` is where the grid draws its cells; what leaves it is cut off there.
-  CellEditors(PropertySheet& sheet, QWidget& cells, IconSource icons, Act act);
-
-  /// Texts and visibility, then the list, which drops down at `listPlace` on the screen.
+  /// Updates the widgets from the sheet. If the list is open, it drops down at `listPlace` on the screen.
   void refresh(const QString& name, const QRect& listPlace);
-  /// Places within `cells`.
+  /// The places are relative to `cells`.
   void place(const QRect& entry, const QRect& button, const QRect& replicate);
-  /// Another cell is open than before: nothing of what was typed there is left to be taken back.
+  /// Another cell has been opened: clears the undo history of the entry.
   void begin();
   void setIconSize(int side);
-  /// The palette has changed; each is drawn again when it is needed.
+  /// After a change of the palette. Each icon is drawn again when it is needed.
   void forgetIcons();
 
   EntryEdit& entry() { return entry_; }
   ListPopup& list() { return list_; }
-  /// Presses the button of the open cell's kind, if it has one.
+  /// Clicks the button of the open cell, if it has one.
   void pressButton();
-  /// A clicked button has its cell typed into again; all of the text is selected.
+  /// Gives the focus to the entry and selects all of its text.
   void focusEntry();
 
  private:
@@ -63,7 +61,7 @@ class CellEditors {
   PropertySheet& sheet_;
   QWidget& cells_;
   IconSource icons_;
-  Act act_;
+  ActionRunner run_;
   EntryEdit entry_;
   ListPopup list_;
   std::vector<Button> buttons_;

@@ -4,7 +4,7 @@
 
 #include "properties/property_sheet.h"
 
-/// Which cell the keyboard goes to from another one.
+/// The order in which the keyboard moves through the cells.
 namespace nimbrel {
 
 struct CellPlace {
@@ -17,11 +17,11 @@ struct CellPlace {
 enum class Step {
   Next,  ///< to the right, then down
   Previous,
-  Below,  ///< in the same column, even where a row has its only cell in another one: `EnterCell` finds that
+  Below,  ///< in the same column, even if the row has its only cell in another one: `EnterCell` corrects that
   Above,
 };
 
-/// Headings and cells that their row cannot use are passed over. None at the end of the sheet.
+/// Skips headings and unusable cells. std::nullopt at the end of the sheet.
 std::optional<CellPlace> cellAfter(const PropertySheet& sheet, CellPlace from, Step step);
 
 }  // namespace nimbrel

@@ -8,21 +8,19 @@
 
 namespace nimbrel {
 
-/// Draws the cells of a property sheet. What is fixed in colour stays so in a light palette; a dark one has its
-/// own shades instead.
+/// Paints the cells of a property sheet. The fixed colours are for light palettes; dark ones get other shades.
 class CellPainter : public QStyledItemDelegate {
   Q_OBJECT
 
  public:
   explicit CellPainter(const SheetModel& model, QObject* parent = nullptr);
 
-  /// Pixels between a cell's left edge and its text, which begins where that of the entry will.
+  /// Pixels between the left edge of a cell and its text, the same as in the entry.
   static constexpr int inset = 5;
-  /// That of a row's caption.
   static QFont captionFont(const PropertyRow& row, QFont font);
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
-  /// A text that is cut off is told in full as tool tip.
+  /// Shows a text that is cut off as a tool tip.
   bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
                  const QModelIndex& index) override;
 
@@ -37,7 +35,7 @@ class CellPainter : public QStyledItemDelegate {
   const SheetModel& model_;
 };
 
-/// The states above an item's sheet; that of the open cell is marked.
+/// The header of an item's sheet, with the states. The state of the open cell is highlighted.
 class StateHeader : public QHeaderView {
   Q_OBJECT
 

@@ -4,7 +4,7 @@
 
 namespace nimbrel {
 
-/// What the author wants from the keyboard while a cell is open.
+/// Commands that keys trigger while a cell is open.
 enum class EntryCommand {
   Next,
   Previous,
@@ -18,11 +18,11 @@ enum class EntryCommand {
   GoToLinks,
 };
 
-/// What an input method is composing counts as typed, ahead of all that leaves the entry.
+/// Commits the text that an input method is composing. Called before anything that leaves the entry.
 void endComposing();
 
-/// The entry over the open cell. One that is for reading presses the cell's button with the space bar and hands
-/// on what is typed.
+/// The line edit over the open cell. While it is read-only, the space bar clicks the cell's button, and typed text
+/// searches the list.
 class EntryEdit : public QLineEdit {
   Q_OBJECT
 
@@ -30,9 +30,9 @@ class EntryEdit : public QLineEdit {
   explicit EntryEdit(QWidget* parent);
 
  signals:
-  void commanded(nimbrel::EntryCommand command);
+  void commandRequested(nimbrel::EntryCommand command);
   void clicked();
-  void searched(const QString& text);
+  void searchRequested(const QString& text);
 
  protected:
   bool event(QEvent* event) override;

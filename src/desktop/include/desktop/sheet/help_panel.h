@@ -2,14 +2,14 @@
 
 #include <QLabel>
 #include <QWidget>
-#include <functional>
 
+#include "desktop/run_action.h"
 #include "properties/property_sheet.h"
 #include "properties/sheet_geometry.h"
 
 namespace nimbrel {
 
-/// A label that does something. One press of the tabulator reaches it, Enter or the space bar follows it.
+/// A label with a single link, which is one tab stop. Enter and the space bar follow the link.
 class LinkLabel : public QLabel {
   Q_OBJECT
 
@@ -26,19 +26,17 @@ class LinkLabel : public QLabel {
   void paintEvent(QPaintEvent* event) override;
 };
 
-/// What the sheet says of the open cell's property, and the links to more.
+/// Describes the property of the open cell, with links to its help topic and its live example.
 class HelpPanel : public QWidget {
   Q_OBJECT
 
  public:
-  using Act = std::function<void(const std::function<void()>&)>;
-
-  /// `act` carries out what a link does.
-  HelpPanel(PropertySheet& sheet, Act act, QWidget* parent);
+  /// `run` runs what a link does.
+  HelpPanel(PropertySheet& sheet, ActionRunner run, QWidget* parent);
 
   void refresh();
   void layOut(const SheetLayout& layout);
-  /// Hands the focus to the first link. False: none is there.
+  /// Gives the focus to the first link. Returns false if no link is visible.
   bool focusLinks();
 
  protected:
@@ -50,7 +48,7 @@ class HelpPanel : public QWidget {
   void placeCaption();
 
   PropertySheet& sheet_;
-  Act act_;
+  ActionRunner run_;
   QLabel caption_, text_;
   LinkLabel moreHelp_, example_;
 };

@@ -4,8 +4,8 @@
 
 namespace nimbrel {
 
-/// The bar between table and help. A shadow of it follows the pointer; the bar goes there in the end. With the
-/// focus it takes the keys Up and Down.
+/// The splitter between table and help. While it is dragged, a shadow follows the pointer. The keys Up and Down move
+/// it while it has the focus.
 class HelpSplitter : public QWidget {
   Q_OBJECT
 
@@ -13,8 +13,8 @@ class HelpSplitter : public QWidget {
   explicit HelpSplitter(QWidget* parent);
 
  signals:
-  void dragBegun();
-  /// `twips` is where its top is to be from now on.
+  void dragStarted();
+  /// `twips` is its new top.
   void moved(int twips);
 
  protected:
@@ -26,7 +26,7 @@ class HelpSplitter : public QWidget {
   void focusOutEvent(QFocusEvent* event) override;
 
  private:
-  /// In twips too, as all of the sheet's geometry.
+  /// Returns twips.
   int draggedTop(int pixelsFromTop) const;
 
   QWidget shadow_;

@@ -7,7 +7,7 @@
 
 namespace nimbrel {
 
-/// The entries of a list row, dropped down over all windows.
+/// The drop-down list of a cell.
 class ListPopup : public QFrame {
   Q_OBJECT
 
@@ -15,25 +15,24 @@ class ListPopup : public QFrame {
   explicit ListPopup(QWidget* parent);
 
   void fill(const std::vector<std::string>& texts);
-  /// What those who do not see it are told.
+  /// The accessible name.
   void setName(const QString& name) { list_.setAccessibleName(name); }
-  /// Marks the entry of this text, or none.
-  void mark(const QString& text);
-  /// The entry that begins with what was typed lately, from the marked one on; -1 if there is none.
+  /// Makes the entry with this text the current one. If there is none, no entry is current.
+  void setCurrentText(const QString& text);
+  /// Adds `typed` to the search text and returns the next entry that starts with it, or -1.
   int search(const QString& typed);
 
-  /// Drops the list down at a place on the screen, which is moved as far as the screen's edges want it, with its
-  /// entries `inner.height` high and wide enough for them. A click on `opener`, which closes the list as any
-  /// other outside of it does, does nothing else.
+  /// Opens the list at `inner` in screen coordinates, moved to fit the screen and at least as wide as its entries.
+  /// A click on `opener` closes the list, as any click outside of it does, and is not passed on.
   void open(const QRect& inner, const QRect& opener);
 
  signals:
   void chosen(int entry);
-  /// Chosen by the tabulator, which goes on to the next cell or the one before.
-  void movedOn(int entry, bool forward);
-  /// Gone, with an entry chosen or not.
+  /// Chosen with the Tab key, which then goes to the next cell, or with Shift to the previous one.
+  void chosenByTab(int entry, bool forward);
+  /// Emitted whether an entry was chosen or not.
   void closed();
-  void helpWanted();
+  void helpRequested();
 
  protected:
   void mousePressEvent(QMouseEvent* event) override;
@@ -42,8 +41,8 @@ class ListPopup : public QFrame {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  bool press(int key);
-  bool take(int key);
+  bool handleKey(int key);
+  bool acceptCurrent(int key);
 
   QListWidget list_;
   std::vector<std::string> texts_;

@@ -8,7 +8,7 @@
 
 namespace nimbrel {
 
-/// The table of a sheet. It marks one cell as current and opens none itself.
+/// The table of a sheet. It has a current cell but does not open cells itself.
 class SheetGrid : public QTableView {
   Q_OBJECT
 
@@ -17,21 +17,21 @@ class SheetGrid : public QTableView {
 
   void setRowHeight(int pixels);
   CellPlace current() const;
-  /// Makes a cell the current one and brings it into view.
+  /// Makes a cell the current one and scrolls to it.
   void goTo(CellPlace place);
-  /// Where a cell is in the viewport, seen or not.
+  /// In coordinates of the viewport, visible or not.
   QRect placeOf(CellPlace place) const { return visualRect(model()->index(place.row, place.column)); }
-  bool isInSight(CellPlace place) const { return viewport()->rect().intersects(placeOf(place)); }
-  int rowsInSight() const;
+  bool isCellVisible(CellPlace place) const { return viewport()->rect().intersects(placeOf(place)); }
+  int visibleRows() const;
 
  signals:
-  /// -1 for either: beside the cells.
-  void pressed(int row, int col);
-  /// A key that is for the current cell's entry, or begins its edit.
-  void keyForCell(QKeyEvent* event);
-  /// Text of an input method, which begins an edit as a key does.
-  void composed(QInputMethodEvent* event);
-  void reachedByKeyboard();
+  /// -1 for both if no cell was hit.
+  void cellPressed(int row, int col);
+  /// A key for the entry of the current cell, or one that opens that cell.
+  void cellKeyPressed(QKeyEvent* event);
+  /// Text from an input method, which opens the current cell as a key does.
+  void textComposed(QInputMethodEvent* event);
+  void focusedByKeyboard();
   void scrolled();
   void resized();
 

@@ -8,8 +8,8 @@
 
 namespace nimbrel {
 
-/// A property sheet as Qt's views take it: a row a property, in the columns of `column`. A sheet with states has
-/// them as its heading.
+/// A property sheet as a Qt model: one row per property, with the columns of `column`. If the sheet has states, the
+/// header names them.
 class SheetModel : public QAbstractTableModel {
   Q_OBJECT
 
@@ -17,40 +17,40 @@ class SheetModel : public QAbstractTableModel {
   /// `sheet` outlives the model.
   explicit SheetModel(const PropertySheet& sheet, QObject* parent = nullptr);
 
-  /// Tells the views which cells look other than they did at the last call.
+  /// Emits `dataChanged` for the cells that have changed since the last call.
   void sync();
 
   const PropertySheet& sheet() const { return sheet_; }
   bool isOpen(int row, int col) const;
-  /// What names a cell to those who do not see where it stands.
+  /// The accessible name of a cell.
   QString nameOf(int row, int col) const;
 
   int rowCount(const QModelIndex& parent = {}) const override;
   int columnCount(const QModelIndex& parent = {}) const override;
-  /// The cell that is open is blank: its text stands in the entry above it.
+  /// The open cell has no text: the entry on top of it shows it.
   QVariant data(const QModelIndex& index, int role) const override;
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
   Qt::ItemFlags flags(const QModelIndex& index) const override;
 
  private:
-  struct Sight {
+  struct Appearance {
     SharedText text;
     Swatch swatch;
     bool isOpen = false;
 
-    bool operator==(const Sight&) const = default;
+    bool operator==(const Appearance&) const = default;
   };
 
-  Sight sightOf(int row, int col) const;
+  Appearance appearanceOf(int row, int col) const;
   QString text(int row, int col) const;
-  QString heldText(int row, std::string_view text) const;
+  QString displayText(int row, std::string_view text) const;
   QString caption(int row) const;
 
   const PropertySheet& sheet_;
-  std::vector<std::array<Sight, valueColumns.size()>> seen_;
-  int seenOpenRow_ = -1;
-  int seenOpenColumn_ = -1;
-  QString indent_;  ///< of the captions below a heading
+  std::vector<std::array<Appearance, valueColumns.size()>> appearances_;
+  int lastOpenRow_ = -1;
+  int lastOpenColumn_ = -1;
+  QString indent_;  ///< of captions under a heading
 };
 
 }  // namespace nimbrel

@@ -14,13 +14,12 @@
 
 namespace nimbrel {
 
-/// A property sheet on the screen. All it does is to hand on what the author does and to show what stands after
-/// it.
+/// A property sheet on the screen. It passes the user's actions on to the sheet and shows the state that results.
 ///
-/// With a cell open: Enter, Down and Up go on in its column, the tabulator to the next cell; Escape takes the
-/// edit back; F4, Alt+Down, and the space bar where nothing can be typed, press the cell's button; Ctrl+R
-/// replicates; Ctrl+Tab or F6 goes to the links, F6 comes back. With none open the arrows move, typing begins an edit and the
-/// tabulator leaves the table. F1 helps.
+/// Keys while a cell is open: Enter, Down and Up move within the column, Tab to the next cell; Escape cancels the
+/// edit; F4 and Alt+Down click the cell's button, as does the space bar in a read-only cell; Ctrl+R replicates;
+/// Ctrl+Tab and F6 move to the links, F6 moves back. While none is open: the arrow keys move, typing opens the current
+/// cell, Tab leaves the table. F1 always opens the help.
 class SheetView : public QWidget {
   Q_OBJECT
 
@@ -29,13 +28,13 @@ class SheetView : public QWidget {
   SheetView(PropertySheet& sheet, IconSource icons, QWidget* parent = nullptr);
 
   const PropertySheet& sheet() const { return sheet_; }
-  /// Takes over what the sheet says now; touches only what differs.
+  /// Updates the view from the sheet, only where they differ.
   void refresh();
 
  signals:
-  /// After all that the author did to the sheet, also where it threw.
-  void acted();
-  void helpWanted(int topic);
+  /// The sheet has run an action of the user, and the view has been refreshed.
+  void actionFinished();
+  void helpRequested(int topic);
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
@@ -44,15 +43,15 @@ class SheetView : public QWidget {
 
  private:
   void connectAll();
-  void act(const std::function<void()>& deed);
-  void leave();
+  void runAction(const Action& action);
+  void leaveCell();
   void open(CellPlace place);
   void press(int row, int col);
   void command(EntryCommand command);
   void go(Step step, int times);
   void leaveTable(bool forward);
-  void goOnTyping();
-  void keyForCell(QKeyEvent* event);
+  void continueTyping();
+  void cellKeyPressed(QKeyEvent* event);
   void compose(QInputMethodEvent* event);
   void scrolled();
   void help();
@@ -77,12 +76,12 @@ class SheetView : public QWidget {
   HelpPanel help_;
   CellEditors editors_;
   SheetMetrics metrics_;
-  std::optional<int> helpHeight_;  ///< twips, once the author has chosen it
-  int column_ = column::Normal;    ///< in which Enter, Up and Down go on
+  std::optional<int> helpHeight_;  ///< twips, set when the user has moved the splitter
+  int column_ = column::Normal;    ///< that Enter, Up and Down stay in
   std::size_t fillings_ = 0;
-  std::optional<CellPlace> shownCell_;  ///< the open one, as it was seen last
-  bool isActing_ = false;
-  /// Where the author was typing as a command, such as saving, closed the cell.
+  std::optional<CellPlace> lastOpenCell_;  ///< the open cell at the last refresh
+  bool isRunning_ = false;                 ///< an action
+  /// The cursor position when a command such as Save closed the cell.
   std::optional<int> caret_;
 };
 

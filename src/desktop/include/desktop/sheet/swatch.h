@@ -8,7 +8,7 @@
 
 namespace nimbrel {
 
-/// Paints the small picture of a colour cell into a square as high as the cell, in `ink`; sharp on any screen.
+/// Paints the swatch of a colour cell, framed in `ink`, into a square as high as the cell.
 void paintSwatch(QPainter& painter, const QRect& square, const Swatch& swatch, const QColor& ink);
 
 }  // namespace nimbrel
