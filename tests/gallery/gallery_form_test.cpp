@@ -12,6 +12,7 @@ using testing::HasSubstr;
 class Gallery : public testing::Test {
  protected:
   Gallery() {
+    state.programFolder = "C:\\p";
     files.folders = {"C:", "C:\\p", "C:\\p\\gallery"};
     files.files = {{"C:\\p\\dot.gif", "dot"}, {"C:\\p\\gallery\\nbrData\\old.GIF", ""}};
     MenuStyle style = styleOfMenu(nullptr, nullptr);
@@ -25,7 +26,7 @@ class Gallery : public testing::Test {
 
   ScriptedPorts system;
   MemoryFileSystem& files = system.files;
-  ProgramState state{.programFolder = "C:\\p"};
+  ProgramState state;
   SubmenuCarryOver carryOver;
 };
 
