@@ -1,9 +1,9 @@
 #include <benchmark/benchmark.h>
 #include <iterator>
 
+#include "large_document.h"
 #include "model/structure.h"
 #include "shell/main_window.h"
-#include "support/generated_document.h"
 #include "support/scripted_ports.h"
 
 /// Single commands as the author feels them, in a document about as large as the key counter allows.

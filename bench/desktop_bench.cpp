@@ -12,8 +12,8 @@
 
 #include "desktop/desktop_run.h"
 #include "desktop/shown_text.h"
+#include "large_document.h"
 #include "persistence/menu_file.h"
-#include "support/generated_document.h"
 
 namespace nimbrel {
 namespace {

@@ -1,10 +1,10 @@
 #include <benchmark/benchmark.h>
 
 #include "compiler/compile.h"
+#include "large_document.h"
 #include "linking/page_rewriting.h"
 #include "persistence/menu_file.h"
 #include "platform/memory/memory_file_system.h"
-#include "support/generated_document.h"
 
 namespace nimbrel {
 namespace {

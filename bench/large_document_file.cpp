@@ -3,10 +3,10 @@
 #include <iostream>
 #include <string_view>
 
+#include "large_document.h"
 #include "persistence/menu_file.h"
 #include "platform/posix/host_file_system.h"
 #include "platform/posix/host_paths.h"
-#include "support/generated_document.h"
 #include "text/paths.h"
 
 // nimbrel_large_document ELEMENTS FOLDER: writes FOLDER/large.nbr with so many elements and the pictures that

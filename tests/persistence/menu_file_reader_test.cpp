@@ -2,7 +2,6 @@
 
 #include "menu_files.h"
 #include "model/structure.h"
-#include "platform/memory/memory_file_system.h"
 #include "support/generated_document.h"
 
 namespace nimbrel {
@@ -84,50 +83,6 @@ TEST(MenuFileReader, ReadsAFileThatIsTruncatedAnywhere) {
     }
     EXPECT_TRUE(std::string_view("M0\nI1\nS2\nI3\n").starts_with(keysOf(document))) << size;
   }
-}
-
-TEST(MenuFileReader, ReplacesTheDocumentByTheFile) {
-  MemoryFileSystem files;
-  files.files = {{"C:\\menus\\a.nbr", bytesOf(goldenMenuFiles / "worked-example.nbr")},
-                 {"C:\\menus\\page.html", "<html>"}};
-  Document document = generatedDocument(1, 5);
-  const auto settings = document.settings;
-  const auto load = [&](std::string_view name) {
-    SubmenuCarryOver carryOver;
-    Findings notes;
-    LoadMenuFile(files, "C:\\menus", name, carryOver, document, notes);
-  };
-  EXPECT_THROW(load("page.html"), NotAMenuFile);
-  EXPECT_TRUE(document.tvTreeView.empty() && document.ElementColl.empty());
-  EXPECT_EQ(document.settings, settings);
-  EXPECT_THROW(load("missing.nbr"), FileError);
-  load("a.nbr");
-  EXPECT_EQ(keysOf(document), "M0\nI1\nS2\nI3\n");
-  EXPECT_EQ(document.NextKeyNumber, 4);
-  EXPECT_EQ(document.settings, CompileSettings{});
-}
-
-// Older versions store how submenus open with the main menu. A style read afterwards uses it too.
-TEST(MenuFileReader, KeepsHowSubmenusOpenInOlderVersionsForTheNextFile) {
-  SubmenuCarryOver carryOver;
-  Document document;
-  Findings notes;
-  const auto load = [&](const std::string& name) {
-    readMenuFile(bytesOf(goldenMenuFiles / name), name, "", carryOver, document, notes);
-    return std::tuple(carryOver.bcSubmenusWhen, carryOver.bcSubmenusWhere, carryOver.bcSubmenusHow);
-  };
-  EXPECT_EQ(load("older/nbr110/read.nbr"), std::tuple(1, -2.5, 7));
-  EXPECT_EQ(load("worked-example.nbr"), std::tuple(1, -2.5, 7)) << "the current version does not change it";
-  EXPECT_EQ(load("older/nbr120/read.nbr"), std::tuple(0, 3, 1));
-}
-
-TEST(MenuFileReader, ReadsTheDeepestPossibleTree) {
-  std::string bytes = "nbr110\r\n0,!!,X0\r\n";
-  for (int i = 1; i < 32767; ++i) bytes += "X" + std::to_string(i - 1) + ",!!,X" + std::to_string(i) + "\r\n";
-  const Document document = readBytes(bytes);
-  EXPECT_EQ(document.tvTreeView.size(), 32767U);
-  EXPECT_EQ(document.NextKeyNumber, 32767);
-  EXPECT_TRUE(readBytes(menuFileText(document)) == document);
 }
 
 }  // namespace

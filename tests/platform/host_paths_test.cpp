@@ -7,12 +7,8 @@ namespace nimbrel {
 namespace {
 
 TEST(HostPaths, ConvertSeparatorsAndNames) {
-  EXPECT_EQ(toHostPath("\\home\\me\\Gr\xF6\xDF"
-                       "e.nbr"),
-            "/home/me/Größe.nbr");
-  EXPECT_EQ(fromHostPath("/home/me/Größe.nbr"),
-            "\\home\\me\\Gr\xF6\xDF"
-            "e.nbr");
+  EXPECT_EQ(toHostPath("\\home\\Gr\xF6.nbr"), "/home/Grö.nbr");
+  EXPECT_EQ(fromHostPath("/home/Grö.nbr"), "\\home\\Gr\xF6.nbr");
 }
 
 TEST(HostPaths, SurviveARoundTripWithAnyNames) {

@@ -47,8 +47,11 @@ TEST_F(ProgramFolder, IsThatOfTheOptionThenOfTheEnvironmentThenOfTheProgram) {
 }
 
 TEST_F(ProgramFolder, IsElseTheUsersCopyWhichTheFirstStartCreates) {
+  fs::create_directories(root_ / "data/nimbrel");
+  root_.write("data/nimbrel/own.nbs", "the user's");
   EXPECT_EQ(start("XDG_DATA_HOME=" + path("data")), path("data/nimbrel"));
-  EXPECT_TRUE(fs::exists(root_ / "data/nimbrel/libraries"));
+  EXPECT_EQ(root_.read("data/nimbrel/libraries/nbrlib0.js"), "library");
+  EXPECT_EQ(root_.read("data/nimbrel/own.nbs"), "the user's");
   // A copy that was cut off is made again.
   fs::create_directories(root_ / "home/.local/share/nimbrel.new/libraries");
   root_.write("home/.local/share/nimbrel.new/libraries/half.js", "half");
@@ -79,15 +82,6 @@ TEST_F(ProgramFolder, IsUpdatedExceptForFilesThatTheUserHasChanged) {
   for (const auto* file : {"/kept.html", "/added.html"}) EXPECT_EQ(root_.read(copy_ + file), "new");
   for (const auto* file : {"/changed.html", "/own.nbs"}) EXPECT_EQ(root_.read(copy_ + file), "the user's");
   for (const auto* file : {"/deleted.html", "/gone.html"}) EXPECT_FALSE(fs::exists(root_ / (copy_ + file)));
-}
-
-TEST_F(ProgramFolder, WithoutLibrariesGetsTheMissingFiles) {
-  fs::create_directories(root_ / copy_);
-  root_.write("share/nimbrel/tips.txt", "tips");
-  root_.write(copy_ + "/tips.txt", "the user's");
-  start("");
-  EXPECT_EQ(root_.read(copy_ + "/libraries/nbrlib0.js"), "library");
-  EXPECT_EQ(root_.read(copy_ + "/tips.txt"), "the user's");
 }
 
 TEST_F(ProgramFolder, IsCreatedOnceBySeveralProcesses) {

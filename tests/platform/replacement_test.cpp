@@ -43,21 +43,16 @@ class Replacing : public testing::Test {
   HostFileSystem files_;
 };
 
-TEST_F(Replacing, CreatesANewFileWithTheModeOfTheUmask) {
-  const mode_t mask = ::umask(027);
-  replace("a", "bytes");
-  EXPECT_EQ(::umask(mask), 027U) << "the umask is not changed";
-  EXPECT_EQ(folder_.read("a"), "bytes");
-  EXPECT_EQ(mode("a"), 0640U);
-}
-
-TEST_F(Replacing, KeepsTheModeAndLeavesNothingElse) {
+TEST_F(Replacing, KeepsTheModeOrUsesTheUmask) {
   folder_.write("a", "a longer text than the new one");
   ::chmod((folder_ / "a").c_str(), 0604);
-  replace("a", "new");
-  EXPECT_EQ(folder_.read("a"), "new");
+  const mode_t mask = ::umask(027);
+  for (const auto* name : {"a", "b"}) replace(name, "new");
+  EXPECT_EQ(::umask(mask), 027U) << "the umask is not changed";
+  for (const auto* name : {"a", "b"}) EXPECT_EQ(folder_.read(name), "new");
   EXPECT_EQ(mode("a"), 0604U);
-  EXPECT_THAT(names(), ElementsAre("a"));
+  EXPECT_EQ(mode("b"), 0640U);
+  EXPECT_THAT(names(), ElementsAre("a", "b"));
 }
 
 TEST_F(Replacing, FollowsLinks) {

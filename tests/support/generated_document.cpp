@@ -9,11 +9,12 @@
 namespace nimbrel {
 namespace {
 
+/// Random numbers that are the same everywhere; standard distributions differ between libraries.
 class Chance {
  public:
   explicit Chance(unsigned seed) : engine_(seed) {}
 
-  /// A number from 0 to `end` - 1. Standard distributions differ between libraries.
+  /// A number from 0 to `end` - 1.
   std::size_t below(std::size_t end) { return engine_() % end; }
   bool oneIn(std::size_t n) { return below(n) == 0; }
 
@@ -21,44 +22,24 @@ class Chance {
   std::mt19937 engine_;
 };
 
-constexpr char escape = '\xB3';  // read from a file as a comma
-
-std::string anyText(Chance& chance, std::size_t longest) {
-  std::string text(chance.below(longest + 1), ' ');
-  for (char& c : text) {
-    do c = static_cast<char>(' ' + chance.below(256 - ' '));
-    while (c == escape);
+/// A text that survives writing and reading in this form.
+std::string anyText(Chance& chance, FileForm form) {
+  constexpr std::string_view special = " ,\"!*n\\'";
+  constexpr char escape = '\xB3';  // read from a file as a comma
+  std::string text;
+  for (auto count = chance.below(40); count > 0; --count) {
+    const char any = static_cast<char>(' ' + chance.below(256 - ' '));
+    const char c = chance.oneIn(2) ? any : special[chance.below(special.size())];
+    if (c != escape && (c != ',' || form != FileForm::Raw)) text += c;
   }
-  return text;
-}
-
-/// Removes what only marked values can contain: outer blanks and a quote at the start. A star would mean a
-/// folder.
-std::string bare(std::string text) {
+  if (form == FileForm::Marked) return text;
+  // Outer blanks and a quote at the start are lost, a star at the start means a folder.
   text.erase(0, text.find_first_not_of(" \"*"));
   text.erase(text.find_last_not_of(' ') + 1);
   return text;
 }
 
-/// A text without commas too, which only escaped values can contain.
-std::string rawText(Chance& chance, std::size_t longest) {
-  std::string text = anyText(chance, longest);
-  std::erase(text, ',');
-  return bare(std::move(text));
-}
-
-SharedText valueOf(Chance& chance, FileForm form) {
-  static const std::vector<std::string> frequent{"n", "", "#00FF80", "C:\\site\\pictures\\a, b.gif"};
-  static const std::vector<std::string> names{" outer blanks ", "\"quoted\"", "a, b, \"c\"", "!", ","};
-  switch (form) {
-    case FileForm::Marked: return chance.oneIn(2) ? names[chance.below(names.size())] : anyText(chance, 30);
-    case FileForm::Escaped:
-      return chance.oneIn(2) ? frequent[chance.below(frequent.size())] : bare(anyText(chance, 60));
-    default: return chance.oneIn(2) ? frequent[chance.below(3)] : rawText(chance, 12);
-  }
-}
-
-void vary(Chance& chance, FileForm form, SharedText& value) { value = valueOf(chance, form); }
+void vary(Chance& chance, FileForm form, SharedText& value) { value = anyText(chance, form); }
 
 void vary(Chance& chance, FileForm, std::uint8_t& value) {
   value = static_cast<std::uint8_t>(chance.below(256));
@@ -71,7 +52,7 @@ void vary(Chance& chance, FileForm form, float& value) {
   value = form == FileForm::Flag ? (chance.oneIn(2) ? flagged : 0) : whole + (chance.oneIn(2) ? fraction : 0);
 }
 
-void vary(Chance& chance, std::string& value) { value = rawText(chance, 30); }
+void vary(Chance& chance, std::string& value) { value = anyText(chance, FileForm::Raw); }
 void vary(Chance& chance, bool& value) { value = chance.oneIn(2); }
 void vary(Chance& chance, std::int32_t& value) {
   value = static_cast<std::int32_t>(chance.below(2'000'001)) - 1'000'000;

@@ -42,13 +42,6 @@ TEST(ValueReader, KnowsTheLineOfTheLastValueAndTheEnd) {
   while (!reader.atEnd() && reader.next(value)) lines.push_back(reader.line());
   EXPECT_EQ(lines, (std::vector<std::size_t>{1, 1, 2, 3, 4}));
   EXPECT_EQ(value, "d");
-
-  ValueReader repeating("n,\r\nn,rest of it");
-  repeating.next(value);
-  const auto source = repeating.lastSource();
-  repeating.next(value);
-  EXPECT_TRUE(repeating.skip(source));
-  EXPECT_EQ(repeating.line(), 2U);
 }
 
 TEST(ValueReader, SkipsAValueThatIsEqualToAnEarlierOneButNotOneThatOnlyBeginsLikeIt) {

@@ -34,24 +34,15 @@ TEST(Windows1252, ReadsInvalidUtf8AsBytes) {
   }
 }
 
-/// A random sequence of texts that are easily confused.
-std::string tangle(std::mt19937& engine) {
-  static const std::vector<std::string> pieces{
+TEST(Windows1252, TextsAndHostNamesWithAnyBytesSurviveARoundTrip) {
+  EXPECT_EQ(nameFromHost("a\\b").find('\\'), std::string::npos) << "would be a separator in document form";
+  static const std::vector<std::string> confusing{
       "&",  "#",    "&#",       "1052",         "56448", "38", "92",    "47",     ";",
       "\\", "\x80", "\xD0\x9C", "\xED\xB2\x80", "\xE4",  "a",  "&#38;", "&#1052;"};
-  std::string text;
-  for (int i = 0; i < 6; ++i) text += pieces[engine() % pieces.size()];
-  return text;
-}
-
-TEST(Windows1252, TextsAndHostNamesWithAnyBytesSurviveARoundTrip) {
-  EXPECT_EQ(nameFromHost("Gr\u00F6\u00DFe"),
-            "Gr\xF6\xDF"
-            "e");
-  EXPECT_EQ(nameFromHost("a\\b").find('\\'), std::string::npos) << "would be a separator in document form";
   std::mt19937 engine(1);
   for (int i = 0; i < 20'000; ++i) {
-    const auto text = tangle(engine);
+    std::string text;
+    for (int piece = 0; piece < 6; ++piece) text += confusing[engine() % confusing.size()];
     ASSERT_EQ(fromUtf8(toUtf8(text)), text);
     ASSERT_EQ(nameToHost(nameFromHost(text)), text);
   }

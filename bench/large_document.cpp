@@ -1,9 +1,10 @@
+#include "large_document.h"
+
 #include <array>
 #include <deque>
 #include <string>
 
 #include "model/structure.h"
-#include "support/generated_document.h"
 
 namespace nimbrel {
 namespace {
@@ -26,8 +27,8 @@ void fillItem(ItemObj& item, std::string_view key, int place) {
   if (place == itemsInMenu - 1) item.ItemImage1 = item.ItemImage2 = item.ItemImage3 = picture("star.gif");
 }
 
-/// The first item of a menu sets its look; those behind it are added in the same.
-void dressFirst(ItemObj& item, std::size_t menu) {
+/// Sets the style of the first item of a menu. The next items get the same style when they are added.
+void setStyleOfFirst(ItemObj& item, std::size_t menu) {
   item.BGColor1 = colors[menu % colors.size()];
   item.FontFamily1 = item.FontFamily2 = item.FontFamily3 = menu % 3 == 0 ? "Verdana" : "sans-serif";
   item.BGImage2 = menu % colors.size() == 0 ? picture("glow.jpg") : std::string(notSet);
@@ -37,7 +38,7 @@ void dressFirst(ItemObj& item, std::size_t menu) {
 
 Document largeDocument(int elements) {
   Document document;
-  std::deque<std::string> open{AddMainMenu(document).Key};  // menus that are to be filled
+  std::deque<std::string> open{AddMainMenu(document).Key};  // menus that have no items yet
   for (int added = 1, menus = 0; added < elements; ++menus) {
     const std::string menu = open.front();
     open.pop_front();
@@ -45,7 +46,7 @@ Document largeDocument(int elements) {
       Node& node = *AddItem(document, menu);
       auto& item = *document.get<ItemObj>(node);
       fillItem(item, node.Key, place);
-      if (place == 0) dressFirst(item, static_cast<std::size_t>(menus));
+      if (place == 0) setStyleOfFirst(item, static_cast<std::size_t>(menus));
       node.Text = item.ItemName1;
       if (place % 2 == 0 && added + 1 < elements) {
         item.HasSubmenuImage1 = item.HasSubmenuImage2 = item.HasSubmenuImage3 = picture("arrow.gif");
