@@ -12,9 +12,9 @@ using testing::HasSubstr;
 class Gallery : public testing::Test {
  protected:
   Gallery() {
-    state.programFolder = "C:\\p";
     files.folders = {"C:", "C:\\p", "C:\\p\\gallery"};
     files.files = {{"C:\\p\\dot.gif", "dot"}, {"C:\\p\\gallery\\nbrData\\old.GIF", ""}};
+    state.programFolder = "C:\\p";
     MenuStyle style = styleOfMenu(nullptr, nullptr);
     style.submenu.BGColor = "#123456";
     StepReport report;

@@ -37,10 +37,9 @@ TEST(MenuFile, WithACommaInItsHeaderIsReadBackEqual) {
   Document document;
   document.settings.CompiledPath = "C:\\site, one";
   document.settings.nbrSubmenusFrame = "a \"b\",\nc";
-  auto read = readBytes(menuFileText(document));
-  EXPECT_EQ(std::exchange(read.settings.nbrSubmenusFrame, document.settings.nbrSubmenusFrame), "a 'b', c")
-      << "the format cannot express quotes and line breaks";
-  EXPECT_EQ(read, document);
+  const auto read = readBytes(menuFileText(document));
+  document.settings.nbrSubmenusFrame = "a 'b', c";  // the format cannot express quotes and line breaks
+  EXPECT_EQ(read.settings, document.settings);
 }
 
 // Such files exist only once a property is added; until then the test makes the version up.
