@@ -3,8 +3,8 @@
 
 #include "large_document.h"
 #include "model/structure.h"
+#include "platform/memory/scripted_system.h"
 #include "shell/main_window.h"
-#include "support/scripted_ports.h"
 
 /// Single commands as the author feels them, in a document about as large as the key counter allows.
 namespace nimbrel {
@@ -14,7 +14,7 @@ constexpr int most = 32'700;  // leaves keys for what is added
 constexpr int some = 3'000;
 
 struct Program {
-  ScriptedPorts system;
+  ScriptedSystem system;
   frmMain window{system.ports, "C:\\program"};
 
   explicit Program(Document document) : numbers_(document.NextKeyNumber) {

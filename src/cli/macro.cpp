@@ -39,7 +39,7 @@ class LineReader {
     while (!rest_.empty() && rest_.front() != '"') word += character();
     if (rest_.empty()) throw MacroFault("a quoted word has no end");
     rest_.remove_prefix(1);
-    if (!rest_.empty() && !isBlank(rest_.front())) throw MacroFault("a word goes on behind its quotes");
+    if (!rest_.empty() && !isBlank(rest_.front())) throw MacroFault("a word goes on after its closing quote");
     return word;
   }
 

@@ -10,14 +10,6 @@
 namespace nimbrel {
 namespace {
 
-template <class T>
-std::optional<T> takeFirst(std::deque<T>& queue) {
-  if (queue.empty()) return std::nullopt;
-  T first = std::move(queue.front());
-  queue.pop_front();
-  return first;
-}
-
 Control& controlOf(Form& form, std::string_view name) {
   if (auto* control = form.find(name)) return *control;
   throw MacroFault(std::string(form.name) + " has no control " + std::string(name));
@@ -26,7 +18,7 @@ Control& controlOf(Form& form, std::string_view name) {
 }  // namespace
 
 BoxButton PlayAsker::MsgBox(const MessageBox& box) {
-  const auto answer = takeFirst(answers_).value_or(box.standard());
+  const auto answer = ScriptedAsker::MsgBox(box);
   if (std::ranges::find(box.buttons, answer) == box.buttons.end()) {
     throw MacroFault("the message \"" + box.title + "\" has no button " + nameOf(answer));
   }
@@ -36,27 +28,25 @@ BoxButton PlayAsker::MsgBox(const MessageBox& box) {
 }
 
 std::optional<std::string> PlayAsker::chooseFile(const FileDialog& dialog) {
-  const auto result = takeFirst(files_).value_or(std::nullopt);
+  const auto result = ScriptedAsker::chooseFile(dialog);
   transcript_.fileDialog(dialog, result);
   return result ? std::optional(fromHostPath(*result)) : std::nullopt;
-}
-
-std::optional<std::uint32_t> PlayAsker::chooseColour(std::uint32_t) {
-  return takeFirst(colours_).value_or(std::nullopt);
 }
 
 void PlayAsker::noteFailure(const Finding& finding) {
   transcript_.error(finding.path.empty() ? finding.text() : finding.path + ": " + finding.text());
 }
 
-/// A step that is left over when its form has closed is a fault of the macro.
 void PlayAsker::ShowModal(Form& form) {
   transcript_.form(form);
   form.isOpen = true;
-  auto& queued = forms_[std::string(form.name)];
-  const auto steps = takeFirst(queued).value_or(std::vector<std::string>{});
+  std::vector<std::string> steps;
+  if (auto& queue = steps_[std::string(form.name)]; !queue.empty()) {
+    steps = std::move(queue.front());
+    queue.pop_front();
+  }
   for (const auto& one : steps) {
-    if (!form.isOpen) throw MacroFault(std::string(form.name) + " is closed ahead of the step " + one);
+    if (!form.isOpen) throw MacroFault(std::string(form.name) + " is closed before the step " + one);
     step(form, one);
   }
   if (form.isOpen) closeAsCancelled(form);
@@ -84,7 +74,7 @@ void PlayAsker::step(Form& form, std::string_view step) {
   } else if (step.back() == '?') {
     transcript_.control(form, control);
   } else {
-    throw MacroFault("no step: " + std::string(step));
+    throw MacroFault("unknown step: " + std::string(step));
   }
 }
 
@@ -106,16 +96,16 @@ void PlayAsker::assign(Form& form, Control& control, std::string_view text) {
   }
 }
 
-void PlayAsker::queueAnswer(std::string_view button) { answers_.push_back(buttonNamed(button)); }
+void PlayAsker::queueAnswer(std::string_view button) { answers.push_back(buttonNamed(button)); }
 
 void PlayAsker::queueFile(std::string_view path) {
-  files_.push_back(path == "cancel" ? std::nullopt : std::optional(absoluteHostPath(toUtf8(path))));
+  files.push_back(path == "cancel" ? std::nullopt : std::optional(absoluteHostPath(toUtf8(path))));
 }
 
-/// The chooser gives blue in the high byte.
+/// The macro has red in the high byte, the chooser blue.
 void PlayAsker::queueColour(std::string_view colour) {
   if (colour == "cancel") {
-    colours_.emplace_back(std::nullopt);
+    colours.emplace_back(std::nullopt);
     return;
   }
   std::uint32_t rgb = 0;
@@ -123,29 +113,29 @@ void PlayAsker::queueColour(std::string_view colour) {
   const auto* end = colour.data() + colour.size();
   const auto parsed = std::from_chars(colour.data(), end, rgb, 16);
   if (colour.size() != digits || parsed.ptr != end) throw MacroFault("no colour: " + std::string(colour));
-  colours_.emplace_back(((rgb & 0xFFU) << 16U) | (rgb & 0xFF00U) | (rgb >> 16U));
+  colours.emplace_back(((rgb & 0xFFU) << 16U) | (rgb & 0xFF00U) | (rgb >> 16U));
 }
 
 void PlayAsker::queueForm(std::string_view name, std::vector<std::string> steps) {
-  forms_[std::string(name)].push_back(std::move(steps));
+  steps_[std::string(name)].push_back(std::move(steps));
 }
 
-void PlayOpener::ShellExecuteA(std::string_view, std::string_view file, std::string_view, std::string_view,
+void PlaySystem::ShellExecuteA(std::string_view, std::string_view file, std::string_view, std::string_view,
                                int) {
   transcript_.shell(file);
 }
 
-bool PlayHelp::openTopic(int topic) {
+bool PlaySystem::openTopic(int topic) {
   transcript_.help(topic);
   return true;
 }
 
-bool PlayHelp::openContents() {
+bool PlaySystem::openContents() {
   transcript_.help("contents");
   return true;
 }
 
-bool PlayHelp::openSearch() {
+bool PlaySystem::openSearch() {
   transcript_.help("search");
   return true;
 }

@@ -23,11 +23,10 @@ class Player {
  public:
   Player(const Console& console, FileSystem& files, const std::string& home, MemorySettings& settings)
       : transcript_(console.out()),
-        help_(transcript_),
-        asker_(transcript_, help_),
-        opener_(transcript_),
+        system_(transcript_),
+        asker_(transcript_, system_),
         settings_(settings),
-        ports_{files, asker_, settings, opener_, help_, classes_, {}, [this] { return random_(); }},
+        ports_{files, asker_, settings, system_, system_, system_, {}, [this] { return random_(); }},
         window_(ports_, home) {
     window_.Activate({}, StartWindows::None);
   }
@@ -50,10 +49,8 @@ class Player {
   PropertySheet& sheet();
 
   Transcript transcript_;
-  PlayHelp help_;
+  PlaySystem system_;
   PlayAsker asker_;
-  PlayOpener opener_;
-  PlayClasses classes_;
   MemorySettings& settings_;
   std::minstd_rand generator_;  // the same on every run
   double random_() { return static_cast<double>(generator_() - 1) / std::minstd_rand::modulus; }

@@ -45,7 +45,10 @@ const SheetTable& itemTable() {
   return table;
 }
 
-SheetCell cellOf(PropertyField<ItemObj> field) { return cellIn<ItemObj>(rows, field); }
+template <>
+SheetCell cellOf<ItemObj>(PropertyField<ItemObj> field) {
+  return cellIn<ItemObj>(rows, field);
+}
 
 void PutValuesToPropertyControl(const ItemObj& element, PropertySheet& sheet) {
   putValues<ItemObj>(rows, element, sheet);

@@ -67,7 +67,10 @@ const SheetTable& menuTable() {
   return table;
 }
 
-SheetCell cellOf(PropertyField<MenuObj> field) { return cellIn<MenuObj>(rows, field); }
+template <>
+SheetCell cellOf<MenuObj>(PropertyField<MenuObj> field) {
+  return cellIn<MenuObj>(rows, field);
+}
 
 void PutValuesToPropertyControl(const MenuObj& element, PropertySheet& sheet) {
   putValues<MenuObj>(rows, element, sheet);

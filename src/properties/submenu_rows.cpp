@@ -61,7 +61,10 @@ const SheetTable& submenuTable() {
   return table;
 }
 
-SheetCell cellOf(PropertyField<SubmenuObj> field) { return cellIn<SubmenuObj>(rows, field); }
+template <>
+SheetCell cellOf<SubmenuObj>(PropertyField<SubmenuObj> field) {
+  return cellIn<SubmenuObj>(rows, field);
+}
 
 void PutValuesToPropertyControl(const SubmenuObj& element, PropertySheet& sheet) {
   putValues<SubmenuObj>(rows, element, sheet);

@@ -74,9 +74,9 @@ namespace {
 /// The row that holds the element's name.
 int nameRow(Kind sheet) {
   switch (sheet) {
-    case Kind::Menu: return cellOf(&MenuObj::menuname).row;
-    case Kind::Submenu: return cellOf(&SubmenuObj::SubmenuName).row;
-    default: return cellOf(&ItemObj::ItemName1).row;
+    case Kind::Menu: return cellOf<MenuObj>(&MenuObj::menuname).row;
+    case Kind::Submenu: return cellOf<SubmenuObj>(&SubmenuObj::SubmenuName).row;
+    default: return cellOf<ItemObj>(&ItemObj::ItemName1).row;
   }
 }
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdlib>
 #include <filesystem>
 #include <gmock/gmock.h>
 #include <sstream>
@@ -10,58 +9,51 @@
 #include "persistence/menu_file.h"
 #include "platform/posix/host_file_system.h"
 #include "platform/posix/host_paths.h"
+#include "support/temporary_folder.h"
 
 namespace nimbrel {
 
-/// What a call gave.
 struct Outcome {
   int status;
   std::string out;
   std::string err;
+
+  bool operator==(const Outcome&) const = default;
+  friend std::ostream& operator<<(std::ostream& to, const Outcome& outcome) {
+    return to << outcome.status << '\n' << outcome.out << outcome.err;
+  }
 };
 
-/// Calls `nbrc` in an empty folder of its own, which is the current one. `home` in it is a program's folder.
-class NbrcTest : public testing::Test {
+/// Calls `nbrc` in a new folder, which becomes the current one. Its folder `home` is a program folder.
+class NbrcTest : public testing::Test, protected TemporaryFolder {
  protected:
   NbrcTest() {
-    std::filesystem::create_directories(here / "home/libraries");
     std::filesystem::current_path(here);
+    std::filesystem::create_directories("home/libraries");
     write("home/dot.gif", "GIF89a");
     for (char n = '0'; n < '6'; ++n) write(std::string("home/libraries/nbrlib") + n + ".js", "//");
   }
-  ~NbrcTest() override {
-    std::filesystem::current_path("/");
-    std::filesystem::remove_all(here);
-  }
+  ~NbrcTest() override { std::filesystem::current_path("/"); }
 
   Outcome run(std::vector<std::string> words) { return runOn(files, std::move(words)); }
-  static Outcome runOn(FileSystem& files, std::vector<std::string> words, bool errIsTerminal = false,
-                       const std::string& input = "") {
+  static Outcome runOn(FileSystem& files, std::vector<std::string> words, bool errIsTerminal = false) {
     std::ostringstream out, err;
     MenuInputs menus;
-    std::istringstream in(input);
+    std::istringstream in;
     const int status = nbrc(Console(in, out, err, errIsTerminal), files, std::move(words), menus);
     return {status, out.str(), err.str()};
   }
 
-  void write(const std::string& path, std::string_view bytes) { files.replace(fromHostPath(path), bytes); }
   void save(const std::string& path, const Document& document) {
     SaveMenuFile(files, fromHostPath(path), document);
   }
-  std::string read(const std::string& path) { return files.read(fromHostPath(path)); }
-  std::string absolute(const std::string& path) const { return (here / path).string(); }
 
-  /// "nbrc: FILE: reason", for a file in this folder.
+  /// The line on standard error for a file in this folder.
   std::string fault(const std::string& path, const std::string& reason) const {
-    return "nbrc: " + absolute(path) + ": " + reason + "\n";
+    return "nbrc: " + (here / path).string() + ": " + reason + "\n";
   }
 
-  static std::filesystem::path newFolder() {
-    std::string path = std::filesystem::temp_directory_path() / "nimbrel-test-XXXXXX";
-    return ::mkdtemp(path.data());
-  }
-
-  const std::filesystem::path here = newFolder();
+  const std::filesystem::path here = (*this / "home").parent_path();
   HostFileSystem files;
 };
 

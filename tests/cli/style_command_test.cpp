@@ -26,13 +26,10 @@ class StyleCommands : public NbrcTest {
   Document document;
 };
 
-TEST_F(StyleCommands, CarryTheLookOfOneMenuToAnother) {
-  EXPECT_EQ(style({"list"}).out, "");
+TEST_F(StyleCommands, CopyTheLookOfAMenuToAnother) {
   EXPECT_EQ(style({"create", "blue.nbr", "Blå"}).status, 0);
-  EXPECT_EQ(style({"create", "blue.nbr", "Blå"}).status, 0) << "replaced";
   EXPECT_EQ(style({"list"}).out, "Blå\n");
-  const auto applied = style({"apply", "Blå", "plain.nbr", "--to", "out.nbr"});
-  EXPECT_EQ(applied.err, "");
+  EXPECT_EQ(style({"apply", "Blå", "plain.nbr", "--to", "out.nbr"}), (Outcome{0, "", ""}));
   EXPECT_THAT(read("out.nbr"), HasSubstr("#123456"));
   EXPECT_THAT(read("out.nbr"), HasSubstr("gallery\\Bl\xE5-images\\a.gif"));
 
@@ -40,7 +37,8 @@ TEST_F(StyleCommands, CarryTheLookOfOneMenuToAnother) {
   EXPECT_THAT(read("item.nbr"), HasSubstr("#654321"));
   EXPECT_THAT(read("item.nbr"), testing::Not(HasSubstr("#123456")));
 
-  EXPECT_EQ(style({"create", "plain.nbr", "Blå"}).err, "") << "kept: the old pictures are left behind";
+  EXPECT_EQ(style({"create", "plain.nbr", "Blå"}).status, 0);
+  // Quirk: a style that is replaced leaves its pictures in the gallery.
   EXPECT_TRUE(std::filesystem::exists("home/gallery/Blå-images/a.gif"));
 }
 
@@ -54,15 +52,12 @@ TEST_F(StyleCommands, RefuseWhatDoesNotFit) {
     words.insert(words.end(), {"plain.nbr", "--to", "out.nbr"});
     return style(words).status;
   };
-  EXPECT_EQ(apply({"Gone"}), 1);
+  EXPECT_EQ(apply({"Unknown"}), 1);
   EXPECT_EQ(apply({"Blue", "--at", "I99"}), 1);
   EXPECT_EQ(apply({"Blue", "--at", "I1", "--scope", "submenu"}), 1);
   EXPECT_EQ(apply({"Blue", "--scope", "item"}), 1);
-  const auto whole = read("home/gallery/Blue.nbs");
-  for (const auto& broken : {std::string("foo"), whole.substr(0, whole.size() / 2)}) {
-    write("home/gallery/Blue.nbs", broken);
-    EXPECT_EQ(apply({"Blue"}), 1) << broken;
-  }
+  write("home/gallery/Blue.nbs", "foo");
+  EXPECT_EQ(apply({"Blue"}), 1);
   EXPECT_FALSE(std::filesystem::exists("out.nbr"));
 }
 

@@ -1,13 +1,10 @@
 #include "properties/element_values.h"
 
-#include <concepts>
 #include <gtest/gtest.h>
-#include <map>
 #include <set>
-#include <sstream>
 
 #include "fixtures.h"
-#include "model/element.h"
+#include "text/ascii.h"
 
 namespace nimbrel {
 namespace {
@@ -17,69 +14,43 @@ class ElementValues : public testing::Test {};
 using Classes = testing::Types<MenuObj, SubmenuObj, ItemObj>;
 TYPED_TEST_SUITE(ElementValues, Classes);
 
-template <class E>
-const SheetTable& tableOf() {
-  if constexpr (std::same_as<E, MenuObj>) return menuTable();
-  if constexpr (std::same_as<E, SubmenuObj>) return submenuTable();
-  return itemTable();
-}
-
-TYPED_TEST(ElementValues, EachPropertyHasOnePlace) {
-  TestSheet test(tableOf<TypeParam>());
-  TypeParam element;
-  PutValuesToPropertyControl(element, test.sheet);
-  int next = 0;
-  for (int ordinal = -1; ordinal <= test.sheet.RowCount(); ++ordinal) {
-    const bool isRow = ordinal >= 0 && ordinal < test.sheet.RowCount();
-    for (const int col : valueColumns) {
-      if (!isRow || !test.sheet.row(ordinal).takes(col)) continue;
-      ++next;
-      PropertyValue value = test.sheet.GetProperty(ordinal, col);
-      if (value.index() == 0) value = SharedText(std::to_string(next));
-      if (value.index() == 1) value = static_cast<std::uint8_t>(next);
-      if (value.index() == 2) value = static_cast<float>(next);
-      test.sheet.SetProperty(ordinal, col, value);
+TYPED_TEST(ElementValues, EachPropertyHasItsOwnCellAndComesBack) {
+  TestSheet<TypeParam> test;
+  auto& element = test.element;
+  std::set<std::pair<int, int>> cells;
+  eachProperty<TypeParam>([&]<class T>(const auto& property, T TypeParam::*field) {
+    if (property.name == "HasSubmenu") return;  // the only property without a row
+    const auto [row, col] = test.cell(field);
+    EXPECT_TRUE(cells.emplace(row, col).second && test.sheet.row(row).takes(col)) << property.name;
+    const char last = property.name.back();
+    if (test.table().hasStates && isDigit(last)) {
+      EXPECT_EQ(slotOf(col), last - '1') << property.name;
     }
-    const auto before = element;
-    GetValueFromPropertyControl(element, test.sheet, ordinal);
-    EXPECT_EQ(element != before, isRow && test.sheet.row(ordinal).Kind() != KindGroup) << ordinal;
-  }
-  std::set<std::string> values;
-  eachProperty<TypeParam>([&](const auto& property, auto field) {
-    std::ostringstream text;
-    if constexpr (std::same_as<decltype(field), SharedText TypeParam::*>) {
-      text << (element.*field).view();
+    if constexpr (std::same_as<T, SharedText>) {
+      element.*field = std::to_string(cells.size());
     } else {
-      text << +(element.*field);
+      element.*field = static_cast<T>(cells.size());
     }
-    EXPECT_TRUE(values.insert(text.str()).second) << property.name;
   });
-  EXPECT_EQ(values.contains("0"), (std::same_as<TypeParam, ItemObj>));  // `HasSubmenu` is in no row
-}
-
-TYPED_TEST(ElementValues, DefaultsComeBackWhole) {
-  TestSheet test(tableOf<TypeParam>());
-  TypeParam element;
-  SetDefaultValues(element);
-  PutValuesToPropertyControl(element, test.sheet);
+  test.fill();
   TypeParam back;
-  for (int ordinal = 0; ordinal < test.sheet.RowCount(); ++ordinal) {
-    GetValueFromPropertyControl(back, test.sheet, ordinal);
+  for (int row = -1; row <= test.sheet.RowCount(); ++row) {
+    const auto before = back;
+    GetValueFromPropertyControl(back, test.sheet, row);
+    const bool isRow = row >= 0 && row < test.sheet.RowCount() && test.sheet.row(row).Kind() != KindGroup;
+    EXPECT_EQ(back != before, isRow) << row;
   }
   EXPECT_EQ(back, element);
 }
 
 TEST(ByteRows, RoundTiesToEven) {
-  TestSheet test(itemTable());
-  ItemObj item;
-  SetDefaultValues(item);
-  PutValuesToPropertyControl(item, test.sheet);
-  for (const auto& [typed, stored] : std::map<std::string, int>{{"2.5", 2}, {"3.5", 4}, {"99", 20}}) {
-    test.edit(16, column::MouseOver, typed);
-    GetValueFromPropertyControl(item, test.sheet, 16);
-    EXPECT_EQ(item.BorderWidth2, stored);
+  TestSheet<ItemObj> test;
+  for (const auto& [typed, stored] : {std::pair("2.5", 2), {"3.5", 4}, {"99", 20}}) {
+    test.edit(&ItemObj::BorderWidth2, typed);
+    GetValueFromPropertyControl(test.element, test.sheet, test.cell(&ItemObj::BorderWidth2).row);
+    EXPECT_EQ(test.element.BorderWidth2, stored);
   }
-  EXPECT_EQ(test.edit(16, column::Normal, "3.5"), "3.5");  // until the sheet is filled again
+  EXPECT_EQ(test.edit(&ItemObj::BorderWidth1, "3.5"), "3.5");  // until the sheet is filled again
 }
 
 }  // namespace

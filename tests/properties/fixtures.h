@@ -1,70 +1,50 @@
 #pragma once
 
-#include <string>
-#include <vector>
-
-#include "platform/memory/memory_file_system.h"
+#include "model/element.h"
 #include "properties/element_values.h"
 #include "properties/property_sheet.h"
+#include "support/scripted_ports.h"
 
 namespace nimbrel {
 
-/// Answers with what a test put there, and notes what it was asked.
-struct FakeSystem : Asker, HelpSystem, Opener, ClassesRoot {
-  BoxButton MsgBox(const MessageBox& box) override { return box.standard(); }
-  std::optional<std::string> chooseFile(const FileDialog& dialog) override {
-    title = dialog.title;
-    return file;
-  }
-  std::optional<std::uint32_t> chooseColour(std::uint32_t) override { return colour; }
-  void ShowModal(Form& form) override {
-    title = form.caption;
-    if (inForm) inForm(form);
-  }
-  void noteFailure(const Finding&) override {}
-  bool openTopic(int number) override {
-    topic = number;
-    return true;
-  }
-  bool openContents() override { return false; }
-  bool openSearch() override { return false; }
-  void ShellExecuteA(std::string_view, std::string_view, std::string_view, std::string_view, int) override {}
-  void CreateClassKey(std::string_view) override {}
-  void SetClassValue(std::string_view, std::string_view, std::string_view) override {}
-
-  std::optional<std::string> file;
-  std::optional<std::uint32_t> colour;
-  std::function<void(Form&)> inForm;
-  std::string title;
-  int topic = 0;
-};
-
-/// A sheet with what it needs; it notes each `Change`.
-struct TestSheet {
-  explicit TestSheet(const SheetTable& table) : sheet(table, ports, state, viewer) {
+/// The sheet of an element with its ports. Records the caption of each row that raises `Change`.
+template <class E>
+struct TestSheet : ScriptedPorts {
+  TestSheet() : sheet(table(), withFonts(), state, viewer) {
     state.programFolder = "C:\\program";
-    sheet.Change = [this](int ordinal) { changes.push_back(ordinal); };
+    sheet.Change = [this](int ordinal) { changes.emplace_back(sheet.row(ordinal).Caption); };
+    SetDefaultValues(element);
+    fill();
+  }
+  void fill() { PutValuesToPropertyControl(element, sheet); }
+  static const SheetTable& table() {
+    if constexpr (std::same_as<E, MenuObj>) return menuTable();
+    if constexpr (std::same_as<E, SubmenuObj>) return submenuTable();
+    return itemTable();
   }
 
-  /// What the cell says once `text` was typed there.
-  std::string edit(int ordinal, int col, std::string_view text) {
-    sheet.EnterCell(ordinal, col);
+  static SheetCell cell(PropertyField<E> field) { return cellOf<E>(field); }
+  void enter(PropertyField<E> field) { sheet.EnterCell(cell(field).row, cell(field).column); }
+  /// Types `text` into a cell and returns what the cell then shows.
+  std::string edit(PropertyField<E> field, std::string_view text) {
+    enter(field);
     sheet.type(text);
     sheet.LeaveCell();
-    return sheet.Shown(ordinal, col).str();
+    return sheet.Shown(cell(field).row, cell(field).column).str();
   }
-  std::string text(int ordinal, int col) const {
-    return std::get<SharedText>(sheet.GetProperty(ordinal, col)).str();
+  std::string value(PropertyField<E> field) const {
+    return std::get<SharedText>(sheet.GetProperty(cell(field).row, cell(field).column)).str();
+  }
+  Ports& withFonts() {
+    ports.fonts = {"Zapf", "arial"};
+    return ports;
   }
 
-  FakeSystem system;
-  MemoryFileSystem files;
-  MemorySettings settings;
-  Ports ports{files, system, settings, system, system, system, {"Zapf", "arial"}, {}};
+  E element;
   ProgramState state;
   frmLiveExamples viewer{state};
   PropertySheet sheet;
-  std::vector<int> changes;
+  std::vector<std::string> changes;
 };
 
 }  // namespace nimbrel

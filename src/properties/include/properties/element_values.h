@@ -22,9 +22,14 @@ template <class E>
 using PropertyField = std::variant<SharedText E::*, std::uint8_t E::*, float E::*>;
 
 /// The cell of a property on the sheet of its element. Throws std::out_of_range for a property without a row.
-SheetCell cellOf(PropertyField<MenuObj> field);
-SheetCell cellOf(PropertyField<SubmenuObj> field);
-SheetCell cellOf(PropertyField<ItemObj> field);
+template <class E>
+SheetCell cellOf(PropertyField<E> field);
+template <>
+SheetCell cellOf<MenuObj>(PropertyField<MenuObj> field);
+template <>
+SheetCell cellOf<SubmenuObj>(PropertyField<SubmenuObj> field);
+template <>
+SheetCell cellOf<ItemObj>(PropertyField<ItemObj> field);
 
 /// Fills the sheet with all properties, in the order of its rows.
 void PutValuesToPropertyControl(const MenuObj& element, PropertySheet& sheet);
