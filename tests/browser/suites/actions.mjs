@@ -23,7 +23,8 @@ export default suite('actions', (site) => {
     { ItemName: 'event', URL: 'other.html', JavascriptCommand3: 'log.push(event.type); event.preventDefault()' },
   ]));
   site.page('runtime.html', pageOf('<script src="nbrData-links/nbrlib2.js"></script>'));
-  const shared = (name, menu, items) => site.menu(name, plainMenu(menu, items), ['shared.html']);
+  const shared = (name, menu, items) => (
+    site.menu(name, plainMenu({ menuname: 'Same', DisplayNameAsTitle: 1, ...menu }, items), ['shared.html']));
   shared('bar', { MenuType: 1, BGColor: '#AABBCC' }, [opener('bar', ['in bar'])]);
   const popup = { Collapsable: 1, HorizontalDistanceFromCorner: 300, VerticalDistanceFromCorner: 300 };
   for (const [name, BGColor] of [['pop1', '#112233'], ['pop2', '#445566']]) shared(name, { ...popup, BGColor }, [name]);
@@ -82,7 +83,7 @@ export default suite('actions', (site) => {
     const looks = ['bar', 'pop1', 'pop2'].map((name) => visitor.look(name, '.panel', 'backgroundColor'));
     assert.deepEqual((await Promise.all(looks)).flat(), ['rgb(170, 187, 204)', 'rgb(17, 34, 51)', 'rgb(68, 85, 102)']);
     const names = await visitor.run(() => all('nav').map((layer) => layer.getAttribute('aria-label')));
-    assert.equal(new Set(names).size, 3, 'each has its own name');
+    assert.equal(new Set(names).size, 3, 'each has its own label');
     await visitor.follow(['hover', 'bar', 'bar/in bar/pop1/pop2'], ['click', [800, 600], 'bar']);
   });
 });
