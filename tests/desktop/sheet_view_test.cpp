@@ -115,7 +115,7 @@ TEST_F(ItemOnScreen, ListByMouse) {
 TEST_F(ItemOnScreen, ButtonsOpenTheChoosersOfTheirRows) {
   constexpr int image = 2;
   const auto path = toDisplayPath("\\site\\a.gif");
-  author.file = "\\site\\a.gif";
+  author.files.emplace_back("\\site\\a.gif");
   click(image, Normal);
   clickButton("btnFile");
   EXPECT_EQ(entry().text(), path);
