@@ -10,7 +10,7 @@
 #include <iostream>
 #include <numeric>
 
-#include "desktop/desktop_run.h"
+#include "support/desktop_run.h"
 #include "desktop/display_text.h"
 #include "large_document.h"
 #include "persistence/menu_file.h"

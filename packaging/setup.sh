@@ -8,7 +8,7 @@ packaging=$(dirname "${BASH_SOURCE[0]}")
 show_progress() { # LOG
   local start=$SECONDS line width
   while sleep 1; do
-    line=$(tail -n 1 "$1" | tr -d '\r')
+    line=$(tail -n 20 "$1" | grep -vE '^ *(---|\.\.\.|[a-z_]+: .*)?$' | tail -n 1 | tr -d '\r') || true # not what TAP adds
     line="   $((SECONDS - start)) s  ${line//[^[:print:]]/ }"
     if [[ -t 2 ]]; then
       width=$(tput cols 2>/dev/null || echo 80)

@@ -1,15 +1,24 @@
-// Takes the pictures of docs/pictures from the running program, into the folder given as argument.
+// Takes the pictures of the program's windows for docs/pictures, into the folder given as argument. Windows show paths, so it
+// runs only in the home of an author who does not exist, which the script `take` beside it provides.
 #include <QAbstractItemView>
 #include <QDir>
+#include <QHelpContentWidget>
 #include <QPalette>
 #include <QPushButton>
 #include <QTest>
+#include <QWebEngineView>
+#include <filesystem>
 #include <iostream>
 
-#include "desktop/desktop_run.h"
+#include "desktop/browser_view.h"
+#include "support/desktop_run.h"
 
 namespace nimbrel {
 namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* home = "/home/author";
 
 class Photographer {
  public:
@@ -25,7 +34,7 @@ class Photographer {
   void takeModal(const char* command, const std::vector<QString>& names) {
     for (const auto& name : names) {
       run_.answer([this, name](QWidget& window) {
-        if (name == "gallery") QTest::qWait(2500);
+        if (name == "gallery") openSampleMenu(dynamic_cast<FormWindow&>(window));
         take(window, name);
         QTest::keyClick(&window, Qt::Key_Escape);
       });
@@ -34,9 +43,11 @@ class Photographer {
   }
 
   void work() {
-    run_.start(run_.programFolder() + "/Examples/thistlewick/thistlewick.nbr");
+    fs::copy(run_.programFolder().toStdString() + "/Examples/thistlewick",
+             run_.path("thistlewick").toStdString(), fs::copy_options::recursive);
+    run_.start(run_.path("thistlewick/thistlewick.nbr"));
     auto& view = run_.view();
-    constexpr QSize size(1000, 640);
+    constexpr QSize size(1100, 750);
     view.resize(size);
     run_.select("M0");
     take(view, "sheet-menu");
@@ -60,15 +71,38 @@ class Photographer {
     takeModal("mnuStyleOpenStyleLibrary", {"gallery"});
     takeModal("mnuToolsInsertMenuIntoWebpage", {"link-file"});
     compile();
-    view.commands().action("mnuToolsPreview")->trigger();
-    waitFor([&] { return run_.evaluate(view.preview(), "document.readyState").toString() == "complete"; });
-    QTest::qWait(1200);
-    take(view.preview(), "preview");
+    preview();
     help();
     darkTheme();
   }
 
  private:
+  /// Opens the first submenu of the sample, as an author does with the mouse.
+  void openSampleMenu(FormWindow& gallery) {
+    const QString item =
+        "document.querySelector('[data-nbr-menu]').shadowRoot.querySelector('[aria-haspopup]')";
+    waitFor([&] { return run_.evaluate(gallery, item + " !== null").toBool(); });
+    const auto point = run_.evaluate(gallery, "(() => { const b = " + item +
+                                                  ".getBoundingClientRect();"
+                                                  " return [b.x + b.width / 2, b.y + b.height / 2]; })()")
+                           .toList();
+    auto* page = gallery.findChild<BrowserView*>()->view()->focusProxy();
+    QTest::mouseMove(page, {point.value(0).toInt() + 1, point.value(1).toInt() + 1});
+    QTest::mouseMove(page, {point.value(0).toInt(), point.value(1).toInt()});
+    waitFor(
+        [&] { return run_.evaluate(gallery, item + ".getAttribute('aria-expanded') === 'true'").toBool(); });
+    QTest::qWait(500);  // until it has unfolded
+  }
+
+  void preview() {
+    auto& window = run_.view().preview();
+    run_.run("mnuToolsPreview");
+    constexpr QSize size(1000, 640);
+    window.resize(size);
+    openSampleMenu(window);
+    take(window, "preview");
+  }
+
   void compile() {
     run_.answer([this](QWidget& window) {
       take(window, "compile-warning");
@@ -91,10 +125,15 @@ class Photographer {
   }
 
   void help() {
-    if (!run_.program().help().openTopic(2280)) return;
-    QTest::qWait(800);
-    take(run_.program().help(), "help");
-    run_.program().help().hide();
+    auto& window = run_.program().help();
+    if (!window.openTopic(2280)) return;
+    constexpr QSize size(1000, 700);
+    window.resize(size);
+    auto* contents = window.findChild<QHelpContentWidget*>();
+    waitFor([&] { return contents->model()->rowCount() > 0; });
+    contents->expandAll();
+    take(window, "help");
+    window.hide();
   }
 
   void darkTheme() {
@@ -110,7 +149,7 @@ class Photographer {
   }
 
   QString folder_;
-  DesktopRun run_;
+  DesktopRun run_{home};
 };
 
 }  // namespace
@@ -121,6 +160,10 @@ int main(int argc, char** argv) {
   if (argc != 2) {
     std::cerr << "usage: " << argv[0] << " FOLDER\n";
     return 2;
+  }
+  if (QDir::homePath() != nimbrel::home || !QDir(nimbrel::home).isEmpty()) {
+    std::cerr << "The pictures would show folders of this machine: run docs/pictures/take.\n";
+    return 1;
   }
   QDir().mkpath(argv[1]);
   nimbrel::Photographer(argv[1]).work();

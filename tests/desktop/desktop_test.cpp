@@ -22,7 +22,7 @@
 #include "desktop/browser_view.h"
 #include "desktop/display_text.h"
 #include "desktop/folder_view.h"
-#include "desktop_run.h"
+#include "support/desktop_run.h"
 #include "platform/file_error.h"
 
 namespace nimbrel {

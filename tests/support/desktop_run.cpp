@@ -1,4 +1,4 @@
-#include "desktop_run.h"
+#include "support/desktop_run.h"
 
 #include <QAbstractButton>
 #include <QDir>
@@ -66,7 +66,7 @@ bool waitFor(const std::function<bool()>& holds, int milliseconds) {
   return true;
 }
 
-DesktopRun::DesktopRun() {
+DesktopRun::DesktopRun(const QString& folder) : folder_(folder.isEmpty() ? temporary_.path() : folder) {
   fs::copy(programCopy(), programFolder().toStdString(),
            fs::copy_options::recursive | fs::copy_options::create_hard_links);
   QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, path("config"));

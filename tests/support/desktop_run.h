@@ -23,14 +23,15 @@ bool waitFor(const std::function<bool()>& holds, int milliseconds = 15'000);
 class DesktopRun {
  public:
   /// Shows neither tip nor preview at the start.
-  DesktopRun();
+  /// In a folder that exists and stays, or in a temporary one.
+  explicit DesktopRun(const QString& folder = {});
 
   void start(const QString& commandLine = {});
   DesktopProgram& program() { return *program_; }
   MainView& view() { return program_->view(); }
   frmMain& main() { return program_->main(); }
   /// The path of a file in the run's folder.
-  QString path(const QString& name) const { return folder_.filePath(name); }
+  QString path(const QString& name) const { return folder_ + '/' + name; }
   QString programFolder() const { return path("program"); }
   void write(const QString& name, const QByteArray& bytes) const;
   QByteArray read(const QString& name) const;
@@ -56,7 +57,8 @@ class DesktopRun {
  private:
   void answerModalWindow();
 
-  QTemporaryDir folder_;
+  QTemporaryDir temporary_;
+  QString folder_;
   QTimer poll_;
   std::deque<std::function<void(QWidget&)>> answers_;
   QStringList problems_;
