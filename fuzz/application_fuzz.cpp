@@ -8,7 +8,7 @@
 
 #include "model/structure.h"
 #include "platform/memory/memory_file_system.h"
-#include "require.h"
+#include "require_consistent.h"
 #include "shell/command_table.h"
 #include "shell/main_window.h"
 

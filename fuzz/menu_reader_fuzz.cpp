@@ -2,7 +2,7 @@
 #include <string>
 
 #include "persistence/menu_file.h"
-#include "require.h"
+#include "require_consistent.h"
 
 using namespace nimbrel;
 

