@@ -11,9 +11,9 @@ ExitStatus checkCommand(const Console& console, const FileSystem& files, MenuInp
   } catch (const FileError& error) {
     findings.push_back(error.finding());
   }
-  const auto ofReading = console.faults(input.notes);
-  const auto ofDocument = console.faults(findings);
-  return ofReading == done ? ofDocument : ofReading;
+  const auto readingStatus = console.faults(input.notes);
+  const auto documentStatus = console.faults(findings);
+  return readingStatus == done ? documentStatus : readingStatus;
 }
 
 }  // namespace nimbrel

@@ -8,7 +8,7 @@
 namespace nimbrel {
 namespace {
 
-/// The folder of a compile, to which a backslash and a name are added: empty for the system's root.
+/// Returns the folder in document form without its last backslash, so that the root is empty.
 std::string compiledFolder(const std::filesystem::path& to) {
   const auto folder = to.parent_path();
   if (folder.empty()) return ".";

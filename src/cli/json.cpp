@@ -46,7 +46,7 @@ Json jsonOfValue(const PropertyValue& value) {
   return std::visit([](const auto& one) { return jsonOf(one); }, value);
 }
 
-/// What a compile has calculated: the numbers of styles and pictures.
+/// Adds the properties that a compile sets: the numbers of styles and pictures.
 void addCalculated(Json& properties, const Element& element) {
   std::visit(
       [&]<class E>(const E& object) {
@@ -65,18 +65,18 @@ void addCalculated(Json& properties, const Element& element) {
       element);
 }
 
-/// A cell that holds no value is an empty text.
+/// A cell without a value prints as an empty text.
 Json rowState(const PropertySheet& sheet, int ordinal) {
   const auto& row = sheet.row(ordinal);
   Json values = Json::array();
-  Json shown = Json::array();
+  Json texts = Json::array();
   const std::size_t columns = sheet.table().hasStates ? valueColumns.size() : 1;
   for (std::size_t slot = 0; slot < columns; ++slot) {
     const int col = valueColumns.at(slot);
     values.push_back(row.takes(col) ? jsonOfValue(sheet.GetProperty(ordinal, col)) : Json(""));
-    shown.push_back(row.takes(col) ? jsonOf(sheet.Shown(ordinal, col)) : Json(""));
+    texts.push_back(row.takes(col) ? jsonOf(sheet.Shown(ordinal, col)) : Json(""));
   }
-  return {{"caption", toUtf8(row.Caption)}, {"values", std::move(values)}, {"shown", std::move(shown)}};
+  return {{"caption", toUtf8(row.Caption)}, {"values", std::move(values)}, {"shown", std::move(texts)}};
 }
 
 Json treeState(const frmMain& window) {

@@ -12,7 +12,7 @@ constexpr std::array buttonNames{"OK", "Yes", "No", "Cancel", "Help"};
 
 bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\r'; }
 
-/// Takes one line apart.
+/// Splits a line into words.
 class LineReader {
  public:
   explicit LineReader(std::string_view line) : rest_(line) {}
@@ -37,7 +37,7 @@ class LineReader {
     std::string word;
     rest_.remove_prefix(1);
     while (!rest_.empty() && rest_.front() != '"') word += character();
-    if (rest_.empty()) throw MacroFault("a quoted word has no end");
+    if (rest_.empty()) throw MacroFault("a quoted word has no closing quote");
     rest_.remove_prefix(1);
     if (!rest_.empty() && !isBlank(rest_.front())) throw MacroFault("a word goes on after its closing quote");
     return word;
@@ -47,7 +47,7 @@ class LineReader {
     char c = rest_.front();
     rest_.remove_prefix(1);
     if (c != '\\') return c;
-    if (rest_.empty()) throw MacroFault("a quoted word has no end");
+    if (rest_.empty()) throw MacroFault("a quoted word has no closing quote");
     c = rest_.front();
     rest_.remove_prefix(1);
     switch (c) {

@@ -9,7 +9,7 @@ MenuInput::MenuInput(const std::string& hostPath) : path(fromHostPath(absoluteHo
 
 void MenuInput::load(const FileSystem& files) {
   SubmenuCarryOver carryOver;
-  // An empty folder means "the name alone", which the system's root is not.
+  // An empty folder would mean the current folder, not the root.
   const std::string folder = path.rfind('\\') == 0 ? "\\." : std::string(folderName(path));
   LoadMenuFile(files, folder, fileName(path), carryOver, document, notes);
 }

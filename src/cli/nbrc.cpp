@@ -11,7 +11,7 @@
 namespace nimbrel {
 namespace {
 
-/// The words of a call, as the parser fills them in, and what is to be done with them.
+/// The arguments, as the parser sets them, and the command to run.
 struct Call {
   explicit Call(MenuInputs& m) : menus(m) {}
 
@@ -28,7 +28,7 @@ struct Call {
   MenuInput& input() const { return menus.emplace_back(menu); }
 };
 
-/// Declares a subcommand that runs `command` when it was named.
+/// Declares a subcommand that makes `command` the one to run.
 CLI::App* declare(CLI::App& app, Call& call, const std::string& name, const std::string& help,
                   std::function<ExitStatus()> command) {
   CLI::App* subcommand = app.add_subcommand(name, help)->fallthrough();
@@ -41,7 +41,7 @@ void declareDocumentCommands(CLI::App& app, Call& call, const Console& console, 
                          [&] { return newCommand(console, files, call.out); });
   create->add_option("OUT.nbr", call.out, "the menu file to make")->required()->type_name("");
 
-  auto* show = declare(app, call, "show", "Print the tree, a line a node, or the whole document as JSON.",
+  auto* show = declare(app, call, "show", "Print the tree, one node per line, or the whole document as JSON.",
                        [&] { return showCommand(console, files, call.input(), call.asJson); });
   show->add_option("MENU.nbr", call.menu, "the menu file, of any version")->required()->type_name("");
   show->add_flag("--json", call.asJson, "print all properties, as one JSON object");
@@ -53,8 +53,9 @@ void declareDocumentCommands(CLI::App& app, Call& call, const Console& console, 
       ->required()
       ->type_name("");
 
-  auto* check = declare(app, call, "check", "Say all in a menu file that would disappoint in the page.",
-                        [&] { return checkCommand(console, files, call.input()); });
+  auto* check =
+      declare(app, call, "check", "Report everything in a menu file that would go wrong in the page.",
+              [&] { return checkCommand(console, files, call.input()); });
   check->add_option("MENU.nbr", call.menu, "the menu file, of any version")->required()->type_name("");
 }
 
@@ -62,10 +63,8 @@ void declareOutputCommands(CLI::App& app, Call& call, const Console& console, Fi
   auto* compile =
       declare(app, call, "compile", "Compile a menu, replacing what is there; print each file made.",
               [&] { return compileCommand(console, files, call.home, call.input(), call.out); });
-  compile->add_option("MENU.nbr", call.menu, "the menu file, which is not written")
-      ->required()
-      ->type_name("");
-  compile->add_option("--to", call.out, "the compiled menu; its folder is to be there")
+  compile->add_option("MENU.nbr", call.menu, "the menu file, which is only read")->required()->type_name("");
+  compile->add_option("--to", call.out, "the compiled menu; its folder must exist")
       ->required()
       ->type_name("DIR/NAME.js");
 
@@ -73,7 +72,7 @@ void declareOutputCommands(CLI::App& app, Call& call, const Console& console, Fi
                        [&] { return linkCommand(console, files, call.link); });
   link->add_option("DIR/NAME.js", call.link.compiled, "the compiled menu")->required()->type_name("");
   link->add_option("PAGE", call.link.pages, "the pages")->required()->type_name("");
-  link->add_option("--alt-url", call.link.altUrl, "where browsers go that cannot show the menu")
+  link->add_option("--alt-url", call.link.altUrl, "the page for browsers that cannot show the menu")
       ->type_name("URL");
 
   auto* preview =
@@ -86,11 +85,11 @@ void declareStyleCommands(CLI::App& app, Call& call, const Console& console, Fil
   auto* style =
       app.add_subcommand("style", "List, create and apply the styles of the gallery.")->fallthrough();
   style->require_subcommand(1);
-  declare(*style, call, "list", "Print the names of the styles, a line each.",
+  declare(*style, call, "list", "Print the names of the styles, one per line.",
           [&] { return styleListCommand(console, files, call.home); });
 
   auto* create =
-      declare(*style, call, "create", "Create a style from a menu, in place of one of its name.",
+      declare(*style, call, "create", "Create a style from a menu; replaces a style of the same name.",
               [&] { return styleCreateCommand(console, files, call.home, call.input(), call.style.name); });
   create->add_option("MENU.nbr", call.menu, "the menu file")->required()->type_name("");
   create->add_option("NAME", call.style.name, "the style")->required()->type_name("");
@@ -109,7 +108,7 @@ void declareStyleCommands(CLI::App& app, Call& call, const Console& console, Fil
 
 void declarePlay(CLI::App& app, Call& call, const Console& console, FileSystem& files) {
   auto* play =
-      declare(app, call, "play", "Drive the whole application by a macro; print what happens as JSON.",
+      declare(app, call, "play", "Drive the whole application with a macro; print what happens as JSON.",
               [&] { return playCommand(console, files, call.home, call.play); });
   play->add_option("MACRO", call.play.macro, "the macro, - for standard input")->required()->type_name("");
   play->add_option("--settings", call.play.settings, "settings to start with, written back at the end")
@@ -137,7 +136,7 @@ int nbrc(const Console& console, FileSystem& files, std::vector<std::string> wor
   Call call(menus);
   CLI::App app(std::string(productTitle) + " without a screen: compiles menu files and links them to pages.",
                "nbrc");
-  app.footer("Exit status: 0 done; 1 the work could not be done, or not all of it; 2 the call is wrong.");
+  app.footer("Exit status: 0 done; 1 not done, or only in part; 2 wrong arguments.");
   app.set_version_flag("--version",
                        "nbrc " + std::string(productVersion) + " build " + std::string(productBuild));
   app.add_option("--home", call.home, "the program's folder (libraries, dot.gif, ...)")->type_name("DIR");
@@ -147,7 +146,7 @@ int nbrc(const Console& console, FileSystem& files, std::vector<std::string> wor
   declareStyleCommands(app, call, console, files);
   declarePlay(app, call, console, files);
 
-  std::ranges::reverse(words);  // the parser takes them from the end
+  std::ranges::reverse(words);  // the parser expects the reverse order
   try {
     app.parse(std::move(words));
   } catch (const CLI::ParseError& error) {

@@ -8,7 +8,7 @@ namespace nimbrel {
 ExitStatus newCommand(const Console&, FileSystem& files, const std::string& out) {
   const auto path = fromHostPath(out);
   if (files.isFile(path) && !files.read(path).empty()) {
-    throw FileError(path, "there is a file of that name already; it is left as it was");
+    throw FileError(path, "the file exists already and was not changed");
   }
   Document document;
   BuildDefaultDocument(document);

@@ -18,7 +18,7 @@ namespace {
 
 using Words = std::vector<std::string>;
 
-/// The application under a macro: everything but the windows.
+/// The application that a macro drives: everything but the windows.
 class Player {
  public:
   Player(const Console& console, FileSystem& files, const std::string& home, MemorySettings& settings)
@@ -31,7 +31,7 @@ class Player {
     window_.Activate({}, StartWindows::None);
   }
 
-  /// One statement. Throws `MacroFault`; what a command throws is told and the macro goes on.
+  /// Runs a statement. Throws `MacroFault`; other exceptions are printed, and the macro continues.
   void play(const Words& words);
   bool hadErrors() const { return transcript_.hadErrors(); }
 
@@ -61,7 +61,7 @@ class Player {
 
 struct Statement {
   std::string_view name;
-  std::size_t words;  ///< the fewest, its own name not counted
+  std::size_t words;  ///< the minimum, without the name
   void (*play)(Player&, const Words&);
 
   static const Statement* find(std::string_view name);
@@ -101,8 +101,8 @@ const Statement* Statement::find(std::string_view name) {
 
 void Player::play(const Words& words) {
   const auto* statement = Statement::find(words.front());
-  if (statement == nullptr) throw MacroFault("unknown word " + words.front());
-  if (words.size() - 1 < statement->words) throw MacroFault(words.front() + " takes more words");
+  if (statement == nullptr) throw MacroFault("unknown statement " + words.front());
+  if (words.size() - 1 < statement->words) throw MacroFault(words.front() + " needs more words");
   if (isClosed_ && words.front() != "print") throw MacroFault("the window is closed");
   try {
     statement->play(*this, words);
@@ -149,29 +149,29 @@ PropertySheet& Player::sheet() {
 }
 
 void Player::edit(const Words& words) {
-  auto& shown = sheet();
+  auto& current = sheet();
   const int row = numberOf(words[1]);
-  if (row < 0 || row >= shown.RowCount()) throw MacroFault("no row " + words[1]);
-  shown.LeaveCell();
-  shown.EnterCell(row, numberOf(words[2]));
-  shown.type(words[3]);
+  if (row < 0 || row >= current.RowCount()) throw MacroFault("no row " + words[1]);
+  current.LeaveCell();
+  current.EnterCell(row, numberOf(words[2]));
+  current.type(words[3]);
 }
 
 void Player::press(const Words& words) {
-  auto& shown = sheet();
-  if (!shown.Editing()) throw MacroFault("no cell is open");
-  auto* button = shown.find(words[1]);
+  auto& current = sheet();
+  if (!current.Editing()) throw MacroFault("no cell is open");
+  auto* button = current.find(words[1]);
   if (button == nullptr || button->kind != ControlKind::Button) throw MacroFault("no button " + words[1]);
-  shown.click(*button);
+  current.click(*button);
 }
 
 void Player::replicate(const Words& words) {
-  auto& shown = sheet();
+  auto& current = sheet();
   const int row = numberOf(words[1]);
-  if (row < 0 || row >= shown.RowCount()) throw MacroFault("no row " + words[1]);
-  shown.LeaveCell();
-  shown.EnterCell(row, column::Normal);
-  shown.click(shown.btnReplicate);
+  if (row < 0 || row >= current.RowCount()) throw MacroFault("no row " + words[1]);
+  current.LeaveCell();
+  current.EnterCell(row, column::Normal);
+  current.click(current.btnReplicate);
 }
 
 void Player::close() {

@@ -14,13 +14,13 @@ void ProgressBar::show(std::size_t done) {
   const auto filled = done * width / total_;
   const auto percent = std::to_string(done * 100 / total_);
   const auto line = "[" + std::string(filled, '#') + std::string(width - filled, '.') + "] " + percent + " %";
-  if (line == shown_) return;  // a terminal is slower than the work
+  if (line == line_) return;  // writing to a terminal is slow
   console_.err() << '\r' << line << std::flush;
-  shown_ = line;
+  line_ = line;
 }
 
 ProgressBar::~ProgressBar() {
-  if (!shown_.empty()) console_.err() << '\r' << std::string(shown_.size(), ' ') << '\r' << std::flush;
+  if (!line_.empty()) console_.err() << '\r' << std::string(line_.size(), ' ') << '\r' << std::flush;
 }
 
 }  // namespace nimbrel

@@ -30,7 +30,7 @@ ExitStatus showCommand(const Console& console, const FileSystem& files, MenuInpu
   try {
     input.load(files);
   } catch (const FileError&) {
-    showTree(console, input.document.tvTreeView);  // what could be read is worth seeing
+    showTree(console, input.document.tvTreeView);  // as far as it was read
     throw;
   }
   showTree(console, input.document.tvTreeView);

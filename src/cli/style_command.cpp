@@ -11,10 +11,10 @@ namespace nimbrel {
 namespace {
 
 constexpr Message noStyle{"", "there is no such style in the gallery"};
-constexpr Message foreignStyle{"", "the style file is of no known version"};
+constexpr Message foreignStyle{"", "the style file has an unknown version"};
 constexpr Message noMenu{"", "the menu file has no main menu"};
-constexpr Message noNode{"", "there is no node of that key"};
-constexpr Message noScope{"", "a style for a submenu goes to a menu or submenu, one for an item to an item"};
+constexpr Message noNode{"", "there is no node with that key"};
+constexpr Message noScope{"", "a submenu style needs a menu or submenu, and an item style an item"};
 
 StyleScope scopeOf(const std::string& word) {
   return word == "menu" ? StyleScope::Menu : word == "submenu" ? StyleScope::Submenu : StyleScope::Item;

@@ -40,7 +40,7 @@ SharedText listText(const ChoiceList& choices, PropertyValue& value) {
   return choices.DisplayTexts[static_cast<std::size_t>(found - stored.begin())];
 }
 
-/// Three digits become six by noughts ahead of them, as do all others that are too few.
+/// Quirk: fewer than six digits are padded with leading zeros, so "#FF0" becomes "#000FF0".
 PropertyValue parseColour(const CellRules& rules, std::string_view text) {
   constexpr std::size_t digitCount = 6;
   text = trimmed(text);
@@ -108,14 +108,14 @@ double Val(std::string_view text) {
   text.remove_prefix(std::min(text.find_first_not_of(" \t\r\n"), text.size()));
   const bool negative = text.starts_with('-');
   if (negative || text.starts_with('+')) text.remove_prefix(1);
-  // from_chars takes words and a second sign too.
+  // from_chars would also accept "inf" and a second sign.
   if (text.empty() || (!isDigit(text.front()) && text.front() != '.')) return 0;
   double value = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
   if (error == std::errc::result_out_of_range) {
-    const std::string_view taken(text.data(), end);
-    const auto exponent = taken.find_first_of("eE");
-    const bool tiny = exponent != std::string_view::npos && taken.substr(exponent + 1).starts_with('-');
+    const std::string_view number(text.data(), end);
+    const auto exponent = number.find_first_of("eE");
+    const bool tiny = exponent != std::string_view::npos && number.substr(exponent + 1).starts_with('-');
     value = tiny ? 0 : std::numeric_limits<double>::max();
   }
   return negative && value != 0 ? -value : value;

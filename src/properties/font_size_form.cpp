@@ -16,7 +16,7 @@ struct CSSUnit {
   std::string_view text;
   std::string_view unit;
 };
-// The first is what an unknown one counts as.
+// An unknown unit counts as the first.
 constexpr std::array<CSSUnit, 5> units{
     {{"points", "pt"}, {"pixels", "px"}, {"centimeters", "cm"}, {"milimeters", "mm"}, {"inches", "in"}}};
 
@@ -25,7 +25,7 @@ constexpr std::string_view standardNumber = "12";
 
 bool isKeyword(std::string_view text) { return std::ranges::find(keywords, text) != keywords.end(); }
 
-/// The unit whose `field` is this text, the first one if there is none.
+/// The unit whose `field` is this text, or else the first.
 const CSSUnit& findUnit(std::string_view CSSUnit::*field, std::string_view text) {
   const auto* found = std::ranges::find(units, text, field);
   return found == units.end() ? units.front() : *found;
@@ -37,7 +37,7 @@ void select(Control& box, std::string_view text) {
   box.text = text;
 }
 
-/// The text as a whole number in decimal, the standard one where it is none of that size.
+/// The text as a whole number, or the default if it is not one or out of range.
 std::string wholeNumber(std::string_view text, std::int32_t least, std::int32_t most) {
   const auto number = parseInteger(text);
   if (!number || *number < least || *number > most) return std::string(standardNumber);

@@ -11,7 +11,7 @@ namespace {
 constexpr std::array<std::string_view, 5> genericFonts{"serif", "sans-serif", "cursive", "fantasy",
                                                        "monospace"};
 
-/// What browsers show and a compile can measure.
+/// Formats that browsers show and a compile can measure.
 constexpr std::string_view FileFilter =
     "Image files (*.gif;*.jpg;*.jpeg;*.png;*.bmp)|*.gif;*.jpg;*.jpeg;*.png;*.bmp";
 
@@ -57,7 +57,7 @@ PropertySheet::PropertySheet(const SheetTable& table, Ports& ports, ProgramState
 }
 
 void PropertySheet::prepareRows() {
-  choices_.reserve(table_.rows.size());  // what is pointed to stays in place
+  choices_.reserve(table_.rows.size());  // rules_ points into it
   for (const PropertyRow* row : table_.rows) {
     const auto& editor = row->editor;
     const ChoiceList& choices = choices_.emplace_back(choiceList(editor.choices));
@@ -94,7 +94,7 @@ PropertySheet::Cell& PropertySheet::cell(int PropertyOrdinal, int col) {
 void PropertySheet::SetProperty(int PropertyOrdinal, int col, PropertyValue Value) {
   auto& one = cell(PropertyOrdinal, col);
   one.value = std::move(Value);
-  one.replaced.reset();
+  one.original.reset();
 }
 
 const PropertyValue& PropertySheet::GetProperty(int PropertyOrdinal, int col) const {
@@ -103,7 +103,7 @@ const PropertyValue& PropertySheet::GetProperty(int PropertyOrdinal, int col) co
 
 const PropertyValue& PropertySheet::ValueToStore(int PropertyOrdinal, int col) const {
   const auto& one = cell(PropertyOrdinal, col);
-  return one.replaced ? *one.replaced : one.value;
+  return one.original ? *one.original : one.value;
 }
 
 void PropertySheet::RefreshPropertyValues() {
@@ -114,8 +114,8 @@ void PropertySheet::RefreshPropertyValues() {
       if (!rules.row->takes(valueColumns[slot])) continue;
       Cell& one = cells_[i][slot];
       const PropertyValue given = one.value;
-      one.shown = FormatCellText(rules, one.value);
-      if (!sameValue(given, one.value)) one.replaced = given;
+      one.text = FormatCellText(rules, one.value);
+      if (!sameValue(given, one.value)) one.original = given;
     }
   }
 }
@@ -151,13 +151,13 @@ void PropertySheet::LeaveCell() {
   const int ordinal = cursorRow_;
   Cell& left = cell(ordinal, cursorColumn_);
   const PropertyValue old = left.value;
-  std::string typed = txtEntry.text;  // a line break would end the value in a menu file
+  std::string typed = txtEntry.text;  // a line end would end the value in a menu file
   std::ranges::replace_if(
       typed, [](char c) { return c == '\r' || c == '\n'; }, ' ');
   left.value = ParseCellText(rowAt(ordinal), typed, old);
-  left.shown = FormatCellText(rowAt(ordinal), left.value);
+  left.text = FormatCellText(rowAt(ordinal), left.value);
   if (sameValue(left.value, old)) return;
-  left.replaced.reset();
+  left.original.reset();
   if (Change) Change(ordinal);
 }
 
@@ -189,7 +189,7 @@ bool PropertySheet::entryIsReadOnly() const { return isListRow() || edits(KindFo
 void PropertySheet::fillList() {
   Control& box = list();
   const auto& texts = openRow().choices->DisplayTexts;
-  // The fonts are the one list that is sorted, once for all.
+  // The fonts are sorted once, by the constructor.
   if (&box == &lstList) box.list.assign(texts.begin(), texts.end());
   box.selected.clear();
   box.text.clear();
@@ -241,12 +241,12 @@ void PropertySheet::txtEntry_Click() {
 
 void PropertySheet::btnCombo_Click() {
   if (!isListRow()) return;
-  list().selected.clear();  // the entry that was chosen last can be chosen again
+  list().selected.clear();  // so that the same entry can be chosen again
   list().text.clear();
   list().visible = !list().visible;
 }
 
-/// A chooser may have outlived the edit: a session that was to end and did not has left the cell meanwhile.
+/// Opens the cell again if it was left while a chooser was open, as when the end of the session was cancelled.
 void PropertySheet::enter(Place open, std::string_view text) {
   EnterCell(open.row, open.column);
   txtEntry.text = text;
@@ -283,7 +283,7 @@ void PropertySheet::btnFontSize_Click() {
   enter(open, state_.tmpFontSize);
 }
 
-/// What is copied is always "Normal", whichever state was open.
+/// Always copies the value of "Normal", whichever state was open.
 void PropertySheet::btnReplicate_Click() {
   const int ordinal = cursorRow_;
   if (!table_.hasStates || row(ordinal).OnlyColumn != 0) return;

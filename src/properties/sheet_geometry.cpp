@@ -5,18 +5,18 @@
 namespace nimbrel {
 namespace {
 
-constexpr int shortestPart = 250;  // of the grid and of the help below it
+constexpr int shortestPart = 250;  // the minimum height of the grid and of the help
 constexpr int shadowInset = 10;
 
 bool hasButton(PropertyKind kind) { return kind != KindText && kind != KindNumber; }
 
-/// kept: turned over, the list goes by the cell's top within the grid, as if the grid began at the sheet's top.
+/// Quirk: a list above its cell is placed as if the grid started at the top of the sheet.
 Box listPlace(const Box& cell, const Box& grid, int sheetHeight, std::size_t entries,
               const SheetMetrics& metrics) {
   constexpr int tallestList = 1600;
   constexpr int spacing = 30;
   const int entryHeight = metrics.textHeight + spacing;
-  constexpr std::size_t manyEntries = tallestList;  // a twip each fills the list
+  constexpr std::size_t manyEntries = tallestList;  // at one twip each they fill the list
   const int height = std::min(entryHeight * static_cast<int>(std::min(entries, manyEntries)), tallestList);
   const int below = grid.top + cell.top + cell.height;
   return {cell.left, below + height > sheetHeight ? cell.top - height : below, cell.width, height};

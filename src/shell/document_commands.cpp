@@ -1,4 +1,4 @@
-// The document's life: new, open, save, and what comes ahead of losing one.
+// New, Open and Save, and the question before changes are lost.
 #include <array>
 
 #include "model/structure.h"
@@ -37,7 +37,7 @@ void frmMain::outdatePreview() {
   if (state.isPreviewWindowLoaded) browser.SetOutdated();
 }
 
-/// kept: support of shared borders stays as the document before had it.
+/// Quirk: the setting for shared borders is taken over from the previous document.
 void frmMain::mnuFileNew() {
   LeaveCells();
   if (!PromptToSave()) return;
@@ -90,8 +90,8 @@ void frmMain::mnuFileOpen() {
   outdatePreview();
 }
 
-/// Loads the file that the state names. One that is no menu file is told of, and leaves an empty document; one
-/// that breaks off leaves what was read, and throws.
+/// Loads the file that `state` names. A file that is no menu file gives a message and an empty document. For a broken
+/// file it throws, and the document is what was read before the error.
 void frmMain::load() {
   select(nullptr);
   isPartlyRead_ = true;
@@ -122,7 +122,7 @@ void frmMain::save(const std::string& path) {
   ownFile_ = path;
 }
 
-/// Whether a file of that name may go; none is there, or the author says so.
+/// Whether the file may be written: it does not exist, or the author agrees to replace it.
 bool frmMain::mayReplace(const std::string& path) const {
   return !ports.files.isFile(path) ||
          ports.asker.MsgBox({.title = "File already exists",
@@ -131,10 +131,10 @@ bool frmMain::mayReplace(const std::string& path) const {
                              .buttons = {BoxButton::Yes, BoxButton::No}}) == BoxButton::Yes;
 }
 
-/// kept: the file may be another than the document came from: one that Save As was not to replace, or the same
-/// name among the samples, which the first Open leads to. It is not replaced unasked.
+/// Quirk: the file that `state` names can differ from the file of the document, after a Save As where the author
+/// declined to replace a file, or after the first Open, which sets the folder of the samples. Then Save asks first.
 void frmMain::mnuFileSave() {
-  // The folder alone is there once the first Open has led to the samples.
+  // After a cancelled first Open there is a folder but no name.
   if (state.FilePath.empty() || state.FileTitle.empty() || isPartlyRead_) {
     mnuFileSaveAs();
     return;
@@ -163,7 +163,7 @@ void frmMain::mnuFileSaveAs() {
   setTitle(state.FileTitle);
 }
 
-/// The file is looked for ahead of the question of saving, unlike in Open. The list keeps its order.
+/// Unlike Open, checks that the file exists before it asks about saving. The list keeps its order.
 void frmMain::mnuFileMRU(std::size_t slot) {
   LeaveCells();
   const auto file = recent_.at(slot);
@@ -179,7 +179,7 @@ void frmMain::mnuFileMRU(std::size_t slot) {
   outdatePreview();
 }
 
-/// An entry that was shown is not hidden again.
+/// Entries once visible stay visible.
 void frmMain::UpdateMRUList(const std::string& path, const std::string& name) {
   const bool isNew = !path.empty() || !name.empty();
   recent_ = isNew ? addRecentFile(ports.settings, {path, name}) : readRecentFiles(ports.settings);

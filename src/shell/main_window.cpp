@@ -71,7 +71,7 @@ const CommandHandler* CommandHandler::find(std::string_view command) {
 
 namespace {
 
-/// The row that holds the element's name.
+/// The row with the name of the element.
 int nameRow(Kind sheet) {
   switch (sheet) {
     case Kind::Menu: return cellOf<MenuObj>(&MenuObj::menuname).row;
@@ -148,7 +148,7 @@ void frmMain::SelectNode(Node* node) {
   EnableCommands(kindOf(node->Key));
 }
 
-/// Shows the one sheet of the node's kind, filled with its element.
+/// Fills the sheet for the kind of the node with its element, and hides the other sheets.
 void frmMain::refill(Node& node) {
   for (auto* sheet : {&prctlMenu, &prctlSubmenu, &prctlItem}) sheet->isOpen = false;
   const auto* element = document.element(node);
@@ -202,8 +202,8 @@ void frmMain::enableApply(Kind kind) {
   }
 }
 
-/// Takes one row of a sheet over into the current element. A sheet whose cell stayed open while its element was
-/// removed has nothing to say to another one.
+/// Stores a row of a sheet in the current element. Ignores a sheet of another kind, whose cell stayed open while its
+/// element was removed.
 void frmMain::sheetChanged(Kind sheet, int ordinal) {
   auto* element = CurrentNode == nullptr ? nullptr : document.element(*CurrentNode);
   if (element == nullptr || kindOf(*element) != sheet) return;

@@ -36,8 +36,8 @@ RecentFiles addRecentFile(SettingsStore& settings, const RecentFile& file) {
 
 namespace {
 
-/// A character outside of the one-byte set is held as a reference, which must not be cut in two.
-std::size_t behindReference(std::string_view path, std::size_t cut) {
+/// Characters outside Windows-1252 are stored as references, which must not be cut in two.
+std::size_t afterReference(std::string_view path, std::size_t cut) {
   const auto begin = path.rfind("&#", cut);
   const auto end = begin == std::string_view::npos ? begin : path.find_first_not_of("0123456789", begin + 2);
   return end != std::string_view::npos && begin < cut && end >= cut && path[end] == ';' ? end + 1 : cut;
@@ -45,13 +45,13 @@ std::size_t behindReference(std::string_view path, std::size_t cut) {
 
 }  // namespace
 
-/// kept: the test counts no backslash and the cut counts it, so that 41 characters of a long path are shown.
+/// Quirk: the length test does not count the backslash, but the cut does, so 41 characters of a long path remain.
 std::string recentFileCaption(int slot, const RecentFile& file) {
   constexpr std::size_t longest = 40;
   const auto path = file.folder + '\\' + file.name;
   const auto number = std::to_string(slot) + ". ";
   if (file.folder.size() + file.name.size() <= longest) return number + path;
-  return number + "..." + path.substr(behindReference(path, path.size() - longest - 1));
+  return number + "..." + path.substr(afterReference(path, path.size() - longest - 1));
 }
 
 }  // namespace nimbrel

@@ -14,7 +14,7 @@ constexpr const char* noTipFile =
     "Create a text file named TIPOFDAY.TXT using NotePad with 1 tip per line. "
     "Then place it in the same directory as the application. ";
 
-/// The lines of a text; what ends a line may be CR, LF or both, and the last one needs no end.
+/// The lines of a text. A line ends with CR, LF or CR LF, or at the end of the text.
 std::vector<std::string> linesOf(std::string_view text) {
   std::vector<std::string> lines;
   while (!text.empty()) {
@@ -49,7 +49,7 @@ bool frmTip::LoadTips(const std::string& path) {
   return true;
 }
 
-/// Nothing stops the same tip from coming again.
+/// The same tip can come twice in a row.
 void frmTip::cmdNextTip_Click() {
   current_ = static_cast<std::size_t>(ports_.random() * static_cast<double>(tips_.size())) + 1;
   DisplayCurrentTip();
@@ -60,7 +60,7 @@ void frmTip::DisplayCurrentTip() {
 }
 
 void frmTip::chkLoadTipsAtStartup_Click() {
-  // kept: the menu command writes the same setting as a word.
+  // Quirk: the menu command writes "True" or "False" to the same setting.
   settings::ShowTips.write(ports_.settings, chkLoadTipsAtStartup.value ? "1" : "0");
   showAtStartup_(chkLoadTipsAtStartup.value);
 }

@@ -1,4 +1,4 @@
-// How the program begins and ends.
+// The start and the end of the program.
 #include <array>
 #include <exception>
 
@@ -15,11 +15,11 @@ namespace {
 struct ClassValue {
   std::string_view key;
   std::string_view value;
-  std::string_view inProgramFolder;  ///< what follows the program's folder; the value is then empty
+  std::string_view inProgramFolder;  ///< if not empty, the value is the program folder with this appended
 };
 
-// kept: the style type's command takes no file, and the document type's stands without quotes, since the whole
-// rest of the command line is taken as the file's name.
+// Quirk: the command for styles has no argument, and that for documents has no quotes, because the program takes its
+// whole command line as the name of the file.
 constexpr auto classValues = std::to_array<ClassValue>({
     {".nbs", "Nimbrel.Style", {}},
     {"Nimbrel.Style", "Nimbrel Menu Style", {}},
@@ -69,7 +69,7 @@ void frmMain::saveGeometry() {
   }
 }
 
-/// The whole of the command line is the name. One that names no file is dropped.
+/// The whole command line is the name. Ignored if there is no such file.
 void frmMain::openCommandLine(std::string_view commandLine) {
   const std::string path(trimmed(commandLine));
   if (path.empty() || !ports.files.isFile(path)) return;
@@ -77,10 +77,10 @@ void frmMain::openCommandLine(std::string_view commandLine) {
   state.FilePath = folderName(path);
   load();
   UpdateMRUList(state.FilePath, state.FileTitle);
-  setTitle(path);  // kept: the document commands show the bare name
+  setTitle(path);  // Quirk: the document commands set the name without the folder
 }
 
-/// The tip comes ahead of the preview, and holds it up until it is closed.
+/// The preview opens after the tip is closed.
 void frmMain::Activate(std::string_view commandLine, StartWindows windows) {
   if (!FirstActivation_) return;
   FirstActivation_ = false;
@@ -108,14 +108,14 @@ void frmMain::Activate(std::string_view commandLine, StartWindows windows) {
     if (showsWindows) {
       CreatePreviewFile();
       browser.Show();
-      browser.RefreshPreview();  // kept: the page is shown already
+      browser.RefreshPreview();  // Quirk: the page is open already
     }
   } else {
     commands.entry("mnuToolsShowPreviewOnStartup").checked = false;
   }
 }
 
-/// kept: a cancelled question undoes none of what came ahead of it.
+/// Quirk: when the author cancels, the closed windows stay closed.
 bool frmMain::QueryClose() {
   LeaveCells();
   browser.isOpen = liveExamples.isOpen = false;
@@ -125,8 +125,7 @@ bool frmMain::QueryClose() {
   try {
     mayClose = PromptToSave();
   } catch (...) {
-    fault =
-        std::current_exception();  // a save that cannot write keeps the window, and is told behind the rest
+    fault = std::current_exception();  // the rest must be done even if the save fails
   }
   state.isPreviewWindowLoaded = false;
   state.isLiveExamplesWindowLoaded = false;

@@ -1,4 +1,4 @@
-// The commands that change the shape of the tree.
+// The commands that change the structure of the tree.
 #include "model/structure.h"
 #include "shell/main_window.h"
 
@@ -19,7 +19,7 @@ bool isSelected(const Node* node, Kind kind) { return node != nullptr && kindOf(
 
 }  // namespace
 
-/// Paste comes within reach even if there is nothing to paste.
+/// Quirk: enables Paste even if there is nothing to paste.
 void frmMain::mnuEditCopy() {
   if (selected == nullptr) return;
   LeaveCells();
@@ -46,7 +46,7 @@ void frmMain::mnuEditCut() {
   commands.enablePaste(true);
 }
 
-/// Commits nothing, and the selection stays. What was pasted ahead of a fault is a change too.
+/// Commits no cell and keeps the selection. A paste that fails halfway is a change too.
 void frmMain::mnuEditPaste() {
   if (selected == nullptr || clipboard.tvCopyTree.empty()) return;
   if (const auto* refusal = refusalOfPaste(clipboard, *selected)) {
@@ -92,7 +92,7 @@ bool frmMain::askToDelete(const Message& message) {
   return ports.asker.MsgBox(box) == BoxButton::Yes;
 }
 
-/// Removes the selected node; the tree then has its neighbour selected.
+/// Removes the selected node and selects its neighbour.
 void frmMain::removeSelected() {
   const auto key = selected->Key;
   select(neighbourOf(*selected));
@@ -110,11 +110,11 @@ void frmMain::mnuItemDeleteItem() {
   SelectNode(selected);
 }
 
-/// Unlike the item's command it leaves no cell and selects nothing anew, so that the commands stay as they are.
+/// Unlike Delete Item, it does not leave the cell or call `SelectNode`, so the states of commands do not change.
 void frmMain::mnuSubmenuDeleteSubmenu() {
   if (!isSelected(selected, Kind::Submenu)) return;
   if (!askToDelete(selected->Child() == nullptr ? deleteSubmenu : deleteSubmenuTree)) return;
-  prctlSubmenu.TakeBack();  // its element goes, and what stands in the cell with it
+  prctlSubmenu.TakeBack();  // its element is removed
   removeSelected();
   RefreshCurrentSheet();
   SetIsDirty();

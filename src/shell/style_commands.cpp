@@ -6,7 +6,7 @@
 
 namespace nimbrel {
 
-/// The commands are set for what was picked; the next selection sets them by itself again.
+/// Enables the commands for the picked style. The next selection sets them again.
 void frmMain::mnuStylePickStyle() {
   const auto* element = selected == nullptr ? nullptr : document.element(*selected);
   if (element == nullptr) return;
@@ -30,13 +30,13 @@ void frmMain::mnuStyleApplyStyle() {
     ports.asker.MsgBox(warning(*refusal));
     return;
   }
-  sheetOf(kindOf(selected->Key)).LeaveCell();  // what stands in it would undo the style
+  sheetOf(kindOf(selected->Key)).LeaveCell();  // otherwise its entry would undo the style later
   ApplyPickedStyle(picking, *element);
   refill(*selected);
   SetIsDirty();
 }
 
-/// kept: success is told also where a step has failed.
+/// Quirk: reports success even if a step has failed.
 void frmMain::mnuStyleSaveStyle() {
   state.StyleName.clear();
   frmSaveStyle form(ports, state);

@@ -29,8 +29,8 @@ void frmMain::CreatePreviewFile() {
 
 void frmMain::mnuToolsPreview() { CreatePreviewFile(); }
 
-/// Asks until the name can be compiled to, and whether a file may be replaced. kept: what was chosen stays in
-/// the document also if the author cancels later, and does not make it dirty.
+/// Asks for a file until its name is valid, and before replacing a file. Quirk: the document keeps the choice even if
+/// the author cancels later, and is not marked as changed.
 std::optional<std::string> frmMain::chooseCompiledFile() {
   auto& settings = document.settings;
   while (true) {

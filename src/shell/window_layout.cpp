@@ -10,8 +10,8 @@ constexpr int barMargin = 500;
 constexpr int gapBeforeSheets = 40;
 constexpr int sheetMargin = 140;
 
-/// As told, also where a narrow window turns the limits round: the second one wins.
-int kept(int x, int formWidth, int margin) {
+/// In a narrow window the right limit has priority.
+int withinMargins(int x, int formWidth, int margin) {
   x = std::max(x, margin);
   return x > formWidth - margin ? formWidth - margin : x;
 }
@@ -19,7 +19,7 @@ int kept(int x, int formWidth, int margin) {
 }  // namespace
 
 WindowLayout SizeControls(const WindowMeasures& window, int x) {
-  x = kept(x, window.formWidth, layoutMargin);
+  x = withinMargins(x, window.formWidth, layoutMargin);
   WindowLayout layout;
   const int labelTop = window.toolbarVisible ? window.toolbarTop + window.toolbarHeight : 0;
   layout.lblMenuTitle = {0, labelTop, x, window.labelHeight};
@@ -35,7 +35,7 @@ WindowLayout SizeControls(const WindowMeasures& window, int x) {
 }
 
 int splitterBarLeft(const WindowMeasures& window, int gripLeft, int pointerX) {
-  return kept(gripLeft + pointerX, window.formWidth, barMargin);
+  return withinMargins(gripLeft + pointerX, window.formWidth, barMargin);
 }
 
 Box splitterBar(const Box& grip) {

@@ -56,14 +56,14 @@ TEST_F(Play, EachMacroPrintsItsTranscript) {
 
 TEST_F(Play, AFaultOfAMacroEndsItAndNamesTheLine) {
   for (const auto& [macro, fault] : std::vector<std::pair<std::string, std::string>>{
-           {"print tree\nwave\n", "line 2: unknown word wave"},
+           {"print tree\nwave\n", "line 2: unknown statement wave"},
            {"select I9\n", "line 1: no node I9"},
            {"run mnuNothing\n", "line 1: no command mnuNothing"},
-           {"edit 0 1\n", "line 1: edit takes more words"},
+           {"edit 0 1\n", "line 1: edit needs more words"},
            {"print \"a\"b\n", "line 1: a word goes on after its closing quote"},
            {"answer Maybe\n", "line 1: no button: Maybe"},
            {"press btnFile\n", "line 1: no cell is open"},
-           {"print \"tree\n", "line 1: a quoted word has no end"},
+           {"print \"tree\n", "line 1: a quoted word has no closing quote"},
            {"form frmAbout cmdOK! lblTitle?\nrun mnuHelpAbout\n",
             "line 2: frmAbout is closed before the step lblTitle?"},
            {"close\nrun mnuFileNew\n", "line 2: the window is closed"},

@@ -8,8 +8,8 @@
 #include "cli/menu_input.h"
 #include "platform/file_system.h"
 
-/// The subcommands of `nbrc`. Each takes the menu file that it works on, not loaded yet. Other paths are the system's own, as they stand in the call. An error of the files is
-/// thrown as `FileError` and reported by the caller.
+/// The subcommands of `nbrc`. Each loads its own menu file. All other paths are host paths, as specified on the
+/// command line. Each throws `FileError` for an error of the file system, which the caller reports.
 namespace nimbrel {
 
 ExitStatus newCommand(const Console& console, FileSystem& files, const std::string& out);
@@ -34,7 +34,7 @@ ExitStatus previewCommand(const Console& console, FileSystem& files, const std::
 
 struct PlayCall {
   std::string macro;     ///< a path, or "-" for standard input
-  std::string settings;  ///< a path, empty for settings that end with the run
+  std::string settings;  ///< a path; empty: start with empty settings and write none
 };
 ExitStatus playCommand(const Console& console, FileSystem& files, const std::optional<std::string>& home,
                        const PlayCall& call);

@@ -16,8 +16,8 @@ enum ExitStatus : int {
   wrongCall = 2,
 };
 
-/// Where a run of `nbrc` prints. What comes from documents is one-byte text in document form, and is printed
-/// as UTF-8 with paths in the system's own form.
+/// The streams of a run of `nbrc`. Prints one-byte text of documents as UTF-8, and paths in document form as host
+/// paths.
 class Console {
  public:
   Console(std::istream& in, std::ostream& out, std::ostream& err, bool errIsTerminal)
@@ -32,11 +32,11 @@ class Console {
   void printText(std::string_view oneByteText) const;
   void printPath(std::string_view documentPath) const;
 
-  /// `nbrc: FILE: what is wrong`, on standard error.
+  /// Prints `nbrc: FILE: reason` on standard error.
   void fault(const Finding& finding) const;
-  /// The same in the words of a message box, on one line.
+  /// The same with the text of a message box, on one line.
   void fault(std::string_view documentPath, const Message& message) const;
-  /// Each as a fault; the status says whether there was one.
+  /// Prints each finding; returns `notAllDone` if there is one.
   ExitStatus faults(const Findings& findings) const;
 
  private:

@@ -10,20 +10,20 @@
 
 namespace nimbrel {
 
-/// What is wrong with a macro, which ends its run.
+/// An error in a macro. It ends the run.
 class MacroFault : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
 };
 
 struct MacroLine {
-  std::size_t number;              ///< from 1
-  std::vector<std::string> words;  ///< one-byte text; at least one
+  std::size_t number;              ///< starts at 1
+  std::vector<std::string> words;  ///< one-byte text; never empty
 };
 
-/// The statements of a macro, which is UTF-8: words parted by blanks, quoted whole where they hold one, with
-/// \" \\ \n \r \t inside the quotes; "#" at the start of a word begins a comment. Throws `MacroFault`, which names
-/// the line.
+/// Parses a macro, which is UTF-8. Words are separated by blanks; a word that contains a blank is quoted, with the
+/// escapes \" \\ \n \r \t inside the quotes; "#" at the start of a word begins a comment. Throws `MacroFault` with the
+/// number of the line.
 std::vector<MacroLine> parseMacro(std::string_view text);
 
 /// The button's name in macros and transcripts.

@@ -8,11 +8,11 @@
 
 namespace nimbrel {
 
-/// A menu file named on the command line. Its folder is made absolute, so that pictures beside it are found.
+/// A menu file named on the command line. Its path is made absolute, because pictures are relative to its folder.
 struct MenuInput {
   explicit MenuInput(const std::string& hostPath);
 
-  /// Throws `FileError`; what was read ahead of it is in `document` all the same.
+  /// Throws `FileError`; `document` then holds what was read before the error.
   void load(const FileSystem& files);
 
   std::string path;  ///< absolute, in document form
@@ -20,8 +20,8 @@ struct MenuInput {
   Findings notes;
 };
 
-/// The menu files of a run. They outlive its commands: a process ends sooner than it could take a large
-/// document apart.
+/// The menu files of a run. They outlive the commands, because the process exits without destroying them, which is
+/// slow for a large document.
 using MenuInputs = std::deque<MenuInput>;
 
 }  // namespace nimbrel

@@ -9,8 +9,8 @@
 
 namespace nimbrel {
 
-/// A whole run of `nbrc` with the words of its call behind the program's name; gives the exit status. The menu
-/// files that it reads go into `menus`.
+/// Runs `nbrc` with the arguments after the program's name. Returns the exit status. `menus` gets the menu files that
+/// it reads.
 int nbrc(const Console& console, FileSystem& files, std::vector<std::string> words, MenuInputs& menus);
 
 }  // namespace nimbrel

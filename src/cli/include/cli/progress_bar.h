@@ -7,8 +7,8 @@
 
 namespace nimbrel {
 
-/// A line on standard error that shows how far long work is; nothing where that is no terminal. The line is
-/// taken away with the object, so that what is printed behind it starts clean.
+/// A progress bar on standard error, if that is a terminal. The destructor erases it, so that later output starts on
+/// an empty line.
 class ProgressBar {
  public:
   ProgressBar(const Console& console, std::size_t total) : console_(console), total_(total) {}
@@ -21,7 +21,7 @@ class ProgressBar {
  private:
   const Console& console_;
   std::size_t total_;
-  std::string shown_;
+  std::string line_;
 };
 
 }  // namespace nimbrel

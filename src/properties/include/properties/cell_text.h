@@ -7,16 +7,16 @@
 
 #include "properties/property_row.h"
 
-/// What a cell says for a value, and what value its entry stands for.
+/// Conversion between the value of a cell and its text.
 namespace nimbrel {
 
-/// The choices of a list row, ready for use.
+/// The entries of a list row.
 struct ChoiceList {
   std::vector<PropertyValue> StoredValues;
   std::vector<SharedText> DisplayTexts;
 };
 
-/// What a row of the table needs at hand for each cell.
+/// A row of the table, prepared for converting its cells.
 struct CellRules {
   const PropertyRow* row;
   PropertyValue BlankValue;
@@ -24,28 +24,28 @@ struct CellRules {
   const ChoiceList* choices;  ///< of a list row
 };
 
-/// Equal as texts, or as numbers of whatever type.
+/// Whether both are the same text, or the same number of any type.
 bool sameValue(const PropertyValue& a, const PropertyValue& b);
 
-/// The text for a value. kept: a list value that the list lacks becomes the last entry, in `value` too; its
-/// element has it until the cell is left with another.
+/// Returns the text for a value. Quirk: a value that its list does not contain becomes the last entry, in `value`
+/// too; the element keeps its own until the cell is left with another.
 SharedText FormatCellText(const CellRules& rules, PropertyValue& value);
 
-/// The value for an entry; what does not fit is quietly replaced, and an entry that a list lacks leaves `old`.
+/// Returns the value for an entered text. Invalid text is corrected silently; for a text that is not in its list
+/// the result is `old`.
 PropertyValue ParseCellText(const CellRules& rules, std::string_view text, const PropertyValue& old);
 
-/// The number at a text's start: blanks are skipped, the first character that does not fit ends it, nothing
-/// is 0.
+/// Parses the number at the start of a text. Leading blanks are skipped; a text that starts with no number is 0.
 double Val(std::string_view text);
 
-/// The small picture in a cell of a colour: that colour, or the mark of none.
+/// The small picture in a colour cell: its colour, or std::nullopt for "no colour".
 struct Rgb {
   std::uint8_t red = 0;
   std::uint8_t green = 0;
   std::uint8_t blue = 0;
 
   bool operator==(const Rgb&) const = default;
-  /// As one number, blue in the high byte and red in the low one.
+  /// 0xBBGGRR.
   constexpr std::uint32_t number() const {
     constexpr unsigned byte = 8;
     return static_cast<std::uint32_t>(blue) << 2 * byte | static_cast<std::uint32_t>(green) << byte | red;
@@ -53,13 +53,14 @@ struct Rgb {
 };
 using Swatch = std::optional<Rgb>;
 
-/// What fills the swatch of no colour, behind a downward diagonal hatch.
+/// The background of the "no colour" swatch, which has a downward diagonal hatch.
 inline constexpr Rgb noColourFill{0xC0, 0xE1, 0xE4};
 
-/// The swatch of a value "#RRGGBB"; what is no digit ends its pair, the blank value has no colour.
+/// The swatch of a value "#RRGGBB". A character that is not a hexadecimal digit ends its pair. The blank value has
+/// no colour.
 Swatch swatchOf(std::string_view value);
 
-/// "#RRGGBB" for a number with blue in the high byte and red in the low one.
+/// "#RRGGBB" for a number 0xBBGGRR.
 std::string colourText(std::uint32_t colour);
 
 }  // namespace nimbrel

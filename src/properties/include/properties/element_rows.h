@@ -13,10 +13,10 @@
 #include "properties/property_row.h"
 #include "properties/property_sheet.h"
 
-/// What the three tables of rows are made of, and the loops over them.
+/// The building blocks of the three tables of rows, and the loops over them.
 namespace nimbrel {
 
-/// A row with the members of the element that it is for, one a slot.
+/// A row with the members of its element, one per slot.
 template <class E>
 struct ElementRow : PropertyRow {
   using Field = std::variant<std::monostate, SharedText E::*, std::uint8_t E::*, float E::*>;
@@ -24,10 +24,10 @@ struct ElementRow : PropertyRow {
 
   /// A heading.
   consteval ElementRow(Text caption) : PropertyRow{caption, {KindGroup}} {}  // NOLINT(google-explicit-*)
-  /// One value, on a sheet that has no more.
+  /// One value, on a sheet with one value column.
   consteval ElementRow(Text caption, Editor e, int topic, Text page, Field field, Text help)
       : PropertyRow{caption, e, topic, page, {help}}, fields{field} {}
-  /// One value, in a single column.
+  /// One value, in one of the three columns.
   consteval ElementRow(Text caption, Editor e, int topic, Text page, int col, Field field, Text help)
       : PropertyRow{caption, e, topic, page, {}, col} {
     fields[slotOf(col)] = field;
@@ -107,7 +107,7 @@ void putValues(std::span<const ElementRow<E>> rows, const E& element, PropertySh
   sheet.RefreshPropertyValues();
 }
 
-/// A text, where a number belongs, is none.
+/// A text in a number property counts as 0.
 inline void assign(std::uint8_t& to, const PropertyValue& value) {
   const auto* number = std::get_if<float>(&value);
   const auto* byte = std::get_if<std::uint8_t>(&value);

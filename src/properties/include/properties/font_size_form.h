@@ -6,10 +6,10 @@
 
 namespace nimbrel {
 
-/// Builds a font size: a keyword of the browser's, or a whole number and a unit.
+/// Edits a font size: a keyword of CSS, or a whole number with a unit.
 class frmFontSize : public Form {
  public:
-  /// `tmpFontSize` is the size that stood there; OK puts the new one there, Cancel leaves it.
+  /// `tmpFontSize` is the size to edit. OK changes it, Cancel does not.
   explicit frmFontSize(std::string& tmpFontSize);
 
   void Form_Activate();

@@ -7,17 +7,16 @@
 
 namespace nimbrel {
 
-/// The viewer of example pages, a browser and nothing else; there is one. Closed, it hides and keeps its place
-/// for the next example, until the main window gives it up at its end.
+/// The window for example pages, which contains only a browser. There is one: when the author closes it, it hides
+/// and keeps its place for the next example.
 class frmLiveExamples : public Form {
  public:
   explicit frmLiveExamples(ProgramState& state) : Form("frmLiveExamples", ""), state_(state) {}
 
-  /// Shows the window with the page of an example; `ExampleFile` is relative to the folder of examples,
-  /// `Caption` the property's.
+  /// Shows an example. `ExampleFile` is relative to the folder of examples, `Caption` is that of the row.
   void ShowExample(std::string_view ExampleFile, std::string_view Caption);
 
-  /// Twips between the browser and the window's edges, on each side.
+  /// Distance between the browser and each edge of the window, in twips.
   static constexpr int margin = 50;
 
   Control brwWebBrowser{*this, "brwWebBrowser", ControlKind::Browser};

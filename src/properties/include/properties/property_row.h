@@ -11,11 +11,11 @@
 
 #include "text/shared_text.h"
 
-/// The rows that the property sheets are made of, as fixed tables: one row a property, its number in the table
-/// being the `PropertyOrdinal`.
+/// The rows of the property sheets as fixed tables, one row per property. The index of a row is its
+/// `PropertyOrdinal`.
 namespace nimbrel {
 
-/// A property's value as its element stores it.
+/// The value of a property, as its element stores it.
 using PropertyValue = std::variant<SharedText, std::uint8_t, float>;
 
 /// How a row is edited.
@@ -38,30 +38,30 @@ struct Choice {
   std::string_view DisplayText;
 };
 
-/// What a row takes and how it shows "not set".
+/// The kind of editor of a row, the values it accepts and how it shows "not set".
 struct Editor {
   PropertyKind Kind;
   std::span<const Choice> choices = {};
-  std::string_view BlankValue = {};  ///< of all but numbers, where it is 0
+  std::string_view BlankValue = {};  ///< for all kinds but numbers, where it is 0
   std::string_view BlankText = {};
   std::int16_t MinValue = 0;
   std::int16_t MaxValue = 0;
 };
 
-/// Columns of a sheet's grid. A sheet of one value a row has `Caption` and `Normal` alone.
+/// Columns of the grid. A sheet with one value per row has only `Caption` and `Normal`.
 namespace column {
 inline constexpr int Caption = 0;
 inline constexpr int Normal = 1;
-inline constexpr int Replicate = 2;  ///< room for the button, never a value
+inline constexpr int Replicate = 2;  ///< for the button; has no values
 inline constexpr int MouseOver = 3;
 inline constexpr int MouseClick = 4;
 }  // namespace column
 
-/// The columns that hold values, the three states of an item. Where a value stands in this order is its slot.
+/// The columns with values, which are the three states of an item. The index of a column here is its slot.
 inline constexpr std::array valueColumns{column::Normal, column::MouseOver, column::MouseClick};
 inline constexpr std::array<std::string_view, valueColumns.size()> stateNames{"Normal", "Mouse Over",
                                                                               "Mouse Click"};
-/// A column without values counts as the first.
+/// Returns 0 for a column without values.
 constexpr std::size_t slotOf(int col) {
   return col == column::MouseOver ? 1 : col == column::MouseClick ? 2 : 0;
 }
@@ -70,17 +70,16 @@ struct PropertyRow {
   std::string_view Caption;
   Editor editor;
   int HelpTopic = 0;
-  std::string_view example =
-      {};  ///< folder and page of the live example bear this name; empty: there is none
+  std::string_view example = {};  ///< name of the folder and page of the live example, or empty
   std::array<std::string_view, valueColumns.size()> HelpText = {};  ///< by slot
-  int OnlyColumn = 0;  ///< the one column that can be used, 0: all
+  int OnlyColumn = 0;  ///< the only column that can be used; 0: all
 
   PropertyKind Kind() const { return editor.Kind; }
-  /// Relative to the folder of examples, empty if there is none.
+  /// Relative to the folder of examples; empty if the row has no example.
   std::string ExampleFile() const;
-  /// A slot of an item without a text of its own says that of "Normal", with its own state's name.
+  /// A slot without its own text uses that of "Normal", with the name of its state.
   std::string helpText(int col) const;
-  /// Whether an author can enter the cell, on a sheet that has the column.
+  /// Whether the cell in this column can be edited, if the sheet has the column.
   bool takes(int col) const {
     return Kind() != KindGroup && (OnlyColumn == 0 || OnlyColumn == valueColumns[slotOf(col)]);
   }

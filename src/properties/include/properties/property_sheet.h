@@ -16,53 +16,54 @@
 
 namespace nimbrel {
 
-/// The table beside the tree in which the properties of one kind of element are edited, a cell at a time. It
-/// holds a copy of the values of the element that is shown and knows no element: what the author commits
-/// raises `Change`. The entry and the buttons float over the cell that is open; they are hidden otherwise.
-/// Shown texts and captions are bare: whoever draws them adds a colour's swatch and an indent.
+/// The table for editing the properties of one kind of element, one cell at a time. It has a copy of the values and
+/// no access to the element: a commit raises `Change`. The entry and the buttons lie over the open cell, and are
+/// hidden while none is open. The view adds the swatches of colours and the indent of captions.
 class PropertySheet : public Form {
  public:
   PropertySheet(const SheetTable& table, Ports& ports, ProgramState& state, frmLiveExamples& viewer);
 
-  /// A row has another value now. Raised with the cell closed.
+  /// Raised after the value of a row has changed and its cell is closed.
   std::function<void(int PropertyOrdinal)> Change;
 
-  /// Values go in and out as they are, unchecked and undrawn, by ordinal and value column (see `column`).
+  /// Set and return values unchecked, by ordinal and value column (see `column`). The texts do not change before
+  /// `RefreshPropertyValues`.
   void SetProperty(int PropertyOrdinal, int col, PropertyValue Value);
   const PropertyValue& GetProperty(int PropertyOrdinal, int col) const;
-  /// The same, but for a list value that the list lacks: the element keeps it until its own cell is committed.
+  /// Like `GetProperty`, but returns a value that its list does not contain as it was set: the element keeps it until
+  /// that cell is committed.
   const PropertyValue& ValueToStore(int PropertyOrdinal, int col) const;
-  /// Makes the texts of all cells anew. A cell that is open stays so, with what was typed.
+  /// Updates the texts of all cells. An open cell stays open and keeps its entry.
   void RefreshPropertyValues();
-  /// How often that was done: whoever draws the sheet goes to its first row then.
+  /// How often the texts were updated. The view scrolls to the first row when this changes.
   std::size_t fillings() const { return fillings_; }
 
   const SheetTable& table() const { return table_; }
   int RowCount() const { return static_cast<int>(cells_.size()); }
   const PropertyRow& row(int PropertyOrdinal) const { return *rowAt(PropertyOrdinal).row; }
-  const SharedText& Shown(int PropertyOrdinal, int col) const { return cell(PropertyOrdinal, col).shown; }
-  /// Of a colour cell, as it is to be painted now.
+  const SharedText& Shown(int PropertyOrdinal, int col) const { return cell(PropertyOrdinal, col).text; }
+  /// The swatch to paint in a colour cell.
   Swatch swatch(int PropertyOrdinal, int col) const;
 
-  /// Opens a cell: a heading's opens the row below, one that cannot be used the one of its row that can. While
-  /// a cell is open, or outside of the table, it does nothing.
+  /// Opens a cell. A heading opens the row below, and an unusable cell the usable one of its row. Does nothing while
+  /// a cell is open, or outside the table.
   void EnterCell(int PropertyOrdinal, int col);
-  /// Commits what stands in the entry and closes the cell; without an open one it does nothing.
+  /// Commits the entry and closes the cell. Does nothing if no cell is open.
   void LeaveCell();
-  /// Closes the cell with the value that it has, whatever stands in the entry.
+  /// Closes the cell and discards the entry.
   void TakeBack();
-  /// Whether a cell is open; `cursorRow` and `cursorColumn` are its place, or that of the last one.
+  /// Whether a cell is open. `cursorRow` and `cursorColumn` are those of the open cell, or of the last one.
   bool Editing() const { return editing_; }
   int cursorRow() const { return cursorRow_; }
   int cursorColumn() const { return cursorColumn_; }
 
-  /// Puts a text into the entry of the open cell; in a list row only one of the list's.
+  /// Sets the entry of the open cell. A list row accepts only the texts of its list.
   void type(std::string_view text);
-  /// Takes an entry of the list that is open in place, and hides it.
+  /// Sets the entry to a text of the open list, and closes the list.
   void chooseFromList(std::string_view text);
-  /// Whether the author can type into the entry; a list's and a font size's are for reading.
+  /// Whether the entry accepts no typing, as in lists and font sizes.
   bool entryIsReadOnly() const;
-  /// Closes lists, and hides the editors of a cell that is out of sight until it comes back; it stays open.
+  /// Closes lists, and hides the editors while the open cell is out of sight. The cell stays open.
   void Grid_Scroll(bool cellInSight);
 
   void txtEntry_Click();
@@ -74,7 +75,7 @@ class PropertySheet : public Form {
   void lblExamplesLink_Click();
   void lblMoreHelpLink_Click();
 
-  /// What F1 opens: the topic of the row entered last, 0 ahead of the first.
+  /// The help topic of the row entered last, or 0 before the first.
   int HelpContextID() const { return helpContextID_; }
 
   Control lblTitle{*this, "lblTitle", ControlKind::Label};
@@ -94,8 +95,8 @@ class PropertySheet : public Form {
  private:
   struct Cell {
     PropertyValue value;
-    SharedText shown;
-    std::optional<PropertyValue> replaced = {};  ///< by the last entry of the list, which is shown for it
+    SharedText text;
+    std::optional<PropertyValue> original = {};  ///< the value that was set, if its list does not contain it
   };
 
   void bind();
@@ -125,7 +126,7 @@ class PropertySheet : public Form {
   frmLiveExamples& viewer_;
 
   ChoiceList fonts_;
-  std::vector<ChoiceList> choices_;  ///< by row, for lists of the row's own
+  std::vector<ChoiceList> choices_;  ///< by row; empty for fonts and for rows without a list
   std::vector<CellRules> rules_;
   std::vector<std::array<Cell, valueColumns.size()>> cells_;
 
@@ -134,7 +135,7 @@ class PropertySheet : public Form {
   int cursorColumn_ = column::Normal;
   int helpContextID_ = 0;
   std::size_t fillings_ = 0;
-  Swatch pickedColour_;  ///< painted already in the open cell, not yet committed
+  Swatch pickedColour_;  ///< chosen for the open cell and painted there, but not yet committed
 };
 
 }  // namespace nimbrel

@@ -7,11 +7,11 @@
 #include "platform/box.h"
 #include "properties/property_row.h"
 
-/// Where the parts of a property sheet stand. All lengths are twips, places are relative to the sheet; cells
-/// are given as the grid gives them, relative to the grid.
+/// The layout of a property sheet. Lengths are twips. Positions are relative to the sheet, but those of cells to the
+/// grid.
 namespace nimbrel {
 
-/// What a screen and its fonts say.
+/// Sizes that depend on the screen and its fonts.
 struct SheetMetrics {
   int pixelWidth = 15;  ///< of a screen's pixel
   int pixelHeight = 15;
@@ -24,40 +24,40 @@ struct SheetMetrics {
   int exampleLinkWidth = 0;    ///< of "Live Example" as text
 
   int CaptionWidth() const { return widestCaption + 8 * pixelWidth; }
-  /// All small buttons are squares.
+  /// The side of the small buttons, which are square.
   int buttonSide() const { return StandardCellHeight + 2 * pixelHeight; }
 };
 
 inline constexpr int splitterHeight = 60;
 inline constexpr int smallestSheet = 500;  ///< in either direction
 
-/// Where the splitter stands at first.
+/// The position of the splitter in a new sheet.
 int initialSplitterTop(int sheetHeight, const SheetMetrics& metrics);
-/// What `HelpPanel` has below the splitter, and keeps when the sheet gets another size.
+/// The height of `HelpPanel`, which stays the same when the sheet is resized.
 int HelpHeight(int sheetHeight, int splitterTop);
-/// Where the splitter goes in a sheet of another height.
+/// The position of the splitter after a resize.
 int splitterTopAfterResize(int sheetHeight, int helpHeight, const SheetMetrics& metrics);
-/// Where the shadow of the splitter is while the pointer is that far from the bar's top.
+/// The position of the shadow while the splitter is dragged; `pointerOffset` is relative to the top of the bar.
 int draggedSplitterTop(int barTop, int pointerOffset, int sheetHeight);
 
 struct SheetLayout {
   Box lblTitle, Grid, imgSplitter, picSplitter, HelpPanel;
-  Box HelpLabel1, HelpLabel2;    ///< in the panel, which cuts the second one off
-  int lblExamplesLinkRight = 0;  ///< right edges, in the panel
+  Box HelpLabel1, HelpLabel2;    ///< relative to the panel, which clips the second
+  int lblExamplesLinkRight = 0;  ///< right edges, relative to the panel
   int lblMoreHelpLinkRight = 0;
 };
 
 SheetLayout LayoutSheet(int width, int height, int splitterTop, const SheetMetrics& metrics);
-/// The shadow bar as it comes up for dragging.
+/// The shadow bar at the start of a drag.
 Box draggingShadow(const Box& imgSplitter);
 
-/// Sets the widths of the columns in order. A width can make the grid's scroll bar come or go, so that
-/// `FindScrollWidth` is asked anew ahead of each one that depends on it.
+/// Sets the widths of the columns in order. A width can show or hide the scroll bar of the grid, so `FindScrollWidth`
+/// is called again for each width that depends on it.
 void layoutColumns(bool hasStates, int gridWidth, const SheetMetrics& metrics,
                    const std::function<int()>& FindScrollWidth,
                    const std::function<void(int column, int width)>& setWidth);
 
-/// The editors over a cell. The button is `buttonSide` square, and there in all kinds but texts and numbers.
+/// The editors over a cell. The button is `buttonSide` square; texts and numbers have none.
 struct EditorPlaces {
   Box entry;
   int buttonLeft = 0;
@@ -65,16 +65,16 @@ struct EditorPlaces {
   Box list;
 };
 
-/// `entries` is the length of a list row's list.
+/// `entries` is the number of entries in the list of a list row.
 EditorPlaces placeEditors(PropertyKind kind, const Box& cell, const Box& grid, int sheetHeight,
                           std::size_t entries, const SheetMetrics& metrics);
-/// Where `btnReplicate` stands over its own column's cell.
+/// The place of `btnReplicate` over the cell of its column.
 Box replicatePlace(const Box& cell, const Box& grid, const SheetMetrics& metrics);
 
-/// Whether an open row can be seen in a grid whose first row below the heading is `topRow`.
+/// Whether a row is in sight in a grid whose first row below the heading is `topRow`.
 bool rowInSight(int row, int topRow, int gridHeight, const SheetMetrics& metrics);
 
-/// The box within the swatch, a square as high as its cell.
+/// The coloured box of a swatch, which is a square with the height of its cell.
 Box swatchBox(int cellHeight);
 
 }  // namespace nimbrel

@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-/// The makers' pages.
+/// Web pages of the makers of the program.
 namespace nimbrel::addresses {
 
 inline constexpr std::string_view home = "https://nimbrel.example/";

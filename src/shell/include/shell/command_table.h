@@ -173,7 +173,7 @@ inline constexpr auto buttons = std::to_array<ToolButton>({
 
 constexpr std::span<const MenuEntry> menuBar() { return tables::bar; }
 constexpr std::span<const ContextMenu> contextMenus() { return tables::popups; }
-/// A button without a key is a gap.
+/// An entry without a key is a gap between buttons.
 constexpr std::span<const ToolButton> toolbar() { return tables::buttons; }
 
 /// Whether the menu bar or a context menu has an entry with this name, separators and menus included.

@@ -19,7 +19,7 @@
 
 namespace nimbrel {
 
-/// Where the main window stands on the screen, twips.
+/// The place of the main window on the screen, in twips.
 struct Geometry {
   float left = 0;
   float top = 0;
@@ -27,36 +27,36 @@ struct Geometry {
   float height = 0;
 };
 
-/// Which windows come with the program's start, if the author has not turned them off.
+/// Whether the windows that open at the start are wanted. The author can still turn them off.
 enum class StartWindows : std::uint8_t { Wanted, None };
 
-/// The main window: the open document, its commands, and the state that all forms share. It draws nothing; who
-/// shows it reads the public fields after each call. A command that cannot be done throws, with the document as
-/// far as it came and what was not saved still marked dirty; whoever called reports it and goes on.
+/// The main window: the open document, its commands, and the state that all forms share. It draws nothing; a view
+/// reads the public fields after each call. A command that fails throws, and leaves unsaved changes marked as such;
+/// the caller reports the error and continues.
 class frmMain {
  public:
-  /// Reads the stored geometry and registers the file types. All that is handed in outlives the window.
+  /// Reads the stored geometry and registers the file types. The ports must outlive the window.
   frmMain(Ports& ports, std::string programFolder);
 
-  /// The window has come to the front. The first time it starts on a new document, opens the file that the
-  /// command line names, and shows what the author wants to see at the start.
+  /// Called when the window is activated. The first time, creates a new document, opens the file that the command line
+  /// names, and opens the windows that the author wants at the start.
   void Activate(std::string_view commandLine = {}, StartWindows windows = StartWindows::Wanted);
 
-  /// The author wants the window closed: false where work is not saved and the author would not let it go.
+  /// Asks about unsaved changes before the window closes. Returns false if it must stay open.
   bool QueryClose();
 
-  /// Runs the command of a menu entry, a context entry or, if it is one, a toolbar key; false for other names.
+  /// Runs the command of a menu entry, a context menu entry or a toolbar key. Returns false for an unknown name.
   bool run(std::string_view name);
-  /// Whether the author can choose an entry of that name at present.
+  /// Whether the author can choose the entry now.
   bool canRun(std::string_view name) const;
 
   void tvTreeView_NodeClick(Node* node);
-  /// `key` is a code of platform/keys.h. The tree has moved its selection already.
+  /// `key` is a code of platform/keys.h. Called after the tree has moved its selection.
   void tvTreeView_KeyUp(int key);
-  /// The context menu that a right click on a node opens; it belongs to the current node.
+  /// The name of the context menu for the current node.
   std::string_view contextMenu() const;
 
-  /// Whether the width was too small and was widened.
+  /// Widens a window that is too narrow. Returns whether it did.
   bool Form_Resize(Geometry& window, bool isMinimised) const;
 
   void SelectNode(Node* node);
@@ -66,7 +66,7 @@ class frmMain {
   void UpdateMRUList(const std::string& path, const std::string& name);
 
   PropertySheet& sheetOf(Kind kind);
-  /// The sheet that is shown, none with an empty tree.
+  /// The visible sheet, or nullptr if the tree is empty.
   PropertySheet* visibleSheet();
 
   Ports& ports;
@@ -77,8 +77,8 @@ class frmMain {
   Geometry geometry;
   bool isMinimised = false;
 
-  Node* selected = nullptr;     ///< the tree's selection
-  Node* CurrentNode = nullptr;  ///< whose element the sheet shows
+  Node* selected = nullptr;     ///< in the tree
+  Node* CurrentNode = nullptr;  ///< the node of the visible sheet
 
   frmLiveExamples liveExamples;
   frmBrowser browser;
@@ -87,7 +87,7 @@ class frmMain {
   PropertySheet prctlItem;
   StylePicking picking;
   Clipboard clipboard;
-  SubmenuCarryOver carryOver;  ///< what older menu files hand from the main menu to the submenus behind it
+  SubmenuCarryOver carryOver;  ///< values that submenus in older menu files inherit from the main menu
 
  private:
   // main_window.cpp
@@ -151,9 +151,9 @@ class frmMain {
 
   friend struct CommandHandler;
   bool FirstActivation_ = true;
-  /// The file that is named as the document's holds more than was read: it is not written over unasked.
+  /// The file of the document was not read whole, so that Save must not replace it without a question.
   bool isPartlyRead_ = false;
-  /// What the document was last read from or saved to. Save asks ahead of replacing any other file.
+  /// The file that the document was last read from or saved to. Save asks before it replaces any other file.
   std::string ownFile_;
   RecentFiles recent_;
 };

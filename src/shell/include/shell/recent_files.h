@@ -8,13 +8,13 @@
 
 namespace nimbrel {
 
-/// The menu files opened or saved last, the newest first. An empty slot has neither folder nor name.
+/// A menu file that was opened or saved. An empty slot has neither folder nor name.
 struct RecentFile {
   std::string folder;
   std::string name;
 
   bool empty() const { return folder.empty() && name.empty(); }
-  /// What can be opened; a file of the current folder has a name alone.
+  /// A file in the current folder has only a name.
   std::string path() const { return folder.empty() ? name : folder + '\\' + name; }
   bool operator==(const RecentFile&) const = default;
 };
@@ -23,10 +23,10 @@ using RecentFiles = std::array<RecentFile, 4>;
 
 RecentFiles readRecentFiles(const SettingsStore& settings);
 
-/// The list with a file at its top, stored. One that is listed already stays where it is.
+/// Puts a file on top of the stored list and returns the list. A file that is in the list keeps its place.
 RecentFiles addRecentFile(SettingsStore& settings, const RecentFile& file);
 
-/// What the File menu says of a slot, counted from 1.
+/// The caption in the File menu. Slots start at 1.
 std::string recentFileCaption(int slot, const RecentFile& file);
 
 }  // namespace nimbrel

@@ -7,16 +7,16 @@
 #include "platform/form.h"
 #include "platform/ports.h"
 
-/// The windows of the shell beside the main one.
+/// The small windows of the shell.
 namespace nimbrel {
 
-/// Shows a tip of the tip file, picked at random.
+/// Shows a random line of the tip file.
 class frmTip : public Form {
  public:
-  /// `showAtStartup` is told when the author changes whether tips come with the program's start.
+  /// `showAtStartup` is called when the author turns tips at the start on or off.
   frmTip(Ports& ports, const std::string& programFolder, std::function<void(bool)> showAtStartup);
 
-  /// Reads the tips, one a line; false if there is no such file.
+  /// Reads the tips, one per line. Returns false if the file cannot be read.
   bool LoadTips(const std::string& path);
   void DisplayCurrentTip();
   void cmdNextTip_Click();
@@ -32,7 +32,7 @@ class frmTip : public Form {
   Ports& ports_;
   std::function<void(bool)> showAtStartup_;
   std::vector<std::string> tips_;
-  std::size_t current_ = 0;  ///< from 1
+  std::size_t current_ = 0;  ///< starts at 1
 };
 
 class frmAbout : public Form {
@@ -41,11 +41,11 @@ class frmAbout : public Form {
 
   Control lblTitle{*this, "lblTitle", ControlKind::Label};
   Control lblVersion{*this, "lblVersion", ControlKind::Label};
-  Control lblAddress{*this, "lblAddress", ControlKind::Label};  ///< a click opens it
+  Control lblAddress{*this, "lblAddress", ControlKind::Label};  ///< a click opens the page
   Control cmdOK{*this, "cmdOK", ControlKind::Button, "OK"};
 };
 
-/// Stands while the program starts. Its picture is 406 by 306 pixels, and the form no larger.
+/// Visible while the program starts. Has the size of its picture, in pixels.
 class frmSplash : public Form {
  public:
   frmSplash() : Form("frmSplash", "") {}

@@ -2,10 +2,10 @@
 
 #include "platform/box.h"
 
-/// Where the parts of the main window go. All lengths are twips, 1/1440 inch, from the inner upper left corner.
+/// The layout of the main window. Lengths are twips (1/1440 inch), relative to the inner upper left corner.
 namespace nimbrel {
 
-/// What the layout of the main window depends on.
+/// The input of the layout.
 struct WindowMeasures {
   int formWidth = 0;
   int innerHeight = 0;
@@ -28,14 +28,14 @@ struct WindowLayout {
 
 inline constexpr int smallestFormWidth = 3000;
 
-/// The layout for a splitter at `x`, which is kept off the edges.
+/// The layout for a splitter at `x`, which is moved away from the edges if necessary.
 WindowLayout SizeControls(const WindowMeasures& window, int x);
 
-/// Where the bar stands that follows the pointer while the splitter is dragged. It goes nearer to the edges than
-/// the layout allows, which snaps back when the pointer is let go.
+/// The position of the bar while the splitter is dragged. The bar can come nearer to the edges than the splitter,
+/// which snaps back when the button is released.
 int splitterBarLeft(const WindowMeasures& window, int gripLeft, int pointerX);
 
-/// The bar at the start of a drag, over the grip.
+/// The bar at the start of a drag. It covers the grip.
 Box splitterBar(const Box& grip);
 
 }  // namespace nimbrel
