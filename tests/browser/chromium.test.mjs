@@ -1,3 +1,3 @@
-import { runAllIn } from './suites.mjs';
+import { runSuites } from './suites.mjs';
 
-runAllIn('Chromium');
+await runSuites('Chromium');

@@ -1,3 +1,4 @@
-import { runAllIn } from './suites.mjs';
+import { wholeMatrix } from './support/suite.mjs';
+import { runSuites } from './suites.mjs';
 
-runAllIn('Firefox');
+await runSuites('Firefox', wholeMatrix ? undefined : ['actions', 'keyboard', 'layout']);

@@ -8,7 +8,7 @@ import { after, before, test } from 'node:test';
 import { eventually, open } from '../browser/support/browsers.mjs';
 import { bin, nbrc } from '../browser/support/menu_file.mjs';
 import { fileUrl, serve } from '../browser/support/site.mjs';
-import { runIn } from '../browser/support/suite.mjs';
+import { runIn, wholeMatrix } from '../browser/support/suite.mjs';
 
 const source = new URL('../..', import.meta.url).pathname;
 const samples = join(bin, 'Examples');
@@ -138,6 +138,4 @@ function productPages(_, browser) {
   });
 }
 
-// The suites of tests/browser run in both browsers. These pages add nothing that depends on the browser, so that one is
-// enough for them except in the whole matrix.
-for (const name of process.env.NIMBREL_MATRIX === 'all' ? ['Chromium', 'Firefox'] : ['Chromium']) runIn(name, [productPages]);
+for (const name of wholeMatrix ? ['Chromium', 'Firefox'] : ['Chromium']) runIn(name, [productPages]);

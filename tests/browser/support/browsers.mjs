@@ -1,10 +1,14 @@
 // The browsers that the tests run in, and a visitor who uses pages in them.
 import assert from 'node:assert/strict';
+import { existsSync } from 'node:fs';
 import puppeteer from 'puppeteer-core';
+
+// Chromium without its user interface, which takes half of the time.
+const shell = '/usr/bin/chromium-headless-shell';
 
 const browsers = {
   Chromium: {
-    executablePath: '/usr/bin/chromium',
+    ...(existsSync(shell) ? { executablePath: shell, headless: 'shell' } : { executablePath: '/usr/bin/chromium' }),
     args: ['--no-sandbox', '--disable-gpu', '--disable-quic', '--no-first-run', '--disable-background-networking',
       '--disable-component-update', '--disable-sync'],
   },

@@ -4,6 +4,10 @@ import { after, before, describe, test } from 'node:test';
 import { launch, open } from './browsers.mjs';
 import { serve, Site } from './site.mjs';
 
+// NIMBREL_MATRIX=all runs everything in both browsers. Otherwise Chromium runs everything, and Firefox, which takes almost
+// three times as long, the suites of what browsers do differently: events, focus and layout.
+export const wholeMatrix = process.env.NIMBREL_MATRIX === 'all';
+
 // Menus whose boxes are easy to predict: fixed, without title and border.
 const plain = { DisplayNameAsTitle: 2, BorderStyle: 'none' };
 const asItem = (item) => (typeof item === 'string' ? { ItemName: item } : item);
