@@ -6,11 +6,10 @@
 #include <QPalette>
 #include <QPushButton>
 #include <QTest>
-#include <QWebEngineView>
+#include <QTreeView>
 #include <filesystem>
 #include <iostream>
 
-#include "desktop/browser_view.h"
 #include "support/desktop_run.h"
 
 namespace nimbrel {
@@ -19,6 +18,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* home = "/home/author";
+constexpr int unfolding = 600;  // milliseconds, more than a submenu takes
 
 class Photographer {
  public:
@@ -34,7 +34,7 @@ class Photographer {
   void takeModal(const char* command, const std::vector<QString>& names) {
     for (const auto& name : names) {
       run_.answer([this, name](QWidget& window) {
-        if (name == "gallery") openSampleMenu(dynamic_cast<FormWindow&>(window));
+        if (name == "gallery") openFirstSubmenu(dynamic_cast<FormWindow&>(window));
         take(window, name);
         QTest::keyClick(&window, Qt::Key_Escape);
       });
@@ -77,21 +77,26 @@ class Photographer {
   }
 
  private:
-  /// Opens the first submenu of the sample, as an author does with the mouse.
-  void openSampleMenu(FormWindow& gallery) {
+  /// Opens the first submenu in the page of a window, as a mouse on its item does.
+  void openFirstSubmenu(FormWindow& window) {
     const QString item =
-        "document.querySelector('[data-nbr-menu]').shadowRoot.querySelector('[aria-haspopup]')";
-    waitFor([&] { return run_.evaluate(gallery, item + " !== null").toBool(); });
-    const auto point = run_.evaluate(gallery, "(() => { const b = " + item +
-                                                  ".getBoundingClientRect();"
-                                                  " return [b.x + b.width / 2, b.y + b.height / 2]; })()")
-                           .toList();
-    auto* page = gallery.findChild<BrowserView*>()->view()->focusProxy();
-    QTest::mouseMove(page, {point.value(0).toInt() + 1, point.value(1).toInt() + 1});
-    QTest::mouseMove(page, {point.value(0).toInt(), point.value(1).toInt()});
+        "document.querySelector('[data-nbr-menu]')?.shadowRoot.querySelector('[aria-haspopup]')";
+    waitFor([&] { return run_.evaluate(window, "Boolean(" + item + ")").toBool(); });
+    for (const QString event : {"pointerover", "pointermove"}) {
+      run_.evaluate(window, item + ".dispatchEvent(new PointerEvent('" + event +
+                                "', {bubbles: true, composed: true, pointerType: 'mouse'}))");
+    }
     waitFor(
-        [&] { return run_.evaluate(gallery, item + ".getAttribute('aria-expanded') === 'true'").toBool(); });
-    QTest::qWait(500);  // until it has unfolded
+        [&] { return run_.evaluate(window, item + ".getAttribute('aria-expanded') === 'true'").toBool(); });
+    QTest::qWait(unfolding);
+  }
+
+  /// The folders above the author's home are those of this machine.
+  static void showFromHome(QWidget& window) {
+    auto* folders = window.findChild<QTreeView*>();
+    auto index = folders->currentIndex();
+    while (index.isValid() && index.data().toString() != "home") index = index.parent();
+    folders->scrollTo(index, QAbstractItemView::PositionAtTop);
   }
 
   void preview() {
@@ -99,7 +104,7 @@ class Photographer {
     run_.run("mnuToolsPreview");
     constexpr QSize size(1000, 640);
     window.resize(size);
-    openSampleMenu(window);
+    openFirstSubmenu(window);
     take(window, "preview");
   }
 
@@ -117,7 +122,8 @@ class Photographer {
       QTest::mouseClick(window.findChild<QPushButton*>("cmdYes"), Qt::LeftButton);
     });
     run_.answer([this](QWidget& window) {
-      QTest::qWait(500);
+      QTest::qWait(500);  // the folders are read in the background
+      showFromHome(window);
       take(window, "linking");
       QTest::keyClick(&window, Qt::Key_Escape);
     });
