@@ -2,7 +2,6 @@
 
 #include <QAbstractButton>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -30,10 +29,11 @@ namespace fs = std::filesystem;
 /// change the stage.
 fs::path programCopy() {
   static const QTemporaryDir folder;
-  const fs::path copy = folder.filePath("program").toStdString();
-  if (!fs::exists(copy)) {
-    fs::copy(NIMBREL_STAGE, copy, fs::copy_options::recursive);
-    for (const auto* program : {"nbrc", "Nimbrel"}) fs::remove(copy / program);
+  const fs::path copy = folder.path().toStdString();
+  if (!fs::is_empty(copy)) return copy;
+  for (const auto& entry : fs::directory_iterator(NIMBREL_STAGE)) {
+    const bool isExecutable = entry.is_regular_file() && !entry.path().has_extension();
+    if (!isExecutable) fs::copy(entry, copy / entry.path().filename(), fs::copy_options::recursive);
   }
   return copy;
 }
@@ -57,13 +57,7 @@ std::unique_ptr<QApplication> offscreenApplication(int& argc, char** argv) {
 }
 
 bool waitFor(const std::function<bool()>& holds, int milliseconds) {
-  QElapsedTimer time;
-  time.start();
-  while (!holds()) {
-    if (time.elapsed() > milliseconds) return false;
-    QTest::qWait(5);
-  }
-  return true;
+  return QTest::qWaitFor(holds, milliseconds);
 }
 
 DesktopRun::DesktopRun(const QString& folder) : folder_(folder.isEmpty() ? temporary_.path() : folder) {
@@ -76,10 +70,8 @@ DesktopRun::DesktopRun(const QString& folder) : folder_(folder.isEmpty() ? tempo
   settings.SaveSetting("Settings", "Show Tips at Startup", "0");
   settings.SaveSetting("Settings", "ShowPreviewOnStartup", "False");
   program_ = std::make_unique<DesktopProgram>(programFolder().toStdString());
-  constexpr int often = 10;
-  poll_.setInterval(often);
   QObject::connect(&poll_, &QTimer::timeout, [this] { answerModalWindow(); });
-  poll_.start();
+  poll_.start(10);
 }
 
 void DesktopRun::start(const QString& commandLine) {
@@ -161,7 +153,7 @@ QVariant DesktopRun::evaluate(FormWindow& window, const QString& script) {
   // The result may come after the wait, or never if the page is left.
   const auto answer = std::make_shared<std::optional<QVariant>>();
   browser->view()->page()->runJavaScript(script, [answer](const QVariant& value) { *answer = value; });
-  constexpr int patience = 400;
+  constexpr int patience = 2000;
   waitFor([&] { return answer->has_value(); }, patience);
   return answer->value_or(QVariant());
 }

@@ -17,7 +17,7 @@ namespace nimbrel {
 std::unique_ptr<QApplication> offscreenApplication(int& argc, char** argv);
 
 /// Processes events until `holds` returns true. Returns false if that takes too long.
-bool waitFor(const std::function<bool()>& holds, int milliseconds = 15'000);
+bool waitFor(const std::function<bool()>& holds, int milliseconds = 60'000);
 
 /// The whole program, in folders of its own and without a screen.
 class DesktopRun {
