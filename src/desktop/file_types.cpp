@@ -81,7 +81,7 @@ QString quoted(QString program) {
   return '"' + program.replace('%', "%%").replace('\\', "\\\\") + '"';
 }
 
-/// Lists only the types whose command takes a file; that of the style type does not.
+/// Lists only the types whose command has a file as argument; that of the style type has none.
 QString FileTypes::desktopEntry() const {
   QStringList opened;
   for (const auto& type : types) {

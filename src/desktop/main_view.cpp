@@ -16,6 +16,7 @@
 #include "desktop/run_action.h"
 #include "desktop/sheet/entry_edit.h"
 #include "desktop/twips.h"
+#include "platform/keys.h"
 
 namespace nimbrel {
 namespace {
@@ -148,9 +149,8 @@ void MainView::showNode(Node* node) {
 }
 
 void MainView::deleteNode() {
-  constexpr int deleteKey = 46;
   endComposing();
-  nimbrel::runAction([this] { main_.tvTreeView_KeyUp(deleteKey); },
+  nimbrel::runAction([this] { main_.tvTreeView_KeyUp(keys::Delete); },
                      {[this] { syncTree(); }, [this] { refresh(); }});
 }
 

@@ -1,5 +1,4 @@
-// What the sanitizers are to pass over: faults within libraries that are none of ours. Asked for by their runtime;
-// in a build without them nobody calls these.
+// Suppresses sanitizer reports about other libraries. Only called by the runtime of the sanitizers.
 
 extern "C" const char* __lsan_default_suppressions() {
   return "leak:libfontconfig\n"
@@ -8,5 +7,5 @@ extern "C" const char* __lsan_default_suppressions() {
          "leak:QtSharedPointer::ExternalRefCountData::getAndRef\n";
 }
 
-/// The browser gives objects back by another size than it took them with.
+/// The browser frees objects with another size than it allocated.
 extern "C" const char* __asan_default_options() { return "new_delete_type_mismatch=0"; }
