@@ -31,8 +31,8 @@ TEST_F(MenuSheet, CorrectsEntriesAndRaisesChangeOnce) {
                           "Main Menu BG Image", "Main Menu BG Image", "Main Menu Name"));
 }
 
-TEST_F(MenuSheet, OpensOneCellAtATimeAndNoneOutside) {
-  enter(&MenuObj::menuname);
+TEST_F(MenuSheet, OpensOneCellAtATimeBelowAHeadingAndNoneOutside) {
+  sheet.EnterCell(cell(&MenuObj::menuname).row - 1, column::Normal);
   enter(&MenuObj::MenuType);
   EXPECT_EQ(sheet.cursorRow(), cell(&MenuObj::menuname).row);
   EXPECT_EQ(sheet.HelpLabel1.text, "Main Menu Name");
