@@ -28,12 +28,12 @@ Termination::Termination() {
     while (::read(pipe_[0], &byte, 1) > 0) continue;
     if (onRequest_) onRequest_();
   });
-  for (const int number : endingSignals) std::signal(number, handleSignal);
+  for (const int number : endingSignals) static_cast<void>(std::signal(number, handleSignal));
 }
 
 Termination::~Termination() {
   if (notifier_ == nullptr) return;
-  for (const int number : endingSignals) std::signal(number, SIG_DFL);
+  for (const int number : endingSignals) static_cast<void>(std::signal(number, SIG_DFL));
   notifier_.reset();
   for (const int end : pipe_) ::close(end);
 }
