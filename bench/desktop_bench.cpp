@@ -10,10 +10,10 @@
 #include <iostream>
 #include <numeric>
 
-#include "support/desktop_run.h"
 #include "desktop/display_text.h"
 #include "large_document.h"
 #include "persistence/menu_file.h"
+#include "support/desktop_run.h"
 
 namespace nimbrel {
 namespace {

@@ -21,8 +21,8 @@
 #include "desktop/browser_view.h"
 #include "desktop/display_text.h"
 #include "desktop/folder_view.h"
-#include "support/desktop_run.h"
 #include "platform/file_error.h"
+#include "support/desktop_run.h"
 
 namespace nimbrel {
 namespace {
