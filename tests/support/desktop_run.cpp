@@ -153,7 +153,7 @@ QVariant DesktopRun::evaluate(FormWindow& window, const QString& script) {
   // The result may come after the wait, or never if the page is left.
   const auto answer = std::make_shared<std::optional<QVariant>>();
   browser->view()->page()->runJavaScript(script, [answer](const QVariant& value) { *answer = value; });
-  constexpr int patience = 2000;
+  constexpr int patience = 400;
   waitFor([&] { return answer->has_value(); }, patience);
   return answer->value_or(QVariant());
 }
