@@ -59,8 +59,8 @@ const CommandHandler* CommandHandler::find(std::string_view command) {
       {"mnuHelpOnlineSupportCenter", [](frmMain& w) { OpenWithShell(w.ports.opener, addresses::support); }},
       {"mnuHelpAbout", [](frmMain& w) { w.mnuHelpAbout(); }},
   });
-  constexpr auto handles = [](std::string_view name) {
-    return std::ranges::find(handlers, name, &CommandHandler::name) != handlers.end();
+  constexpr auto handles = [](std::string_view entry) {
+    return std::ranges::find(handlers, entry, &CommandHandler::name) != handlers.end();
   };
   static_assert(std::ranges::all_of(menuBar(), [handles](const MenuEntry& entry) {
     return entry.level == 0 || entry.caption == "-" || handles(entry.name);
