@@ -31,7 +31,8 @@ class Gallery : public testing::Test {
 };
 
 TEST_F(Gallery, ShowsAStyleInFilesThatItRemovesAgain) {
-  frmGallery form(system.ports, state, carryOver, Kind::Menu, nullptr);
+  StyleScope applied{};
+  frmGallery form(system.ports, state, carryOver, Kind::Menu, [&](auto scope, auto&) { applied = scope; });
   form.Form_Activate();
   EXPECT_THAT(script(), HasSubstr("#123456"));
   EXPECT_FALSE(files.isFile("C:\\p\\gallery\\nbrData\\old.GIF"));
@@ -42,6 +43,10 @@ TEST_F(Gallery, ShowsAStyleInFilesThatItRemovesAgain) {
   EXPECT_TRUE(form.Timer1.value);
   EXPECT_THAT(files.filesIn("C:\\p\\gallery"), testing::ElementsAre("Blue.nbs"));
   EXPECT_TRUE(system.asker.failures.empty());
+
+  form.click(form.Option2);
+  form.click(form.btnApply);
+  EXPECT_EQ(applied, StyleScope::Submenu);
 }
 
 TEST_F(Gallery, DoesNotApplyAStyleThatItCannotReadCompletely) {

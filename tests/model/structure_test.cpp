@@ -65,6 +65,12 @@ TEST_F(Structure, NothingIsAddedWithoutAFreeKeyNumber) {
   EXPECT_EQ(document, before);
 }
 
+TEST_F(Structure, ANewDocumentKeepsTheSettings) {
+  document.settings.CompiledName = "menu.js";
+  BuildDefaultDocument(document);
+  EXPECT_EQ(document.settings.CompiledName, "menu.js");
+}
+
 TEST_F(Structure, RemovingAcceptsAKeyOfARemovedElement) {
   AddSubmenu(document, "I2");
   AddItem(document, "S4");

@@ -59,12 +59,12 @@ TEST_F(HostFiles, AreCopiedButNotOntoThemselves) {
   files_.copy(path("a.gif"), path("b.gif"));
   EXPECT_EQ(folder_.read("b.gif"), "picture");
   fs::create_symlink("a.gif", folder_ / "link.gif");
-  const auto before = fs::last_write_time(folder_ / "a.gif");
+  const fs::file_time_type before{};  // any fixed time
+  fs::last_write_time(folder_ / "a.gif", before);
   files_.copy(path("link.gif"), path("a.gif"));
   EXPECT_EQ(folder_.read("a.gif"), "picture");
   EXPECT_EQ(fs::last_write_time(folder_ / "a.gif"), before);
   EXPECT_THROW(files_.copy(path("missing"), path("b.gif")), FileError);
-  EXPECT_EQ(folder_.read("b.gif"), "picture");
 }
 
 TEST_F(HostFiles, AreInFoldersThatMustBeEmptyToBeRemoved) {

@@ -53,7 +53,7 @@ TEST(ValueReader, SkipsAValueThatIsEqualToAnEarlierOneButNotOneThatOnlyBeginsLik
     EXPECT_TRUE(reader.skip(reader.lastSource()) && reader.next(value)) << text;
     EXPECT_EQ(value, "rest of it");
   }
-  for (const auto* text : {"n,no,rest of it", "123456789,123456780,rest of it", "n,n", "n,n\r\nrest of it",
+  for (const auto* text : {"n,no,rest of it", "123456789,123456789x,rest of it", "n,n", "n,n\r\nrest of it",
                            "n\r\nn\r\nrest of it", "\"a\r\n\"a\r\nrest of it", ""}) {
     ValueReader reader(text);
     std::string_view value;

@@ -26,7 +26,7 @@ TEST(Windows1252, LeavesReferencesInOtherFormsUnchanged) {
 
 TEST(Windows1252, ReadsInvalidUtf8AsBytes) {
   for (const auto* text : {"\xE4",                 // truncated
-                           "\xC0\xAF",             // overlong
+                           "\xE0\x80\xAF",         // overlong
                            "\xED\xA0\x80",         // a surrogate
                            "\xF8\x90\x80\x80",     // not a valid first byte
                            "\xF4\x90\x80\x80"}) {  // after the last code point
