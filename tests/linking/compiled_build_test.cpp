@@ -19,5 +19,10 @@ TEST(CompiledBuild, FollowsTheFirstMarkOfTheFirstValue) {
   for (const auto& [bytes, build] : rows) EXPECT_EQ(compiledBuild(bytes), build) << bytes;
 }
 
+TEST(CompiledBuild, From400OnCanBeLinked) {
+  EXPECT_EQ(refusalOfCompiledMenu("//-#400---"), nullptr);
+  EXPECT_NE(refusalOfCompiledMenu("//-#399---"), nullptr);
+}
+
 }  // namespace
 }  // namespace nimbrel
