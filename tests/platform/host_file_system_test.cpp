@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <sys/stat.h>
 
+#include "platform/memory/memory_file_system.h"
 #include "platform/posix/host_paths.h"
 #include "support/temporary_folder.h"
 
@@ -85,6 +86,12 @@ TEST_F(HostFiles, AreListedInByteOrder) {
   fs::create_directory(folder_ / "folder");
   EXPECT_THAT(files_.filesIn(path(".")), ElementsAre("B", "a", "b", "\xE4"));
   EXPECT_THAT(files_.filesIn(path("missing")), IsEmpty());
+}
+
+TEST(MemoryFiles, AreWrittenOnlyToFoldersThatExist) {
+  MemoryFileSystem files;
+  EXPECT_THROW(files.replace("C:\\site\\menu.js", ""), FileError);
+  EXPECT_TRUE(files.files.empty());
 }
 
 }  // namespace

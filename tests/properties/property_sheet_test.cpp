@@ -14,6 +14,7 @@ struct ItemSheet : testing::Test, TestSheet<ItemObj> {};
 struct MenuSheet : testing::Test, TestSheet<MenuObj> {};
 
 TEST_F(MenuSheet, CorrectsEntriesAndRaisesChangeOnce) {
+  EXPECT_EQ(edit(&MenuObj::HorizontalDistanceFromCorner, "9999"), "2000");
   EXPECT_EQ(edit(&MenuObj::HorizontalDistanceFromCorner, ""), "0");
   EXPECT_EQ(edit(&MenuObj::JavascriptOnOpen, "n"), "");
   EXPECT_EQ(edit(&MenuObj::BGColor, "#"), "#000000");
@@ -26,9 +27,9 @@ TEST_F(MenuSheet, CorrectsEntriesAndRaisesChangeOnce) {
   EXPECT_EQ(value(&MenuObj::BGImage), "n");
   edit(&MenuObj::menuname, "Two\r\nlines");
   EXPECT_EQ(value(&MenuObj::menuname), "Two  lines");  // a line end would end the value in a menu file
-  EXPECT_THAT(changes,
-              ElementsAre("Horizontal Distance from Edge ", "Main Menu BG Color", "Main Menu BG Color",
-                          "Main Menu BG Image", "Main Menu BG Image", "Main Menu Name"));
+  EXPECT_THAT(changes, ElementsAre("Horizontal Distance from Edge ", "Horizontal Distance from Edge ",
+                                   "Main Menu BG Color", "Main Menu BG Color", "Main Menu BG Image",
+                                   "Main Menu BG Image", "Main Menu Name"));
 }
 
 TEST_F(MenuSheet, OpensOneCellAtATimeBelowAHeadingAndNoneOutside) {
