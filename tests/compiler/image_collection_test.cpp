@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "compiler/fixtures.h"
+#include "compiler/style_strings.h"
 #include "platform/memory/memory_file_system.h"
 
 namespace nimbrel {
@@ -57,6 +58,16 @@ TEST_F(ImageCollectionTest, ShowsTheFirstPictureOfANameAndKeepsTheLastGroupsFile
   EXPECT_EQ(files.files["C:\\site\\x.gif"], gif(1, 2));
   EXPECT_EQ(collect("S6"), "nbrImagesColl=['x.gif',3,4];");
   EXPECT_EQ(files.files["C:\\site\\x.gif"], gif(3, 4));
+}
+
+TEST(StyleStrings, ANegativeImageNumberIsNoImage) {
+  ItemObj item;
+  std::string none;
+  std::string negative;
+  ItemStyleString1(item, none);
+  item.BGImage1No = -1;
+  ItemStyleString1(item, negative);
+  EXPECT_EQ(negative, none);
 }
 
 }  // namespace
