@@ -13,7 +13,9 @@ void Console::printText(std::string_view oneByteText) const { out_ << toUtf8(one
 void Console::printPath(std::string_view documentPath) const { out_ << toHostPath(documentPath) << '\n'; }
 
 void Console::fault(const Finding& finding) const {
-  err_ << "nbrc: " << toHostPath(finding.path) << ": " << toUtf8(finding.text()) << '\n';
+  err_ << "nbrc: " << toHostPath(finding.path) << ": ";
+  if (finding.severity == Severity::Warning) err_ << "warning: ";
+  err_ << toUtf8(finding.text()) << '\n';
 }
 
 void Console::fault(std::string_view documentPath, const Message& message) const {
@@ -30,7 +32,9 @@ void Console::fault(std::string_view documentPath, const Message& message) const
 
 ExitStatus Console::faults(const Findings& findings) const {
   for (const auto& finding : findings) fault(finding);
-  return findings.empty() ? done : notAllDone;
+  const bool hasError = std::ranges::any_of(
+      findings, [](const Finding& finding) { return finding.severity == Severity::Error; });
+  return hasError ? notAllDone : done;
 }
 
 }  // namespace nimbrel

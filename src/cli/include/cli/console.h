@@ -32,11 +32,11 @@ class Console {
   void printText(std::string_view oneByteText) const;
   void printPath(std::string_view documentPath) const;
 
-  /// Prints `nbrc: FILE: reason` on standard error.
+  /// Prints `nbrc: FILE: reason` on standard error, or `nbrc: FILE: warning: reason`.
   void fault(const Finding& finding) const;
   /// The same with the text of a message box, on one line.
   void fault(std::string_view documentPath, const Message& message) const;
-  /// Prints each finding; returns `notAllDone` if there is one.
+  /// Prints each finding; returns `notAllDone` if one is an error.
   ExitStatus faults(const Findings& findings) const;
 
  private:

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <exception>
 #include <string>
 #include <vector>
@@ -15,11 +16,15 @@ struct Place {
   bool operator==(const Place&) const = default;
 };
 
+/// A warning is worth knowing, but everything was done as asked.
+enum class Severity : std::uint8_t { Error, Warning };
+
 /// A problem with a file: its path in document form, the place in it, and the reason in words.
 struct Finding {
   std::string path;
   std::string reason;
   Place place = {};
+  Severity severity = Severity::Error;
 
   bool operator==(const Finding&) const = default;
 
