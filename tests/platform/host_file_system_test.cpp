@@ -1,5 +1,7 @@
 #include "platform/posix/host_file_system.h"
 
+#include <chrono>
+#include <future>
 #include <gmock/gmock.h>
 #include <sys/stat.h>
 
@@ -86,6 +88,56 @@ TEST_F(HostFiles, AreListedInByteOrder) {
   fs::create_directory(folder_ / "folder");
   EXPECT_THAT(files_.filesIn(path(".")), ElementsAre("B", "a", "b", "\xE4"));
   EXPECT_THAT(files_.filesIn(path("missing")), IsEmpty());
+}
+
+TEST_F(HostFiles, AreReadInParts) {
+  folder_.write("a", "0123456789");
+  EXPECT_EQ(files_.readPart(path("a"), 0, 3), "012");
+  EXPECT_EQ(files_.readPart(path("a"), 8, 5), "89");
+  EXPECT_EQ(files_.readPart(path("a"), 99, 5), "");
+}
+
+TEST_F(HostFiles, HaveAnotherStatusAfterAChange) {
+  folder_.write("a", "one");
+  ASSERT_EQ(::chmod((folder_ / "a").c_str(), 0644), 0);
+  const auto before = files_.status(path("a"));
+  ASSERT_TRUE(before);
+  EXPECT_EQ(before->size, 3U);
+  EXPECT_FALSE(before->isPrivate);
+  EXPECT_EQ(files_.status(path("a")), before);
+  files_.replace(path("a"), "two");
+  EXPECT_NE(files_.status(path("a")), before);
+  ASSERT_EQ(::chmod((folder_ / "a").c_str(), 0600), 0);
+  EXPECT_TRUE(files_.status(path("a"))->isPrivate);
+  EXPECT_FALSE(files_.status(path("missing")));
+}
+
+TEST_F(HostFiles, AreInsideAFolderOnlyIfNoLinkLeadsOut) {
+  fs::create_directories(folder_ / "site/menu");
+  fs::create_directory(folder_ / "site2");
+  fs::create_directory_symlink(folder_ / "site2", folder_ / "site/out");
+  fs::create_directory_symlink(folder_ / "site/menu", folder_ / "site/in");
+  const auto isInside = [this](const char* name) { return files_.isInside(path(name), path("site")); };
+  for (const auto* name : {"site", "site/menu/new/file.js", "site/in/file.js", "site/menu/../file.js"})
+    EXPECT_TRUE(isInside(name)) << name;
+  for (const auto* name : {"site2/a", "site/../a", "site/out/file.js", "site/out"})
+    EXPECT_FALSE(isInside(name)) << name;
+}
+
+TEST_F(HostFiles, AreLockedWithTheirFolder) {
+  auto mine = files_.lock(path("."));
+  auto other = std::async(std::launch::async, [this] { return files_.lock(path(".")); });
+  EXPECT_EQ(other.wait_for(std::chrono::milliseconds(50)), std::future_status::timeout);
+  mine.reset();
+  EXPECT_NE(other.get(), nullptr);
+  EXPECT_THROW(files_.lock(path("missing")), FileError);
+}
+
+TEST(MemoryFiles, AreInsideAFolderAsOnADisk) {
+  const MemoryFileSystem files;
+  EXPECT_TRUE(files.isInside("C:\\w\\a\\b.js", "C:\\w"));
+  EXPECT_FALSE(files.isInside("C:\\w\\..\\b.js", "C:\\w"));
+  EXPECT_FALSE(files.isInside("C:\\wide", "C:\\w"));
 }
 
 TEST(MemoryFiles, AreWrittenOnlyToFoldersThatExist) {

@@ -3,6 +3,28 @@
 #include "text/paths.h"
 
 namespace nimbrel {
+namespace {
+
+/// Removes "." and "..".
+std::string pathWithoutDots(std::string_view path) {
+  std::vector<std::string_view> parts;
+  while (true) {
+    const auto end = path.find('\\');
+    const auto part = path.substr(0, end);
+    if (part == ".." && !parts.empty()) {
+      parts.pop_back();
+    } else if (part != ".") {
+      parts.push_back(part);
+    }
+    if (end == std::string_view::npos) break;
+    path.remove_prefix(end + 1);
+  }
+  std::string result;
+  for (const auto part : parts) result.append(result.empty() ? "" : "\\").append(part);
+  return result;
+}
+
+}  // namespace
 
 void MemoryFileSystem::failIfAsked(std::string_view path) const {
   if (failsNow && failsNow()) throw FileError(std::string(path), "the disk failed");
@@ -21,6 +43,31 @@ std::string MemoryFileSystem::read(std::string_view path) const {
   const auto found = files.find(path);
   if (found == files.end()) throw FileError(std::string(path), "no such file");
   return found->second;
+}
+
+std::string MemoryFileSystem::readPart(std::string_view path, std::uint64_t offset, std::size_t count) const {
+  const auto found = files.find(path);
+  if (found == files.end()) throw FileError(std::string(path), "no such file");
+  return offset < found->second.size() ? found->second.substr(offset, count) : std::string();
+}
+
+/// There are no times here, so the bytes stand for them.
+std::optional<FileStatus> MemoryFileSystem::status(std::string_view path) const {
+  const auto found = files.find(path);
+  if (found == files.end()) return std::nullopt;
+  const auto hash = std::hash<std::string>()(found->second);
+  return FileStatus{.size = found->second.size(), .modified = static_cast<std::int64_t>(hash)};
+}
+
+bool MemoryFileSystem::isInside(std::string_view path, std::string_view folder) const {
+  const auto inside = pathWithoutDots(folder);
+  const auto full = pathWithoutDots(path);
+  return full == inside || full.starts_with(inside + '\\');
+}
+
+std::unique_ptr<FolderLock> MemoryFileSystem::lock(std::string_view folder) {
+  if (!isFolder(folder)) throw FileError(std::string(folder), "no such folder");
+  return std::make_unique<FolderLock>();
 }
 
 void MemoryFileSystem::replace(std::string_view path, std::string_view bytes) {

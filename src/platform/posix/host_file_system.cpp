@@ -6,6 +6,7 @@
 #include <fcntl.h>
 #include <filesystem>
 #include <set>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -18,6 +19,49 @@ namespace nimbrel {
 namespace {
 
 namespace fs = std::filesystem;
+
+/// Fills `status` with that of the file. Throws if it is not a regular file.
+Handle openToRead(std::string_view path, struct stat& status) {
+  requireUsable(path);
+  // O_NONBLOCK: opening a FIFO with no writer would block before fstat() can reject it.
+  Handle file(::open(toHostPath(path).c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+  if (!file.isOpen()) throwSystemError(path);
+  if (::fstat(file.get(), &status) != 0) throwSystemError(path);
+  if (S_ISDIR(status.st_mode)) throwSystemError(path, EISDIR);
+  if (!S_ISREG(status.st_mode)) throw FileError(std::string(path), "is not a regular file");
+  return file;
+}
+
+/// Returns fewer than `count` bytes if the file has become shorter.
+std::string readFrom(const Handle& file, std::string_view path, off_t offset, std::size_t count) {
+  std::string bytes(count, '\0');
+  std::size_t size = 0;
+  while (size < bytes.size()) {
+    const auto place = offset + static_cast<off_t>(size);
+    const auto got = ::pread(file.get(), bytes.data() + size, bytes.size() - size, place);
+    if (got < 0 && errno == EINTR) continue;
+    if (got < 0) throwSystemError(path);
+    if (got == 0) break;
+    size += static_cast<std::size_t>(got);
+  }
+  bytes.resize(size);
+  return bytes;
+}
+
+/// A lock on the folder itself, so that it needs no file. The system releases it with the process at the latest.
+class HostFolderLock : public FolderLock {
+ public:
+  explicit HostFolderLock(std::string_view folder)
+      : folder_(::open(toHostPath(folder).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
+    if (!folder_.isOpen()) throwSystemError(folder);
+    while (::flock(folder_.get(), LOCK_EX) != 0) {
+      if (errno != EINTR) throwSystemError(folder);
+    }
+  }
+
+ private:
+  Handle folder_;
+};
 
 }  // namespace
 
@@ -32,27 +76,44 @@ bool HostFileSystem::isFolder(std::string_view path) const {
 }
 
 std::string HostFileSystem::read(std::string_view path) const {
-  requireUsable(path);
-  // O_NONBLOCK: opening a FIFO with no writer would block before fstat() can reject it.
-  const Handle file(::open(toHostPath(path).c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
-  if (!file.isOpen()) throwSystemError(path);
   struct stat status {};
-  if (::fstat(file.get(), &status) != 0) throwSystemError(path);
-  if (S_ISDIR(status.st_mode)) throwSystemError(path, EISDIR);
-  if (!S_ISREG(status.st_mode)) throw FileError(std::string(path), "is not a regular file");
+  const auto file = openToRead(path, status);
   if (std::cmp_greater(status.st_size, largestFile)) throwSystemError(path, EFBIG);
+  return readFrom(file, path, 0, static_cast<std::size_t>(status.st_size));
+}
 
-  std::string bytes(static_cast<std::size_t>(status.st_size), '\0');
-  std::size_t size = 0;
-  while (size < bytes.size()) {
-    const auto got = ::read(file.get(), bytes.data() + size, bytes.size() - size);
-    if (got < 0 && errno == EINTR) continue;
-    if (got < 0) throwSystemError(path);
-    if (got == 0) break;
-    size += static_cast<std::size_t>(got);
-  }
-  bytes.resize(size);
-  return bytes;
+std::string HostFileSystem::readPart(std::string_view path, std::uint64_t offset, std::size_t count) const {
+  struct stat status {};
+  const auto file = openToRead(path, status);
+  const auto size = static_cast<std::uint64_t>(status.st_size);
+  if (offset >= size) return {};
+  return readFrom(file, path, static_cast<off_t>(offset), std::min<std::uint64_t>(count, size - offset));
+}
+
+std::optional<FileStatus> HostFileSystem::status(std::string_view path) const {
+  struct stat status {};
+  if (path.find('\0') != std::string_view::npos || ::stat(toHostPath(path).c_str(), &status) != 0) return {};
+  if (!S_ISREG(status.st_mode)) return {};
+  constexpr std::int64_t second = 1'000'000'000;
+  return FileStatus{.device = status.st_dev,
+                    .inode = status.st_ino,
+                    .size = static_cast<std::uint64_t>(status.st_size),
+                    .modified = status.st_mtim.tv_sec * second + status.st_mtim.tv_nsec,
+                    .isPrivate = (status.st_mode & S_IROTH) == 0};
+}
+
+bool HostFileSystem::isInside(std::string_view path, std::string_view folder) const {
+  std::error_code error;
+  const auto inner = fs::weakly_canonical(fs::absolute(toHostPath(path)), error);
+  if (error) return false;
+  const auto outer = fs::weakly_canonical(fs::absolute(toHostPath(folder)), error);
+  if (error) return false;
+  return std::ranges::mismatch(inner, outer).in2 == outer.end();
+}
+
+std::unique_ptr<FolderLock> HostFileSystem::lock(std::string_view folder) {
+  requireUsable(folder);
+  return std::make_unique<HostFolderLock>(folder);
 }
 
 void HostFileSystem::replace(std::string_view path, std::string_view bytes) {

@@ -1,5 +1,9 @@
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -15,6 +19,23 @@ struct NewFile {
   std::string bytes;
 };
 
+/// What a file is at one moment. Two equal values mean that the file has not changed in between.
+struct FileStatus {
+  std::uint64_t device = 0;
+  std::uint64_t inode = 0;
+  std::uint64_t size = 0;     ///< bytes
+  std::int64_t modified = 0;  ///< nanoseconds since 1970
+  bool isPrivate = false;     ///< users other than the owner and the group may not read it
+
+  bool operator==(const FileStatus&) const = default;
+};
+
+/// A lock, held until it is destroyed.
+class FolderLock {
+ public:
+  virtual ~FolderLock() = default;
+};
+
 /// The file system. Paths are in document form, with backslashes. A call that fails throws `FileError` with
 /// the path and changes nothing.
 class FileSystem {
@@ -27,6 +48,20 @@ class FileSystem {
 
   /// Returns the bytes of a regular file. Fails if it has more than `largestFile`.
   virtual std::string read(std::string_view path) const = 0;
+
+  /// Returns up to `count` bytes of a regular file from `offset` on; fewer at its end.
+  virtual std::string readPart(std::string_view path, std::uint64_t offset, std::size_t count) const = 0;
+
+  /// Returns nullopt if the path is not a regular file or a link to one.
+  virtual std::optional<FileStatus> status(std::string_view path) const = 0;
+
+  /// Whether the path leads to the folder or below it when all links are followed. The last parts of the path
+  /// need not exist.
+  virtual bool isInside(std::string_view path, std::string_view folder) const = 0;
+
+  /// Locks an existing folder against other programs that lock it, and waits for them if need be. Reading and
+  /// writing need no lock.
+  virtual std::unique_ptr<FolderLock> lock(std::string_view folder) = 0;
 
   /// Creates the file or replaces it atomically: after a crash or power failure it has either its old bytes
   /// or all of the new ones. Keeps the mode of an old file and follows links. Fails if the file is read-only.
