@@ -24,7 +24,7 @@ void report(benchmark::State& state, std::size_t bytes) {
 Document documentOf(const benchmark::State& state) {
   Document document;
   SubmenuCarryOver carryOver;
-  Findings notes;
+  ReadNotes notes;
   readMenuFile(menuFileText(largeDocument(static_cast<int>(state.range(0)))), "", "", carryOver, document,
                notes);
   return document;
@@ -46,7 +46,7 @@ void load(benchmark::State& state) {
   for (auto _ : state) {
     Document document;
     SubmenuCarryOver carryOver;
-    Findings notes;
+    ReadNotes notes;
     readMenuFile(text, "large.nbr", "", carryOver, document, notes);
     benchmark::DoNotOptimize(document);
   }

@@ -16,7 +16,7 @@ struct Reading {
 Reading read(const std::string& bytes) {
   Reading reading;
   SubmenuCarryOver carryOver;
-  Findings notes;
+  ReadNotes notes;
   try {
     readMenuFile(bytes, "C:\\menus\\menu.nbr", "C:\\menus", carryOver, reading.document, notes);
   } catch (const FileError& error) {

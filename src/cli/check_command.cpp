@@ -11,7 +11,7 @@ ExitStatus checkCommand(const Console& console, const FileSystem& files, MenuInp
   } catch (const FileError& error) {
     findings.push_back(error.finding());
   }
-  const auto readingStatus = console.faults(input.notes);
+  const auto readingStatus = console.faults(input.notes.findings);
   const auto documentStatus = console.faults(findings);
   return readingStatus == done ? documentStatus : readingStatus;
 }

@@ -19,7 +19,7 @@ std::string compiledFolder(const std::filesystem::path& to) {
 
 ExitStatus compileCommand(const Console& console, FileSystem& files, const std::optional<std::string>& home,
                           MenuInput& input, const std::string& to) {
-  input.load(files);
+  input.loadWarning(files, console);
   auto& settings = input.document.settings;
   settings.CompiledPath = compiledFolder(to);
   settings.CompiledName = fromHostPath(std::filesystem::path(to).filename().string());

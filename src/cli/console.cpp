@@ -37,4 +37,11 @@ ExitStatus Console::faults(const Findings& findings) const {
   return hasError ? notAllDone : done;
 }
 
+void Console::warnings(Findings findings) const {
+  for (auto& finding : findings) {
+    finding.severity = Severity::Warning;
+    fault(finding);
+  }
+}
+
 }  // namespace nimbrel

@@ -6,13 +6,14 @@ namespace nimbrel {
 ExitStatus convertCommand(const Console& console, FileSystem& files, MenuInput& input,
                           const std::string& out) {
   input.load(files);
-  console.faults(input.notes);
-  SaveMenuFile(files, fromHostPath(out), input.document);
-
-  const Node* root = input.document.tvTreeView.root();
-  if (root == nullptr || root->Next() == nullptr) return done;
-  console.fault({input.path, "has more than one root; only the first was written"});
-  return notAllDone;
+  const auto target = fromHostPath(absoluteHostPath(out));
+  const auto status = console.faults(input.losses());
+  if (input.wouldLoseIn(files, target)) {
+    console.fault({target, "was not written, because this would be lost"});
+  } else {
+    SaveMenuFile(files, target, input.document);
+  }
+  return status;
 }
 
 }  // namespace nimbrel

@@ -8,7 +8,7 @@ namespace nimbrel {
 
 ExitStatus previewCommand(const Console& console, FileSystem& files, const std::optional<std::string>& home,
                           MenuInput& input) {
-  input.load(files);
+  input.loadWarning(files, console);
   if (const auto* refusal = refusalOfCompile(input.document)) {
     console.fault(input.path, *refusal);
     return notAllDone;

@@ -23,12 +23,12 @@ void showTree(const Console& console, const Tree& tree) {
 
 ExitStatus showCommand(const Console& console, const FileSystem& files, MenuInput& input, bool asJson) {
   if (asJson) {
-    input.load(files);
+    input.loadWarning(files, console);
     printDocument(console.out(), input.document);
     return done;
   }
   try {
-    input.load(files);
+    input.loadWarning(files, console);
   } catch (const FileError&) {
     showTree(console, input.document.tvTreeView);  // as far as it was read
     throw;

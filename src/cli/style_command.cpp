@@ -12,6 +12,7 @@ namespace {
 
 constexpr Message noStyle{"", "there is no such style in the gallery"};
 constexpr Message foreignStyle{"", "the style file has an unknown version"};
+constexpr Message wouldLose{"", "was not written, because this would be lost"};
 constexpr Message noMenu{"", "the menu file has no main menu"};
 constexpr Message noNode{"", "there is no node with that key"};
 constexpr Message noScope{"", "a submenu style needs a menu or submenu, and an item style an item"};
@@ -45,7 +46,7 @@ ExitStatus styleCreateCommand(const Console& console, FileSystem& files,
   if (const auto* refusal = refusalOfStyleName(fromUtf8(name)))
     return refuse(console, fromHostPath(name), *refusal);
   if (trimmed(style).empty()) return refuse(console, "", {"", "a style needs a name"});
-  input.load(files);
+  input.loadWarning(files, console);
   const Node* root = input.document.tvTreeView.root();
   const auto* menu = root == nullptr ? nullptr : input.document.get<MenuObj>(*root);
   if (menu == nullptr) return refuse(console, input.path, noMenu);
@@ -59,7 +60,7 @@ ExitStatus styleCreateCommand(const Console& console, FileSystem& files,
 ExitStatus styleApplyCommand(const Console& console, FileSystem& files,
                              const std::optional<std::string>& home, MenuInput& input,
                              const StyleCall& call) {
-  input.load(files);
+  input.loadWarning(files, console);
   const auto folder = fromHostPath(programFolder(home));
   const auto path = styleFilePath(folder, nameFromHost(call.name));
   if (!files.isFile(path)) return refuse(console, path, noStyle);
@@ -73,8 +74,10 @@ ExitStatus styleApplyCommand(const Console& console, FileSystem& files,
   if (node == nullptr) return refuse(console, input.path, noNode);
   const auto scope = scopeOf(call.scope);
   if (!fits(scope, *node)) return refuse(console, input.path, noScope);
+  const auto target = fromHostPath(absoluteHostPath(call.out));
+  if (input.wouldLoseIn(files, target)) return refuse(console, target, wouldLose);
   ApplyStyle(input.document, *node, scope, style);
-  SaveMenuFile(files, fromHostPath(absoluteHostPath(call.out)), input.document);
+  SaveMenuFile(files, target, input.document);
   return done;
 }
 

@@ -102,7 +102,7 @@ bool ReadStyleFile(const FileSystem& files, const std::string& programFolder, st
   style = {};
   const auto path = styleFilePath(programFolder, name);
   const auto bytes = files.read(path);
-  Findings notes;
+  ReadNotes notes;
   FileHandle file(path, bytes, notes);
   const auto* format = file.atEnd() ? nullptr : formatOfStyleFile(file.next());
   if (format == nullptr) return false;

@@ -19,7 +19,12 @@ const SharedText& FileHandle::shared(std::string_view text) {
 
 void FileHandle::fail(const std::string& reason) const { throw FileError(finding(reason)); }
 
-void FileHandle::note(const std::string& reason) { notes_.push_back(finding(reason)); }
+void FileHandle::note(const std::string& reason) { notes_.findings.push_back(finding(reason)); }
+
+void FileHandle::noteUnknown(std::size_t values, const std::string& why) {
+  notes_.unknownValues += values;
+  note(std::to_string(values) + (values == 1 ? " unknown value: " : " unknown values: ") + why);
+}
 
 std::string quoted(std::string_view value) {
   constexpr std::size_t longest = 40;

@@ -34,8 +34,10 @@ void readHeader(FileHandle& file, const FileFormat& format, CompileSettings& set
     if (setting.since > format.version) continue;
     std::visit([&](auto field) { convert(file, setting.name, file.next(), settings.*field); }, setting.field);
   }
-  // A later version's header may have more lines.
-  while (format.hasEndMarks && file.next() != treeMark) continue;
+  if (!format.hasEndMarks) return;
+  std::size_t unknown = 0;
+  while (file.next() != treeMark) ++unknown;
+  if (unknown > 0) file.noteUnknown(unknown, "the header is from a later version");
 }
 
 /// Reads the node records of one file.
@@ -113,7 +115,7 @@ NotAMenuFile::NotAMenuFile(std::string path)
     : FileError(std::move(path), "This file is not a valid " + std::string(productTitle) + " file") {}
 
 void readMenuFile(std::string_view bytes, const std::string& path, std::string_view folder,
-                  SubmenuCarryOver& carryOver, Document& document, Findings& notes) {
+                  SubmenuCarryOver& carryOver, Document& document, ReadNotes& notes) {
   document.clear();
   FileHandle file(path, bytes, notes);
   const auto magic = file.atEnd() ? std::string_view{} : file.next();
@@ -135,7 +137,7 @@ void readMenuFile(std::string_view bytes, const std::string& path, std::string_v
 }
 
 void LoadMenuFile(const FileSystem& files, std::string_view folder, std::string_view fileName,
-                  SubmenuCarryOver& carryOver, Document& document, Findings& notes) {
+                  SubmenuCarryOver& carryOver, Document& document, ReadNotes& notes) {
   document.clear();
   const auto path = joinPath(folder, fileName);
   const auto bytes = files.read(path);

@@ -9,9 +9,10 @@ void skipToMarker(FileHandle& file, std::string_view marker) {
   std::size_t dropped = 0;
   while (file.next() != marker) ++dropped;
   if (dropped == 0) return;
-  file.note(std::to_string(dropped) +
-            " unknown values: the file is from a later version, or a comma in a font, font size, colour or "
-            "border style has shifted the later values");
+  file.noteUnknown(
+      dropped,
+      "the file is from a later version, or a comma in a font, font size, colour or border style has "
+      "shifted the later values");
 }
 
 }  // namespace

@@ -78,8 +78,36 @@ TEST_F(DocumentCommands, ConvertWritesTheCurrentVersionInPlace) {
   write("two.nbr",
         bytes + " 0 \r\n!Second!\r\nM9\r\n" + bytes.substr(menu, bytes.find("]\r", menu) + 1 - menu));
   EXPECT_EQ(run({"convert", "two.nbr", "one.nbr"}),
-            (Outcome{1, "", fault("two.nbr", "has more than one root; only the first was written")}));
+            (Outcome{1, "", fault("two.nbr", "has more than one root; only the first is written")}));
   EXPECT_EQ(read("one.nbr"), bytes);
+  const auto two = read("two.nbr");
+  EXPECT_THAT(run({"convert", "two.nbr", "./two.nbr"}).err, HasSubstr("two.nbr: was not written, because"));
+  EXPECT_EQ(read("two.nbr"), two);
+}
+
+TEST_F(DocumentCommands, ValuesOfALaterVersionAreToldAndNotLostInPlace) {
+  save("m.nbr", nestedDocument());
+  const auto bytes = read("m.nbr");
+  auto later = bytes;
+  later.insert(later.find("[Menu Tree]"), "narrow=640\r\n");
+  later.insert(later.find("[nbrEI]"), "later,");
+  write("later.nbr", later);
+  std::filesystem::create_symlink("later.nbr", here / "link.nbr");
+
+  const auto header = fault("later.nbr", "line 11: 1 unknown value: the header is from a later version");
+  for (const auto* same : {"later.nbr", "link.nbr"}) {
+    const auto refused = run({"convert", "later.nbr", same});
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_TRUE(refused.err.starts_with(header)) << refused.err;
+    EXPECT_EQ(read("later.nbr"), later);
+  }
+  EXPECT_EQ(run({"convert", "later.nbr", "now.nbr"}).status, 1);
+  EXPECT_EQ(read("now.nbr"), bytes);
+  EXPECT_EQ(run({"check", "later.nbr"}).status, 1);
+
+  const auto shown = run({"show", "later.nbr"});
+  EXPECT_EQ(shown.status, 0);
+  EXPECT_THAT(shown.err, HasSubstr("later.nbr: warning: line 11: 1 unknown value"));
 }
 
 TEST_F(DocumentCommands, CheckReportsEveryProblem) {

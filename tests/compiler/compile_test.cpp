@@ -131,7 +131,8 @@ TEST(CompileGolden, Scripts) {
     Document document;
     SubmenuCarryOver carryOver;
     StepReport report;
-    LoadMenuFile(files, "C:\\menus", "menu.nbr", carryOver, document, report.findings);
+    ReadNotes notes;
+    LoadMenuFile(files, "C:\\menus", "menu.nbr", carryOver, document, notes);
     const auto path = document.settings.CompiledPath;
     files.folders = {path};
     CompileMenu(files, "C:\\program", document, report);

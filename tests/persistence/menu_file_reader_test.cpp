@@ -29,10 +29,10 @@ TEST(MenuFileReader, ReadsEveryFormAndNotesOddities) {
     for (const auto& path : folder) {
       SCOPED_TRACE(path.filename());
       Document document;
-      Findings notes;
+      ReadNotes notes;
       std::string texts;
       readBytes(bytesOf(path / "read.nbr"), document, notes);
-      for (const Finding& note : notes) texts += note.text() + "\n";
+      for (const Finding& note : notes.findings) texts += note.text() + "\n";
       EXPECT_EQ(menuFileText(document), bytesOf(path / "written.nbr"));
       EXPECT_EQ(texts, bytesOf(path / "notes.txt"));
     }
@@ -47,9 +47,9 @@ TEST(MenuFileReader, NotesAnOddValueEachTime) {
   for (std::size_t at = 0; (at = bytes.find("!Item", at)) != std::string::npos; ++at) {
     if (bytes.substr(at + 6, 2) == "!,") bytes.replace(at, 7, "?Item!");
   }
-  Findings notes;
+  ReadNotes notes;
   readBytes(bytes, document, notes);
-  EXPECT_EQ(notes.size(), 9U) << "three names of three items";
+  EXPECT_EQ(notes.findings.size(), 9U) << "three names of three items";
 }
 
 // Next to each file is the expected message, followed by the keys of the nodes read before the error.
@@ -59,7 +59,7 @@ TEST(MenuFileReader, StopsAtErrorsAndKeepsTheNodesReadSoFar) {
   for (auto path : cases) {
     SCOPED_TRACE(path.filename());
     Document document = generatedDocument(1, 5);
-    Findings notes;
+    ReadNotes notes;
     std::string message = "none";
     try {
       readBytes(bytesOf(path), document, notes);
@@ -76,7 +76,7 @@ TEST(MenuFileReader, ReadsAFileThatIsTruncatedAnywhere) {
   const auto bytes = bytesOf(goldenMenuFiles / "worked-example.nbr");
   for (std::size_t size = 0; size < bytes.size(); ++size) {
     Document document;
-    Findings notes;
+    ReadNotes notes;
     try {
       readBytes(std::string_view(bytes).substr(0, size), document, notes);
     } catch (const FileError&) {

@@ -26,10 +26,10 @@ TEST(MenuFile, IsReadBackEqual) {
   for (unsigned seed = 0; seed < 40; ++seed) {
     const auto document = generatedDocument(seed, 1 + static_cast<int>(seed));
     Document back;
-    Findings notes;
+    ReadNotes notes;
     readBytes(menuFileText(document), back, notes);
     EXPECT_EQ(back, document) << "seed " << seed;
-    EXPECT_TRUE(notes.empty()) << notes[0].text();
+    EXPECT_TRUE(notes.findings.empty()) << notes.findings[0].text();
   }
 }
 
@@ -49,13 +49,13 @@ TEST(MenuFile, OfAnEarlierVersionWithEndMarksHasDefaultsForNewerProperties) {
   auto line = ParameterString(item);
   line.erase(line.find(",,1,0,0,0,sans-serif"), 9);  // tooltip, cursor and paddings
   line.erase(line.find(",n,n,n,n,n,"), 4);           // the commands of the first two states
-  Findings notes;
+  ReadNotes notes;
   FileHandle file("menu.nbr", line, notes);
   SubmenuCarryOver carryOver;
   Element element = ItemObj{};
   RecordReader(file, {V120, "", "", true}, "", carryOver).ReadPropertiesFromFile(element);
   EXPECT_EQ(std::get<ItemObj>(element), item);
-  EXPECT_TRUE(notes.empty());
+  EXPECT_TRUE(notes.findings.empty());
 }
 
 }  // namespace

@@ -24,14 +24,14 @@ inline std::vector<std::filesystem::path> casesIn(const std::string& folder) {
 }
 
 /// Reads bytes as of a file in C:\menus.
-inline void readBytes(std::string_view bytes, Document& document, Findings& notes) {
+inline void readBytes(std::string_view bytes, Document& document, ReadNotes& notes) {
   SubmenuCarryOver carryOver;
   readMenuFile(bytes, "C:\\menus\\menu.nbr", "C:\\menus", carryOver, document, notes);
 }
 
 inline Document readBytes(std::string_view bytes) {
   Document document;
-  Findings notes;
+  ReadNotes notes;
   readBytes(bytes, document, notes);
   return document;
 }

@@ -38,6 +38,8 @@ class Console {
   void fault(std::string_view documentPath, const Message& message) const;
   /// Prints each finding; returns `notAllDone` if one is an error.
   ExitStatus faults(const Findings& findings) const;
+  /// Prints each finding as a warning.
+  void warnings(Findings findings) const;
 
  private:
   std::istream& in_;

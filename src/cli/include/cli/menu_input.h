@@ -3,6 +3,7 @@
 #include <deque>
 #include <string>
 
+#include "cli/console.h"
 #include "model/document.h"
 #include "persistence/menu_file.h"
 
@@ -14,10 +15,17 @@ struct MenuInput {
 
   /// Throws `FileError`; `document` then holds what was read before the error.
   void load(const FileSystem& files);
+  /// The same for commands that only read the file: prints the notes of the reader as warnings.
+  void loadWarning(const FileSystem& files, const Console& console);
+
+  /// What of the file is lost when the document is written: what the notes say, and roots after the first.
+  Findings losses() const;
+  /// Whether writing the document to `target` would replace the file it was read from, with a loss.
+  bool wouldLoseIn(const FileSystem& files, const std::string& target) const;
 
   std::string path;  ///< absolute, in document form
   Document document;
-  Findings notes;
+  ReadNotes notes;
 };
 
 /// The menu files of a run. They outlive the commands, because the process exits without destroying them, which is

@@ -10,12 +10,19 @@
 
 namespace nimbrel {
 
+/// What a reader noticed that did not stop it. Any of it would be lost if the file were written again from what was
+/// read.
+struct ReadNotes {
+  Findings findings;
+  std::size_t unknownValues = 0;  ///< values of a later version, which were not read
+};
+
 /// A file that is read value by value. Its errors and notes name the path, the record and the line of the
 /// value read last.
 class FileHandle {
  public:
-  /// `bytes` must outlive the handle and its values. Notes are appended to `notes`.
-  FileHandle(std::string path, std::string_view bytes, Findings& notes)
+  /// `bytes` must outlive the handle and its values. Notes are added to `notes`.
+  FileHandle(std::string path, std::string_view bytes, ReadNotes& notes)
       : path_(std::move(path)), values_(bytes), notes_(notes) {}
 
   /// The next value. Throws `FileError` at the end of the file.
@@ -37,8 +44,10 @@ class FileHandle {
   [[noreturn]] void fail(const std::string& reason) const;
   /// Adds a finding that does not stop the reading.
   void note(const std::string& reason);
+  /// The same for values that were not read. `why` says where they may come from.
+  void noteUnknown(std::size_t values, const std::string& why);
   /// The number of notes so far.
-  std::size_t notes() const { return notes_.size(); }
+  std::size_t notes() const { return notes_.findings.size(); }
 
  private:
   Finding finding(const std::string& reason) const { return {path_, reason, {record_, values_.line()}}; }
@@ -48,7 +57,7 @@ class FileHandle {
   std::string path_;
   ValueReader values_;
   std::size_t record_ = 0;
-  Findings& notes_;
+  ReadNotes& notes_;
   std::vector<SharedText> recent_ = std::vector<SharedText>(recentTexts);
 };
 

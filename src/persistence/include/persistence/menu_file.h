@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "model/document.h"
+#include "persistence/file_handle.h"
 #include "persistence/older_records.h"
 #include "platform/file_system.h"
 
@@ -24,11 +25,11 @@ class NotAMenuFile : public FileError {
 /// a file of no known version it throws `NotAMenuFile`; the document is then empty and its settings are
 /// unchanged.
 void LoadMenuFile(const FileSystem& files, std::string_view folder, std::string_view fileName,
-                  SubmenuCarryOver& carryOver, Document& document, Findings& notes);
+                  SubmenuCarryOver& carryOver, Document& document, ReadNotes& notes);
 
 /// The same for the bytes of a file. `path` is used in messages, `folder` for images that begin with "*".
 void readMenuFile(std::string_view bytes, const std::string& path, std::string_view folder,
-                  SubmenuCarryOver& carryOver, Document& document, Findings& notes);
+                  SubmenuCarryOver& carryOver, Document& document, ReadNotes& notes);
 
 /// Writes the document in the current version and replaces the file as a whole. Throws `FileError`; the old
 /// file is then unchanged.
