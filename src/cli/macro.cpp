@@ -8,7 +8,7 @@
 namespace nimbrel {
 namespace {
 
-constexpr std::array buttonNames{"OK", "Yes", "No", "Cancel", "Help"};
+constexpr std::array buttonNames{"OK", "Yes", "No", "Cancel", "Help", "Overwrite", "Save As", "Reload"};
 
 bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\r'; }
 

@@ -11,6 +11,7 @@
 #include "platform/keys.h"
 #include "platform/posix/host_paths.h"
 #include "platform/posix/program_folder.h"
+#include "text/paths.h"
 #include "text/windows1252.h"
 
 namespace nimbrel {
@@ -21,8 +22,12 @@ using Words = std::vector<std::string>;
 /// The application that a macro drives: everything but the windows.
 class Player {
  public:
-  Player(const Console& console, FileSystem& files, const std::string& home, MemorySettings& settings)
-      : transcript_(console.out()),
+  /// `macroFolder` is the folder of the macro, in which statements may write files.
+  Player(const Console& console, FileSystem& files, const std::string& home, std::string macroFolder,
+         MemorySettings& settings)
+      : files_(files),
+        macroFolder_(std::move(macroFolder)),
+        transcript_(console.out()),
         system_(transcript_),
         asker_(transcript_, system_),
         settings_(settings),
@@ -44,10 +49,13 @@ class Player {
   void edit(const Words& words);
   void press(const Words& words);
   void replicate(const Words& words);
+  void touch(const Words& words);
   void close();
   void print(const Words& words);
   PropertySheet& sheet();
 
+  FileSystem& files_;
+  std::string macroFolder_;
   Transcript transcript_;
   PlaySystem system_;
   PlayAsker asker_;
@@ -93,6 +101,7 @@ const Statement* Statement::find(std::string_view name) {
        [](Player& p, const Words& w) {
          p.asker_.queueForm(w[1], {w.begin() + 2, w.end()});
        }},
+      {"touch", 2, [](Player& p, const Words& w) { p.touch(w); }},
       {"close", 0, [](Player& p, const Words&) { p.close(); }},
       {"print", 1, [](Player& p, const Words& w) { p.print(w); }},
   });
@@ -175,6 +184,14 @@ void Player::replicate(const Words& words) {
   current.click(current.btnReplicate);
 }
 
+/// Does as another program would that the author goes to, and comes back from.
+void Player::touch(const Words& words) {
+  const auto file = fromHostPath(absoluteHostPath(words[1]));
+  if (!files_.isInside(file, macroFolder_)) throw MacroFault(words[1] + " is not in the folder of the macro");
+  files_.replace(file, words[2]);
+  window_.offerReload();
+}
+
 void Player::close() {
   try {
     isClosed_ = window_.QueryClose();
@@ -210,6 +227,12 @@ std::string macroText(FileSystem& files, const PlayCall& call, std::istream& in)
   return files.read(fromHostPath(absoluteHostPath(call.macro)));
 }
 
+/// Of a macro from standard input, the current folder.
+std::string folderOf(const PlayCall& call) {
+  const auto path = fromHostPath(absoluteHostPath(call.macro == "-" ? "./-" : call.macro));
+  return std::string(folderName(path));
+}
+
 }  // namespace
 
 ExitStatus playCommand(const Console& console, FileSystem& files, const std::optional<std::string>& home,
@@ -223,7 +246,8 @@ ExitStatus playCommand(const Console& console, FileSystem& files, const std::opt
       readSettings(settings, files.read(settingsPath), call.settings);
     }
     const auto macro = parseMacro(macroText(files, call, console.in()));
-    Player player(console, files, fromHostPath(absoluteHostPath(programFolder(home))), settings);
+    Player player(console, files, fromHostPath(absoluteHostPath(programFolder(home))), folderOf(call),
+                  settings);
     for (const auto& statement : macro) {
       line = statement.number;
       player.play(statement.words);

@@ -23,6 +23,7 @@ bool FileSteps::attempt(Step step) {
     return true;
   } catch (const FileError& error) {
     note(error.finding());
+    report_.isComplete = false;
     return false;
   }
 }

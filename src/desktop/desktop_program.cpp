@@ -10,6 +10,7 @@
 #include "desktop/display_text.h"
 #include "desktop/run_action.h"
 #include "platform/posix/host_paths.h"
+#include "text/ascii.h"
 #include "text/product.h"
 
 namespace nimbrel {
@@ -60,7 +61,8 @@ DesktopProgram::~DesktopProgram() { setErrorReporter(nullptr); }
 
 void DesktopProgram::start(const std::string& commandLine) {
   runAction([this] { fileTypes_.publish(); });
-  view_.start(commandLine);
+  // Pictures are relative to the menu file, and the list of recent files must know it by one name.
+  view_.start(fromHostPath(absoluteHostPath(toHostPath(trimmed(commandLine)))));
 }
 
 }  // namespace nimbrel

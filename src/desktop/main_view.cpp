@@ -228,6 +228,7 @@ void MainView::setModalOpen(bool isOpen) {
   if (isOpen && isStarting_) {  // the tip of the day is about to cover this window
     nimbrel::runAction([this] { syncTree(); }, {[this] { refresh(); }});
   }
+  isModalOpen_ = isOpen;
   preview_.setEnabled(!isOpen);
   liveExamples_.setEnabled(!isOpen);
 }
@@ -269,6 +270,19 @@ void MainView::moveEvent(QMoveEvent* event) {
 void MainView::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
   if (event->type() == QEvent::PaletteChange || event->type() == QEvent::StyleChange) drawIcons();
+  // From the event loop: a message box must not open inside the event that gives this window the focus.
+  if (event->type() == QEvent::ActivationChange) QTimer::singleShot(0, this, &MainView::lookForOtherChanges);
+}
+
+void MainView::lookForOtherChanges() {
+  if (!isStarted_ || isStarting_ || isClosed_ || isModalOpen_ || !isActiveWindow()) return;
+  bool isReloaded = false;
+  const auto showTree = [&] {
+    if (!isReloaded) return;
+    model_.reset();
+    tree_.expandInitially();
+  };
+  nimbrel::runAction([&] { isReloaded = main_.offerReload(); }, {showTree, [this] { refresh(); }});
 }
 
 void MainView::drawIcons() {

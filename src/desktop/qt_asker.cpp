@@ -34,7 +34,20 @@ QMessageBox::StandardButton buttonOf(BoxButton button) {
     case BoxButton::No: return QMessageBox::No;
     case BoxButton::Cancel: return QMessageBox::Cancel;
     case BoxButton::Help: return QMessageBox::Help;
+    case BoxButton::Overwrite: return QMessageBox::Discard;
+    case BoxButton::SaveAs: return QMessageBox::Save;
+    case BoxButton::Reload: return QMessageBox::Reset;
     default: return QMessageBox::Ok;
+  }
+}
+
+/// The caption of a button for which Qt has only the role; nullptr for the others.
+const char* captionOf(BoxButton button) {
+  switch (button) {
+    case BoxButton::Overwrite: return "&Overwrite";
+    case BoxButton::SaveAs: return "Save &As...";
+    case BoxButton::Reload: return "&Reload";
+    default: return nullptr;
   }
 }
 
@@ -92,7 +105,10 @@ BoxButton QtAsker::MsgBox(const MessageBox& box) {
                        toDisplayWithPaths(box.text, box.paths).replace("\r\n", "\n").replace('\r', '\n'),
                        QMessageBox::NoButton, owner());
     window.setTextFormat(Qt::PlainText);
-    for (const auto button : box.buttons) window.addButton(buttonOf(button));
+    for (const auto button : box.buttons) {
+      auto* added = window.addButton(buttonOf(button));
+      if (const auto* caption = captionOf(button)) added->setText(caption);
+    }
     window.setDefaultButton(buttonOf(box.standard()));
     window.setEscapeButton(buttonOf(escapeOf(box)));
     window.setWindowModality(Qt::WindowModal);

@@ -19,6 +19,33 @@ MessageBox fileNotFound() {
   return {.title = "File Not Found", .text = "The file you specified cannot be found"};
 }
 
+MessageBox changedByOthers(const std::string& path) {
+  return {
+      .title = std::string(productTitle),
+      .text =
+          path + " has been changed by another program since it was opened here.\r\nOverwrite those changes?",
+      .buttons = {BoxButton::Overwrite, BoxButton::SaveAs, BoxButton::Cancel},
+      .defaultButton = BoxButton::SaveAs,
+      .paths = {path}};
+}
+
+std::string lossText(const ReadNotes& notes) {
+  const auto& first = notes.findings.front().text();
+  if (notes.unknownValues == 0) return first;
+  const auto count = notes.unknownValues;
+  return std::to_string(count) + (count == 1 ? " value is" : " values are") +
+         " unknown to this version. The first: " + first;
+}
+
+/// Returns nullptr for a folder that cannot be locked. Saving is then only as safe as the comparison of the file.
+std::unique_ptr<FolderLock> lockFolderOf(FileSystem& files, const std::string& path) {
+  try {
+    return files.lock(folderName(path));
+  } catch (const FileError&) {
+    return nullptr;
+  }
+}
+
 }  // namespace
 
 bool frmMain::PromptToSave() {
@@ -51,7 +78,7 @@ void frmMain::mnuFileNew() {
   settings.nbrFrontPageSupport = document.settings.nbrFrontPageSupport;
   document.settings = settings;
   isPartlyRead_ = false;
-  ownFile_.clear();
+  ownFile_ = {};
   setTitle("Untitled");
   outdatePreview();
 }
@@ -64,6 +91,7 @@ void frmMain::splitPath(const std::string& path) {
 void frmMain::mnuFileOpen() {
   LeaveCells();
   if (!PromptToSave()) return;
+  const auto folderOfDocument = state.FilePath;
   if (settings::FirstOpen.read(ports.settings) == settings::FirstOpen.standard) {
     state.FilePath = state.programFolder + "\\Examples";
     settings::FirstOpen.write(ports.settings, "0");
@@ -73,53 +101,112 @@ void frmMain::mnuFileOpen() {
                                             .filter = filter(),
                                             .folder = state.FilePath,
                                             .name = ""});
-  if (!path) return;
+  if (!path) {
+    if (!state.FileTitle.empty()) state.FilePath = folderOfDocument;  // Save must not write among the samples
+    return;
+  }
   splitPath(*path);
   if (!ports.files.isFile(*path)) {
     ports.asker.MsgBox(fileNotFound());
     return;
   }
-  try {
-    load();
-  } catch (const FileError& error) {
-    ports.asker.noteFailure(error.finding());
-    return;
-  }
+  if (!load()) return;
   setTitle(state.FileTitle);
   UpdateMRUList(state.FilePath, state.FileTitle);
   outdatePreview();
 }
 
-/// Loads the file that `state` names. A file that is no menu file gives a message and an empty document. For a broken
-/// file it throws, and the document is what was read before the error.
-void frmMain::load() {
+/// Loads the file that `state` names. A file that is no menu file gives a message and an empty document. Returns false
+/// for a broken file, after telling the author; the document is then what was read before the error.
+bool frmMain::load() {
   select(nullptr);
+  state.IsDirty = false;
   isPartlyRead_ = true;
-  ownFile_ = joinPath(state.FilePath, state.FileTitle);
-  Findings notes;
+  ownFile_ = {};
+  document.clear();
+  ReadNotes notes;
+  std::optional<Finding> failure;
   try {
-    state.IsDirty = false;
-    LoadMenuFile(ports.files, state.FilePath, state.FileTitle, carryOver, document, notes);
-    isPartlyRead_ = false;
+    const auto path = joinPath(state.FilePath, state.FileTitle);
+    const auto bytes = ports.files.read(path);
+    ownFile_ = KnownFile(path, bytes);
+    readMenuFile(bytes, path, state.FilePath, carryOver, document, notes);
+    isPartlyRead_ = !notes.findings.empty();
   } catch (const NotAMenuFile&) {
     ports.asker.MsgBox({.title = "Cannot Open File",
                         .text = "This file is not a valid " + std::string(productTitle) + " file"});
-  } catch (const FileError&) {
-    SelectNode(document.tvTreeView.root());
-    if (document.tvTreeView.empty()) RefreshCurrentSheet();
-    throw;
+  } catch (const FileError& error) {
+    failure = error.finding();
   }
   SelectNode(document.tvTreeView.root());
-  RefreshCurrentSheet();
+  if (!failure || document.tvTreeView.empty()) RefreshCurrentSheet();
   state.IsDirty = false;
+  for (const auto& note : notes.findings) ports.asker.noteFailure(note);
+  if (failure) {
+    ports.asker.noteFailure(*failure);
+    warnOfLoss(failure->path, "could not be read whole: " + failure->text());
+  } else if (isPartlyRead_ && !notes.findings.empty()) {
+    warnOfLoss(ownFile_.path(), "was not read whole: " + lossText(notes));
+  }
+  return !failure;
 }
 
-void frmMain::save(const std::string& path) {
+/// Tells what the author would lose by believing that the file was read whole.
+void frmMain::warnOfLoss(const std::string& path, const std::string& reason) {
+  ports.asker.MsgBox({.title = std::string(productTitle),
+                      .text = path + " " + reason +
+                              "\r\n\r\nSave will ask for a file name, so that this file stays as it is.",
+                      .paths = {path}});
+}
+
+/// Offers to load the document's file again if another program has changed it and nothing here is unsaved. An offer
+/// that the author declines is not made again for the same change.
+bool frmMain::offerReload() {
+  if (state.IsDirty || ownFile_.path().empty() || !ownFile_.hasChanged(ports.files)) return false;
+  const auto status = ports.files.status(ownFile_.path());
+  if (status == declinedReload_) return false;
   LeaveCells();
-  SaveMenuFile(ports.files, path, document);
+  if (state.IsDirty) return false;
+  declinedReload_ = status;
+  const auto path = ownFile_.path();
+  if (ports.asker.MsgBox({.title = std::string(productTitle),
+                          .text = path + " has been changed by another program.\r\nReload it?",
+                          .icon = BoxIcon::Question,
+                          .buttons = {BoxButton::Reload, BoxButton::Cancel},
+                          .paths = {path}}) != BoxButton::Reload) {
+    return false;
+  }
+  const auto key = selected == nullptr ? std::string() : selected->Key;
+  splitPath(path);
+  load();
+  SelectNode(document.tvTreeView.find(key));
+  outdatePreview();
+  return true;
+}
+
+/// Writes the document, unless another program has changed its file and the author does not want to overwrite that.
+/// Returns whether it was written.
+bool frmMain::save(const std::string& path) {
+  LeaveCells();
+  while (true) {
+    // Held from the comparison to the end of the write, so that no other program of ours saves in between.
+    auto lock = lockFolderOf(ports.files, path);
+    if (path != ownFile_.path() || !ownFile_.hasChanged(ports.files)) {
+      const auto text = menuFileText(document);
+      ports.files.replace(path, text);
+      ownFile_ = KnownFile(path, text);
+      break;
+    }
+    lock.reset();
+    switch (ports.asker.MsgBox(changedByOthers(path))) {
+      case BoxButton::Overwrite: ownFile_.accept(ports.files); break;
+      case BoxButton::SaveAs: mnuFileSaveAs(); return false;
+      default: return false;
+    }
+  }
   state.IsDirty = false;
   isPartlyRead_ = false;
-  ownFile_ = path;
+  return true;
 }
 
 /// Whether the file may be written: it does not exist, or the author agrees to replace it.
@@ -132,15 +219,15 @@ bool frmMain::mayReplace(const std::string& path) const {
 }
 
 /// Quirk: the file that `state` names can differ from the file of the document, after a Save As where the author
-/// declined to replace a file, or after the first Open, which sets the folder of the samples. Then Save asks first.
+/// declined to replace a file, or an Open that found no file. Then Save writes the new one, and asks first if it exists.
 void frmMain::mnuFileSave() {
-  // After a cancelled first Open there is a folder but no name.
+  // Without a name there can be a folder: the first Open sets that of the samples.
   if (state.FilePath.empty() || state.FileTitle.empty() || isPartlyRead_) {
     mnuFileSaveAs();
     return;
   }
   const auto path = state.FilePath + '\\' + state.FileTitle;
-  if (path == ownFile_ || mayReplace(path)) save(path);
+  if (path == ownFile_.path() || mayReplace(path)) save(path);
 }
 
 void frmMain::mnuFileSaveAs() {
@@ -154,9 +241,12 @@ void frmMain::mnuFileSaveAs() {
   splitPath(*path);
   if (!mayReplace(*path)) return;
   try {
-    save(*path);
+    if (!save(*path)) return;
   } catch (const FileError& error) {
     ports.asker.noteFailure(error.finding());
+    ports.asker.MsgBox({.title = std::string(productTitle),
+                        .text = "The menu was not saved.\r\n" + *path + ": " + error.finding().text(),
+                        .paths = {*path}});
     return;
   }
   UpdateMRUList(state.FilePath, state.FileTitle);
@@ -174,7 +264,7 @@ void frmMain::mnuFileMRU(std::size_t slot) {
   if (!PromptToSave()) return;
   state.FilePath = file.folder;
   state.FileTitle = file.name;
-  load();
+  if (!load()) return;
   setTitle(state.FileTitle);
   outdatePreview();
 }

@@ -75,7 +75,7 @@ void frmMain::openCommandLine(std::string_view commandLine) {
   if (path.empty() || !ports.files.isFile(path)) return;
   state.FileTitle = fileName(path);
   state.FilePath = folderName(path);
-  load();
+  if (!load()) return;
   UpdateMRUList(state.FilePath, state.FileTitle);
   setTitle(path);  // Quirk: the document commands set the name without the folder
 }
@@ -88,15 +88,7 @@ void frmMain::Activate(std::string_view commandLine, StartWindows windows) {
   state.LastWebPageDir.clear();
   state.BlackPreview = false;
   mnuFileNew();
-  try {
-    openCommandLine(commandLine);
-  } catch (const FileError& error) {
-    ports.asker.noteFailure(error.finding());
-    ports.asker.MsgBox({.title = std::string(productTitle),
-                        .text = error.finding().path + ": " + error.finding().text(),
-                        .icon = BoxIcon::Critical,
-                        .paths = {error.finding().path}});
-  }
+  openCommandLine(commandLine);
   const bool showsWindows = windows == StartWindows::Wanted;
   if (settings::ShowTips.readFlag(ports.settings)) {
     if (showsWindows) mnuHelpTipOfTheDay();

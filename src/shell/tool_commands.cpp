@@ -8,8 +8,28 @@
 #include "shell/main_window.h"
 #include "shell/small_forms.h"
 #include "text/paths.h"
+#include "text/product.h"
 
 namespace nimbrel {
+namespace {
+
+/// The report that follows says that the compile was successful, whatever has happened.
+MessageBox notAllCompiled(const StepReport& report) {
+  constexpr std::size_t most = 5;
+  MessageBox box{
+      .title = std::string(productTitle),
+      .text = report.made.empty() ? "Nothing could be compiled." : "Not everything could be compiled."};
+  for (const auto& finding : report.findings) {
+    if (box.paths.size() == most) break;
+    box.text += "\r\n\r\n" + finding.path + ": " + finding.text();
+    box.paths.push_back(finding.path);
+  }
+  const auto more = report.findings.size() - box.paths.size();
+  if (more > 0) box.text += "\r\n\r\nand " + std::to_string(more) + " more";
+  return box;
+}
+
+}  // namespace
 
 void frmMain::noteFailures(const Findings& findings) {
   for (const auto& finding : findings) ports.asker.noteFailure(finding);
@@ -68,10 +88,12 @@ void frmMain::mnuToolsCompileMenu() {
   if (const auto* refusal = refusalOfCompile(document)) {
     report.findings.push_back({joinPath(document.settings.CompiledPath, document.settings.CompiledName),
                                std::string(refusal->text)});
+    report.isComplete = false;
   } else {
     CompileMenu(ports.files, state.programFolder, document, report);
   }
   noteFailures(report.findings);
+  if (!report.isComplete) ports.asker.MsgBox(notAllCompiled(report));
   const auto link = [this](std::string_view menu, std::string_view submenus) {
     startLinking(menu, submenus);
   };

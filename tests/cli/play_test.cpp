@@ -23,6 +23,7 @@ class Play : public NbrcTest {
     run({"new", "whole.nbr"});
     constexpr std::size_t insideARecord = 900;
     write("broken.nbr", read("whole.nbr").substr(0, insideARecord));
+    write("later.nbr", replaced(read("whole.nbr"), ",[nbrEI]", ",later,[nbrEI]"));
   }
 
   /// Replaces the folder of this test, which has another name each time.
@@ -67,6 +68,7 @@ TEST_F(Play, AFaultOfAMacroEndsItAndNamesTheLine) {
            {"form frmAbout cmdOK! lblTitle?\nrun mnuHelpAbout\n",
             "line 2: frmAbout is closed before the step lblTitle?"},
            {"close\nrun mnuFileNew\n", "line 2: the window is closed"},
+           {"touch ../a.nbr x\n", "line 1: ../a.nbr is not in the folder of the macro"},
        }) {
     const auto outcome = play(macro);
     EXPECT_EQ(outcome.status, 2) << macro;

@@ -21,6 +21,8 @@
 #include "desktop/browser_view.h"
 #include "desktop/display_text.h"
 #include "desktop/folder_view.h"
+#include "model/structure.h"
+#include "persistence/menu_file.h"
 #include "platform/file_error.h"
 #include "support/desktop_run.h"
 
@@ -188,6 +190,26 @@ TEST_F(Desktop, AsksBeforeUnsavedWorkIsLostAndSavesUnderTheTypedName) {
   EXPECT_TRUE(action("mnuFileMRU1").text().endsWith(file.right(12)));
 }
 
+TEST_F(Desktop, AFileIsKnownByItsWholePathAndReloadedAfterAChangeByOthers) {
+  Document document;
+  BuildDefaultDocument(document);
+  run.write("a.nbr", QByteArray::fromStdString(menuFileText(document)));
+  const auto before = QDir::currentPath();
+  QDir::setCurrent(run.path(""));
+  run.start("a.nbr");
+  QDir::setCurrent(before);
+  EXPECT_EQ(toDisplayPath(run.main().state.FilePath), QDir::cleanPath(run.path("")));
+
+  AddItem(document, "M0");
+  run.write("a.nbr", QByteArray::fromStdString(menuFileText(document)));
+  run.answerWith("Reload");
+  QEvent focus(QEvent::ActivationChange);
+  QCoreApplication::sendEvent(&run.view(), &focus);
+  EXPECT_TRUE(waitFor([&] { return run.isAnswered(); }));
+  const auto& tree = find<TreeView>(run.view(), "tvTreeView");
+  EXPECT_TRUE(waitFor([&] { return tree.model()->rowCount(tree.model()->index(0, 0)) == 4; }));
+}
+
 /// Also runs on screens of higher resolution.
 TEST_F(Desktop, EveryDialogOpensWholeAndClosesEachWay) {
   const auto sample = run.programFolder() + "/Examples/thistlewick/thistlewick.nbr";
@@ -342,7 +364,7 @@ TEST_F(Desktop, ErrorsAreReportedAfterTheWindowsAreUpToDate) {
   const auto fail = [] { throw FileError("\\site\\a.js", "disk full"); };
   run.main().UpdateMRUList(fromDisplayPath(run.programFolder()), "broken.nbr");
   run.view().refresh();
-  expectError(run.programFolder() + "/broken.nbr: ");
+  expectError(run.programFolder() + "/broken.nbr could not be read whole: line 2: ");
   run.run("mnuFileMRU1");
   run.run("mnuFileNew");
   EXPECT_EQ(run.main().document.tvTreeView.size(), 4U);

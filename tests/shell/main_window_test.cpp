@@ -94,6 +94,38 @@ TEST_F(MainWindow, OpensTheFileNamedByTheWholeCommandLine) {
   EXPECT_EQ(startQuietly("\"C:\\my menus\\a b.nbr\"").title, "Nimbrel ver 2.0 - Untitled");
 }
 
+TEST_F(MainWindow, TwoProgramsOnOneFileLoseNothingUnasked) {
+  system.files.folders.insert("C:\\w");
+  const auto* path = "C:\\w\\a.nbr";
+  SaveMenuFile(system.files, path, startQuietly().document);
+  auto& main = startQuietly(path);
+  main.SelectNode(main.document.tvTreeView.find("I2"));
+  frmMain other(system.ports, "C:\\p");
+  other.Activate(path);
+  other.run("mnuItemAddItem");
+  other.run("mnuFileSave");
+  const auto written = system.files.files[path];
+
+  system.asker.answers = {BoxButton::Cancel};
+  EXPECT_FALSE(main.offerReload());
+  EXPECT_FALSE(main.offerReload());  // not asked again
+  main.run("mnuItemAddItem");
+  system.asker.answers = {BoxButton::Cancel};
+  main.run("mnuFileSave");
+  EXPECT_EQ(system.files.files[path], written);
+  EXPECT_TRUE(main.state.IsDirty);
+  EXPECT_FALSE(main.offerReload());  // never while something is unsaved
+
+  main.state.IsDirty = false;
+  other.run("mnuItemAddItem");
+  other.run("mnuFileSave");
+  main.SelectNode(main.document.tvTreeView.find("I2"));
+  EXPECT_TRUE(main.offerReload());
+  EXPECT_EQ(main.selected->Key, "I2");
+  EXPECT_EQ(main.document, other.document);
+  EXPECT_FALSE(other.offerReload());
+}
+
 TEST_F(MainWindow, RecentFilesKeepTheirPlaceAndLongCaptionsAreCut) {
   auto& main = startQuietly();
   for (const auto* name : {"5", "4", "3", "2", "1"}) main.UpdateMRUList("C:", name);

@@ -12,6 +12,7 @@ namespace nimbrel {
 struct StepReport {
   std::vector<std::string> made;
   Findings findings;
+  bool isComplete = true;  ///< no step has failed; a missing picture is a finding, but no failed step
 };
 
 /// File operations that do not throw: a failure becomes a finding.

@@ -61,6 +61,7 @@ class MainView : public QMainWindow {
   void refreshSideWindow(FormWindow& window);
   QPoint placeBeside(const QSize& size) const;
   void recordGeometry();
+  void lookForOtherChanges();
   void drawIcons();
 
   frmMain& main_;
@@ -75,6 +76,7 @@ class MainView : public QMainWindow {
       lastShows_;  ///< `Form::shows` of the side windows at the last refresh
   bool isStarted_ = false;
   bool isStarting_ = false;
+  bool isModalOpen_ = false;
   bool isClosed_ = false;
 };
 

@@ -13,7 +13,7 @@
 namespace nimbrel {
 
 enum class BoxIcon : std::uint8_t { Exclamation, Critical, Question, Information };
-enum class BoxButton : std::uint8_t { OK, Yes, No, Cancel, Help };
+enum class BoxButton : std::uint8_t { OK, Yes, No, Cancel, Help, Overwrite, SaveAs, Reload };
 
 /// A message box.
 struct MessageBox {

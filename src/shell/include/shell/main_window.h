@@ -7,6 +7,7 @@
 
 #include "gallery/style_picking.h"
 #include "model/structure_editing.h"
+#include "persistence/known_file.h"
 #include "persistence/menu_file.h"
 #include "platform/ports.h"
 #include "platform/program_state.h"
@@ -41,6 +42,10 @@ class frmMain {
   /// Called when the window is activated. The first time, creates a new document, opens the file that the command line
   /// names, and opens the windows that the author wants at the start.
   void Activate(std::string_view commandLine = {}, StartWindows windows = StartWindows::Wanted);
+
+  /// Called when the window gets the focus again. Offers to load the document's file again if another program has
+  /// changed it and nothing is unsaved. Returns whether the document was replaced.
+  bool offerReload();
 
   /// Asks about unsaved changes before the window closes. Returns false if it must stay open.
   bool QueryClose();
@@ -108,8 +113,9 @@ class frmMain {
   void mnuFileSaveAs();
   void mnuFileMRU(std::size_t slot);
   bool PromptToSave();
-  void load();
-  void save(const std::string& path);
+  bool load();
+  bool save(const std::string& path);
+  void warnOfLoss(const std::string& path, const std::string& reason);
   bool mayReplace(const std::string& path) const;
   void outdatePreview();
   void splitPath(const std::string& path);
@@ -154,7 +160,8 @@ class frmMain {
   /// The file of the document was not read whole, so that Save must not replace it without a question.
   bool isPartlyRead_ = false;
   /// The file that the document was last read from or saved to. Save asks before it replaces any other file.
-  std::string ownFile_;
+  KnownFile ownFile_;
+  std::optional<FileStatus> declinedReload_;  ///< of a changed file that the author did not want to load
   RecentFiles recent_;
 };
 
