@@ -13,38 +13,43 @@ constexpr Message hasSubmenu{"Cannot create submenu",
                              "A submenu already exists for the selected item. You\r"
                              "may select the existing submenu and add items to it"};
 
-/// Adds an element and its node under one key.
-Node& enter(Document& document, std::string key, Element element, Node* relative, Relationship relationship) {
+/// The number for a new key, as text.
+std::string nextKeyNumber(const Document& document) {
+  if (document.NextKeyNumber == Document::largestKeyNumber) throwUsedUp();
+  return std::to_string(document.NextKeyNumber);
+}
+
+/// One new node, with the number that is next.
+Insertion insertionOf(const Document& document, std::string key, Element element, NodePlace place) {
+  Insertion insertion{{}, std::move(place), static_cast<std::int16_t>(document.NextKeyNumber + 1)};
   auto text = NodeText(element);
-  Node& node = relative == nullptr ? document.tvTreeView.addRoot(key, std::move(text))
-                                   : document.tvTreeView.add(*relative, relationship, key, std::move(text));
-  document.ElementColl.add(std::move(key), std::move(element));
-  ++document.NextKeyNumber;
-  return node;
+  insertion.subtree.entries.push_back({std::move(key), std::move(text), 0, std::move(element)});
+  return insertion;
 }
 
 /// Gives a new submenu the style of the main menu or submenu that contains its item.
-void copyStyleOfContext(Document& document, SubmenuObj& submenu, const Node* container) {
-  if (container == nullptr) return;
-  if (const auto* menu = document.get<MenuObj>(*container)) {
+void copyStyleOfContext(const Document& document, SubmenuObj& submenu, const Node* container) {
+  const auto* element = container == nullptr ? nullptr : document.element(*container);
+  if (element == nullptr) return;
+  if (const auto* menu = std::get_if<MenuObj>(element)) {
     CopyStyleValuesFromMenuObject(submenu, *menu);
     submenu.TitleCursor = 0;
-  } else if (const auto* parent = document.get<SubmenuObj>(*container)) {
+  } else if (const auto* parent = std::get_if<SubmenuObj>(element)) {
     CopyStyleValuesFromObject(submenu, *parent);
   }
 }
 
+/// Returns the last child, or nullptr.
+const Node* lastChildOf(const Node& node) {
+  return node.Child() == nullptr ? nullptr : node.Child()->LastSibling();
+}
+
 /// Gives a new item the style of the item before it, or else of the item that owns its submenu.
-void copyStyleOfContext(Document& document, ItemObj& item, const Node& node) {
-  const Node* like = nullptr;
-  if (const Node* parent = node.Parent()) {
-    if (parent->Children() > 1) {
-      like = node.Previous();
-    } else if (kindOf(parent->Key) == Kind::Submenu) {
-      like = parent->Parent();
-    }
-  }
-  const auto* source = like == nullptr ? nullptr : document.get<ItemObj>(*like);
+void copyStyleOfContext(const Document& document, ItemObj& item, const Node& selected) {
+  const Node* like = kindOf(selected.Key) == Kind::Item ? &selected : lastChildOf(selected);
+  if (like == nullptr && kindOf(selected.Key) == Kind::Submenu) like = selected.Parent();
+  const auto* element = like == nullptr ? nullptr : document.element(*like);
+  const auto* source = element == nullptr ? nullptr : std::get_if<ItemObj>(element);
   if (source != nullptr) CopyStyleValuesFromObject(item, *source);
   clearSubmenuImages(item);
 }
@@ -56,15 +61,10 @@ void throwUsedUp() {
                             " key numbers");
 }
 
-std::string nextKeyNumber(const Document& document) {
-  if (document.NextKeyNumber == Document::largestKeyNumber) throwUsedUp();
-  return std::to_string(document.NextKeyNumber);
-}
-
 Node& AddMainMenu(Document& document) {
   MenuObj menu;
   SetDefaultValues(menu);
-  return enter(document, "M" + nextKeyNumber(document), std::move(menu), nullptr, Relationship::Child);
+  return putIn(document, insertionOf(document, "M" + nextKeyNumber(document), std::move(menu), {}));
 }
 
 const Message* refusalOfSubmenu(const Document& document, std::string_view parentKey) {
@@ -73,38 +73,43 @@ const Message* refusalOfSubmenu(const Document& document, std::string_view paren
   return parent != nullptr && parent->Child() != nullptr ? &hasSubmenu : nullptr;
 }
 
-Node* AddSubmenu(Document& document, std::string_view parentKey) {
-  Node* parent = document.tvTreeView.find(parentKey);
-  if (parent == nullptr || refusalOfSubmenu(document, parentKey) != nullptr) return nullptr;
+std::optional<Insertion> newSubmenu(const Document& document, std::string_view parentKey) {
+  const Node* parent = document.tvTreeView.find(parentKey);
+  if (parent == nullptr || refusalOfSubmenu(document, parentKey) != nullptr) return std::nullopt;
   const auto number = nextKeyNumber(document);
   SubmenuObj submenu;
   SetDefaultValues(submenu);
   submenu.SubmenuName = "Submenu" + number;
   copyStyleOfContext(document, submenu, parent->Parent());
-  return &enter(document, "S" + number, std::move(submenu), parent, Relationship::Child);
+  return insertionOf(document, "S" + number, std::move(submenu), {parent->Key, ""});
 }
 
-Node* AddItem(Document& document, std::string_view selectedKey) {
-  Node* selected = document.tvTreeView.find(selectedKey);
-  if (selected == nullptr) return nullptr;
+Node* AddSubmenu(Document& document, std::string_view parentKey) {
+  auto submenu = newSubmenu(document, parentKey);
+  return submenu ? &putIn(document, *std::move(submenu)) : nullptr;
+}
+
+std::optional<Insertion> newItem(const Document& document, std::string_view selectedKey) {
+  const Node* selected = document.tvTreeView.find(selectedKey);
+  if (selected == nullptr) return std::nullopt;
   const auto number = nextKeyNumber(document);
+  const bool isAfter = kindOf(selectedKey) == Kind::Item;
+  if (isAfter && selected->Parent() == nullptr) return std::nullopt;
   ItemObj item;
   SetDefaultValues(item);
   setNames(item, "Item" + number);
-  if (kindOf(selectedKey) == Kind::Item && selected->Parent() == nullptr) return nullptr;
-  const auto relationship = kindOf(selectedKey) == Kind::Item ? Relationship::Next : Relationship::Child;
-  Node& node = enter(document, "I" + number, std::move(item), selected, relationship);
-  copyStyleOfContext(document, *document.get<ItemObj>(node), node);
-  return &node;
+  copyStyleOfContext(document, item, *selected);
+  return insertionOf(document, "I" + number, std::move(item),
+                     isAfter ? placeOf(*selected) : NodePlace{selected->Key, ""});
+}
+
+Node* AddItem(Document& document, std::string_view selectedKey) {
+  auto item = newItem(document, selectedKey);
+  return item ? &putIn(document, *std::move(item)) : nullptr;
 }
 
 void RemoveSubtree(Document& document, std::string_view key) {
-  const Node* top = document.tvTreeView.find(key);
-  if (top == nullptr) return;
-  for (const Node* node = top; node != nullptr; node = following(node, top)) {
-    document.ElementColl.remove(node->Key);
-  }
-  document.tvTreeView.remove(top->Key);  // `key` may be a view of a removed element's key
+  if (document.tvTreeView.find(key) != nullptr) takeOut(document, std::string(key));
 }
 
 void BuildDefaultDocument(Document& document) {

@@ -19,29 +19,22 @@ constexpr Message secondSubmenu{"Cannot paste",
 
 bool isContainer(std::string_view key) { return kindOf(key) == Kind::Menu || kindOf(key) == Kind::Submenu; }
 
-/// Adds a copy of one clipboard node to the document under a new key.
-Node& paste(Document& document, Node& target, Relationship relationship, const Node& source,
-            const Clipboard& clipboard) {
-  auto key = source.Key.substr(0, 1) + nextKeyNumber(document);
-  const auto* element = clipboard.CopyColl.find(source.Key);
-  Node& node = document.tvTreeView.add(target, relationship, key, source.Text);
-  if (element != nullptr) document.ElementColl.add(std::move(key), clone(*element));
-  ++document.NextKeyNumber;
-  return node;
-}
-
 int nodesIn(const Node& top) {
   int count = 0;
   for (const Node* node = &top; node != nullptr; node = following(node, &top)) ++count;
   return count;
 }
 
-bool move(Document& document, Node& item, Node* neighbour, Relationship relationship) {
-  if (neighbour == nullptr) return false;
+std::int16_t counterAfterMove(const Document& document, const Node& item) {
   const int counter = document.NextKeyNumber + nodesIn(item);
   if (counter > Document::largestKeyNumber) throwUsedUp();
-  document.tvTreeView.move(item, *neighbour, relationship);
-  document.NextKeyNumber = static_cast<std::int16_t>(counter);
+  return static_cast<std::int16_t>(counter);
+}
+
+bool move(Document& document, Node& item, const std::optional<NodeMove>& to) {
+  if (!to) return false;
+  moveTo(document, item, to->place);
+  document.NextKeyNumber = to->counter;
   return true;
 }
 
@@ -75,20 +68,37 @@ void CopySubtree(const Document& document, const Node& top, Clipboard& clipboard
   }
 }
 
-Node* PasteSubtree(Document& document, Node& target, const Clipboard& clipboard) {
+Insertion pastedSubtree(const Document& document, const Node& target, const Clipboard& clipboard) {
+  Insertion pasted{{}, {target.Key, ""}, document.NextKeyNumber};
   const Node* source = clipboard.tvCopyTree.root();
-  if (source == nullptr) return nullptr;
-  const bool after = kindOf(source->Key) == Kind::Item && kindOf(target.Key) == Kind::Item;
-  if (after && target.Parent() == nullptr) return nullptr;
-  std::unordered_map<const Node*, Node*> pasted;
-  for (const Node* node = source; node != nullptr; node = following(node, source)) {
-    Node& made =
-        node == source
-            ? paste(document, target, after ? Relationship::Next : Relationship::Child, *node, clipboard)
-            : paste(document, *pasted.at(node->Parent()), Relationship::Child, *node, clipboard);
-    pasted.emplace(node, &made);
+  if (source == nullptr) return pasted;
+  if (kindOf(source->Key) == Kind::Item && kindOf(target.Key) == Kind::Item) {
+    if (target.Parent() == nullptr) return pasted;
+    pasted.place = placeOf(target);
   }
-  return pasted.at(source);
+  std::unordered_map<const Node*, std::size_t> positions;
+  for (const Node* node = source; node != nullptr; node = following(node, source)) {
+    if (pasted.counter == Document::largestKeyNumber) break;
+    positions.emplace(node, pasted.subtree.entries.size());
+    auto& entry = pasted.subtree.entries.emplace_back(Subtree::Entry{
+        node->Key.substr(0, 1) + std::to_string(pasted.counter++), node->Text, 0, std::nullopt});
+    if (node != source) entry.parent = positions.at(node->Parent());
+    if (const auto* element = clipboard.CopyColl.find(node->Key)) entry.element = clone(*element);
+  }
+  return pasted;
+}
+
+bool isCut(const Insertion& pasted, const Clipboard& clipboard) {
+  return pasted.counter == Document::largestKeyNumber &&
+         pasted.subtree.entries.size() < clipboard.tvCopyTree.size();
+}
+
+Node* PasteSubtree(Document& document, Node& target, const Clipboard& clipboard) {
+  auto pasted = pastedSubtree(document, target, clipboard);
+  const bool lacksNumbers = isCut(pasted, clipboard);
+  Node* node = pasted.subtree.empty() ? nullptr : &putIn(document, std::move(pasted));
+  if (lacksNumbers) throwUsedUp();
+  return node;
 }
 
 bool canMoveUp(const Node& item) {
@@ -99,13 +109,18 @@ bool canMoveDown(const Node& item) {
   return item.Parent() != nullptr && item.Text != item.LastSibling()->Text;
 }
 
-bool MoveItemUp(Document& document, Node& item) {
-  return canMoveUp(item) && move(document, item, item.Previous(), Relationship::Previous);
+std::optional<NodeMove> moveUp(const Document& document, const Node& item) {
+  if (!canMoveUp(item) || item.Previous() == nullptr) return std::nullopt;
+  return NodeMove{{item.Parent()->Key, item.Previous()->Key}, counterAfterMove(document, item)};
 }
 
-bool MoveItemDown(Document& document, Node& item) {
-  return canMoveDown(item) && move(document, item, item.Next(), Relationship::Next);
+std::optional<NodeMove> moveDown(const Document& document, const Node& item) {
+  if (!canMoveDown(item) || item.Next() == nullptr) return std::nullopt;
+  return NodeMove{placeOf(*item.Next()), counterAfterMove(document, item)};
 }
+
+bool MoveItemUp(Document& document, Node& item) { return move(document, item, moveUp(document, item)); }
+bool MoveItemDown(Document& document, Node& item) { return move(document, item, moveDown(document, item)); }
 
 Node* neighbourOf(const Node& node) {
   if (node.Next() != nullptr) return node.Next();

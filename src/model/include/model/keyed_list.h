@@ -65,6 +65,8 @@ class KeyedList {
     return &std::next(entries_.begin(), static_cast<std::ptrdiff_t>(position - 1))->second;
   }
 
+  const T* at(std::size_t position) const { return const_cast<KeyedList*>(this)->at(position); }
+
   /// Does nothing if the key does not exist.
   void remove(std::string_view key) {
     const auto found = byKey_.find(key);

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "model/document.h"
+#include "model/subtree.h"
 #include "text/message.h"
 
 /// Copy, paste and move. These operations change only document and clipboard: asking the author, selecting a
@@ -27,21 +29,34 @@ const Message* refusalOfPaste(const Clipboard& clipboard, const Node& target);
 /// the node.
 void CopySubtree(const Document& document, const Node& node, Clipboard& clipboard);
 
-/// Pastes the clipboard under new keys: an item on an item directly after it, everything else as the last
-/// child. Returns the top of the new nodes, or nullptr if the clipboard is empty or the target is an item
-/// that a file has made a root, since a second root would not be saved. `refusalOfPaste` must not refuse the
-/// target. Throws `std::overflow_error` if no key numbers are left; nodes pasted by then stay.
+/// The clipboard under new keys: an item on an item directly after it, everything else as the last child. Has no nodes
+/// if the clipboard is empty or the target is an item that a file has made a root, since a second root would not be
+/// saved. If there are not enough key numbers it has the first nodes, down to none. `refusalOfPaste` must not refuse the
+/// target.
+Insertion pastedSubtree(const Document& document, const Node& target, const Clipboard& clipboard);
+/// Adds it, and returns its top or nullptr. Throws `std::overflow_error` if no key numbers are left; nodes pasted by then
+/// stay.
 Node* PasteSubtree(Document& document, Node& target, const Clipboard& clipboard);
+/// Whether key numbers were lacking for a part of the clipboard.
+bool isCut(const Insertion& pasted, const Clipboard& clipboard);
 
 /// Whether an item can move among its siblings. Roots cannot.
 /// Quirk: texts are compared, not nodes, so an item with the name of its first sibling can never move up.
 bool canMoveUp(const Node& item);
 bool canMoveDown(const Node& item);
 
+/// Where an item goes past its neighbour, and the counter after it. Return nullopt if it cannot move.
+/// Quirk: the key counter grows by the number of nodes that move, although their keys stay. If it cannot, they throw
+/// `std::overflow_error`.
+struct NodeMove {
+  NodePlace place;
+  std::int16_t counter;
+};
+std::optional<NodeMove> moveUp(const Document& document, const Node& item);
+std::optional<NodeMove> moveDown(const Document& document, const Node& item);
+
 /// Move an item with its descendants past its neighbour. Keys stay. Return false, with no change, if it
 /// cannot move.
-/// Quirk: the key counter grows by the number of nodes that move, although their keys stay. If it cannot,
-/// they throw `std::overflow_error` and change nothing.
 bool MoveItemUp(Document& document, Node& item);
 bool MoveItemDown(Document& document, Node& item);
 

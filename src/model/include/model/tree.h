@@ -64,6 +64,7 @@ class Tree {
   const Node* find(std::string_view key) const;
   /// The node at a position, counted from 1 in order of insertion, or nullptr if out of range.
   Node* at(std::size_t position) { return nodes_.at(position); }
+  const Node* at(std::size_t position) const { return nodes_.at(position); }
 
   /// Add a node: as the last root, or next to another. Throw `std::invalid_argument` if the key exists.
   Node& addRoot(std::string key, SharedText text);
