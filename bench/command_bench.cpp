@@ -17,35 +17,34 @@ struct Program {
   ScriptedSystem system;
   frmMain window{system.ports, "C:\\program"};
 
-  explicit Program(Document document) : numbers_(document.NextKeyNumber) {
+  explicit Program(Document document) {
     system.settings.SaveSetting("Settings", "Show Tips at Startup", "0");
     system.settings.SaveSetting("Settings", "ShowPreviewOnStartup", "False");
     window.Activate();
-    window.document = std::move(document);
+    window.editor.open(std::move(document));
     window.tvTreeView_NodeClick(window.document.tvTreeView.root());
   }
 
-  /// Keys of removed elements are used again, so that a command can be timed more often than there are keys.
-  void reuseKeys() { window.document.NextKeyNumber = numbers_; }
+  /// So that a command can be timed more often than there are keys.
+  void undo(int steps) {
+    for (; steps > 0; --steps) window.run("mnuEditUndo");
+  }
 
   /// An item in the midst of the main menu, without a submenu.
-  Node* item() const {
-    Node* node = window.document.tvTreeView.root()->Child();
+  const Node* item() const {
+    const Node* node = window.document.tvTreeView.root()->Child();
     for (auto steps = window.document.tvTreeView.root()->Children() / 2; steps > 0; --steps)
       node = node->Next();
     while (node->Child() != nullptr) node = node->Next();
     return node;
   }
-
- private:
-  std::int16_t numbers_;
 };
 
 Program large() { return Program(largeDocument(most)); }
 
 void select(benchmark::State& state) {
   auto program = large();
-  Node* node = program.item();
+  const Node* node = program.item();
   for (auto _ : state) {
     program.window.tvTreeView_NodeClick(node);
     node = following(node);
@@ -68,11 +67,9 @@ void editCell(benchmark::State& state) {
 void move(benchmark::State& state) {
   auto program = large();
   program.window.tvTreeView_NodeClick(program.item());
-  bool up = true;
   for (auto _ : state) {
-    program.window.run(up ? "mnuItemMoveItemUp" : "mnuItemMoveItemDown");
-    program.reuseKeys();
-    up = !up;
+    program.window.run("mnuItemMoveItemUp");
+    program.undo(1);
   }
 }
 
@@ -83,7 +80,7 @@ void addAndDelete(benchmark::State& state) {
     program.window.run("mnuItemAddItem");
     program.system.asker.answers = {BoxButton::Yes};
     program.window.run("mnuItemDeleteItem");
-    program.reuseKeys();
+    program.undo(2);
     program.system.asker.boxes.clear();
   }
 }
@@ -94,9 +91,22 @@ void cutAndPaste(benchmark::State& state) {
   for (auto _ : state) {
     program.window.run("mnuEditCut");
     program.window.run("mnuEditPaste");
-    program.reuseKeys();
-    program.window.tvTreeView_NodeClick(program.window.selected->Next());
+    program.undo(2);
   }
+}
+
+/// A style over the whole menu, taken back and done again.
+void undoAndRedo(benchmark::State& state) {
+  Program program(largeDocument(static_cast<int>(state.range(0))));
+  Edit edit("Apply Style");
+  const auto& document = program.window.document;
+  for (const Node* node = document.tvTreeView.root(); node != nullptr; node = following(node)) {
+    auto element = *document.element(*node);
+    std::visit([](auto& object) { SetDefaultValues(object); }, element);
+    edit.set(document, *node, std::move(element));
+  }
+  program.window.editor.apply(std::move(edit));
+  for (auto _ : state) program.window.run(program.window.editor.undoName() ? "mnuEditUndo" : "mnuEditRedo");
 }
 
 /// A main menu whose first item holds half of the document in its submenu.
@@ -133,6 +143,7 @@ BENCHMARK(editCell)->Unit(benchmark::kMillisecond);
 BENCHMARK(move)->Unit(benchmark::kMillisecond);
 BENCHMARK(addAndDelete)->Unit(benchmark::kMillisecond);
 BENCHMARK(cutAndPaste)->Unit(benchmark::kMillisecond);
+BENCHMARK(undoAndRedo)->Arg(1000)->Arg(most)->Unit(benchmark::kMillisecond);
 BENCHMARK(cutAndPasteHalf)->Arg(some)->Arg(20'000)->Unit(benchmark::kMillisecond);
 
 }  // namespace

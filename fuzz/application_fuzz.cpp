@@ -217,11 +217,8 @@ class Session {
   }
 
   void requireSelection() {
-    const auto* selected = window_.selected;
-    auto& tree = window_.document.tvTreeView;
-    require((selected == nullptr) == tree.empty());
-    require(window_.CurrentNode == selected);
-    require(selected == nullptr || tree.find(selected->Key) == selected);
+    const auto* selected = window_.selected();
+    require((selected == nullptr) == window_.document.tvTreeView.empty());
     require(selected == nullptr || window_.visibleSheet() == &window_.sheetOf(kindOf(selected->Key)));
   }
 

@@ -88,7 +88,7 @@ Json treeState(const frmMain& window) {
                      {"parent", node->Parent() == nullptr ? Json(nullptr) : jsonOf(node->Parent()->Key)}});
   }
   return {{"tree", std::move(nodes)},
-          {"selected", window.selected == nullptr ? Json(nullptr) : jsonOf(window.selected->Key)},
+          {"selected", window.selected() == nullptr ? Json(nullptr) : jsonOf(window.selected()->Key)},
           {"nextKeyNumber", window.document.NextKeyNumber}};
 }
 

@@ -145,7 +145,7 @@ void Player::force(const Words& words) {
 }
 
 void Player::select(const Words& words) {
-  Node* node = window_.document.tvTreeView.find(words[1]);
+  const Node* node = window_.document.tvTreeView.find(words[1]);
   if (node == nullptr) throw MacroFault("no node " + words[1]);
   window_.tvTreeView_NodeClick(node);
 }

@@ -1,5 +1,7 @@
 #include "compiler/compile_properties.h"
 
+#include <utility>
+
 #include "text/numbers.h"
 
 namespace nimbrel {
@@ -18,9 +20,12 @@ void fillFolder(Form& form, Control& standard, Control& custom, Control& box, co
 
 }  // namespace
 
-frmCompileProperties::frmCompileProperties(Asker& asker, HelpSystem& help, ProgramState& state,
-                                           CompileSettings& settings)
-    : Form("frmCompileProperties", "Compile Properties"), asker_(asker), state_(state), settings_(settings) {
+frmCompileProperties::frmCompileProperties(Asker& asker, HelpSystem& help, CompileSettings settings,
+                                           std::function<void(CompileSettings)> accept)
+    : Form("frmCompileProperties", "Compile Properties"),
+      asker_(asker),
+      settings_(std::move(settings)),
+      accept_(std::move(accept)) {
   bind(help);
   cancelButton = cmdCancel.name;
   TabStrip1.list = {"Folders", "Cross-Frame Support", "Optimization", "FrontPage Support"};
@@ -107,7 +112,6 @@ bool frmCompileProperties::ValidateFolderName(const Control& textBox) {
 
 void frmCompileProperties::cmdOk_Click() {
   if (!ValidateFolderName(txtLibraryPath) || !ValidateFolderName(txtImagePath)) return;
-  state_.IsDirty = true;  // Quirk: does not mark the preview as outdated
   settings_.nbrLibraryPath = txtLibraryPath.text;
   settings_.nbrImagePath = txtImagePath.text;
   settings_.nbrSubmenusFrame = txtSubmenusFrame.text;
@@ -115,6 +119,7 @@ void frmCompileProperties::cmdOk_Click() {
   settings_.nbrSubmenusFrameOffset = settings_.nbrSubmenusFrame.empty() ? 0 : offset.value_or(0);
   settings_.nbrOptimize = chkIgnoreThirdState.value;
   settings_.nbrFrontPageSupport = chkFrontPage.value;
+  accept_(settings_);
   Close();
 }
 

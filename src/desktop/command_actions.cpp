@@ -72,7 +72,7 @@ void CommandActions::makeMenuBar() {
       continue;
     }
     auto* action = makeAction(entry.name, entry.caption);
-    action->setShortcut(QKeySequence(toDisplay(entry.shortcut)));
+    action->setShortcuts(QKeySequence::listFromString(toDisplay(entry.shortcut)));
     // Also works from the preview window, to refresh it.
     if (entry.name == "mnuToolsPreview") action->setShortcutContext(Qt::ApplicationShortcut);
     action->setCheckable((entry.state & Checked) != 0);

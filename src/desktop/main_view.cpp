@@ -19,17 +19,9 @@
 #include "platform/keys.h"
 
 namespace nimbrel {
-namespace {
-
-bool mayReplaceDocument(const QString& command) {
-  return command.startsWith("mnuFile") || command == "New" || command == "Open";
-}
-
-}  // namespace
-
 MainView::MainView(frmMain& main)
     : main_(main),
-      model_(main.document.tvTreeView),
+      model_(main.editor),
       tree_(model_),
       menuSheet_(main.prctlMenu, icons()),
       submenuSheet_(main.prctlSubmenu, icons()),
@@ -47,6 +39,7 @@ MainView::MainView(frmMain& main)
   for (auto* view : {&menuSheet_, &submenuSheet_, &itemSheet_}) view->hide();
   drawIcons();
   connectAll();
+  expandNewDocuments_ = main.editor.documentReplaced.connect([this] { tree_.expandInitially(); });
 }
 
 IconSource MainView::icons() const {
@@ -64,12 +57,7 @@ void MainView::connectAll() {
   connect(&commands_, &CommandActions::commandTriggered, this, &MainView::run);
   connect(&commands_, &CommandActions::helpRequested, this, &MainView::openHelp);
   for (auto* sheet : {&menuSheet_, &submenuSheet_, &itemSheet_}) {
-    connect(sheet, &SheetView::actionFinished, this, [this] {
-      nimbrel::runAction([this] {
-        if (main_.CurrentNode != nullptr) model_.syncText(*main_.CurrentNode);
-        refresh();
-      });
-    });
+    connect(sheet, &SheetView::actionFinished, this, [this] { nimbrel::runAction([this] { refresh(); }); });
     connect(sheet, &SheetView::helpRequested, this, &MainView::openHelp);
   }
   for (auto* window : {&preview_, &liveExamples_}) {
@@ -78,15 +66,9 @@ void MainView::connectAll() {
   }
 }
 
-/// For actions that do not change the structure of the tree. They may commit the open cell, and so rename the node
-/// that was current before them.
 void MainView::runAction(const Action& action) {
   endComposing();
-  const auto current = main_.CurrentNode == nullptr ? std::string() : main_.CurrentNode->Key;
-  const auto syncName = [&] {
-    if (const auto* node = main_.document.tvTreeView.find(current)) model_.syncText(*node);
-  };
-  nimbrel::runAction(action, {syncName, [this] { refresh(); }});
+  nimbrel::runAction(action, {[this] { refresh(); }});
 }
 
 void MainView::openHelp(int topic) {
@@ -114,8 +96,6 @@ void MainView::start(const std::string& commandLine) {
   isStarted_ = isStarting_ = true;
   const auto showDocument = [this] {
     isStarting_ = false;
-    model_.reset();
-    tree_.expandInitially();
     refresh();
     tree_.setFocus();
   };
@@ -123,35 +103,21 @@ void MainView::start(const std::string& commandLine) {
 }
 
 void MainView::run(const QString& command) {
-  endComposing();
   // Closing the window also ends the program.
   if (command == "mnuFileExit") {
+    endComposing();
     close();
     return;
   }
-  const auto document = [this] {
-    return std::pair(main_.state.FilePath + '\\' + main_.state.FileTitle, main_.document.tvTreeView.root());
-  };
-  const auto before = document();
-  const auto showTree = [&] {
-    if (mayReplaceDocument(command) && document() != before) {
-      model_.reset();
-      tree_.expandInitially();
-    } else {
-      syncTree();
-    }
-  };
-  nimbrel::runAction([&] { main_.run(fromDisplay(command)); }, {showTree, [this] { refresh(); }});
+  runAction([&] { main_.run(fromDisplay(command)); });
 }
 
-void MainView::showNode(Node* node) {
+void MainView::showNode(const Node* node) {
   runAction([&] { main_.tvTreeView_NodeClick(node); });
 }
 
 void MainView::deleteNode() {
-  endComposing();
-  nimbrel::runAction([this] { main_.tvTreeView_KeyUp(keys::Delete); },
-                     {[this] { syncTree(); }, [this] { refresh(); }});
+  runAction([this] { main_.tvTreeView_KeyUp(keys::Delete); });
 }
 
 void MainView::showContextMenu(const QPoint& place) {
@@ -167,7 +133,7 @@ void MainView::refresh() {
   const auto title = toDisplayWithPaths(main_.title, paths).replace("[*]", "[*][*]");
   if (windowTitle() != title) setWindowTitle(title);
   commands_.refresh(main_.commands);
-  tree_.showSelected(main_.selected);
+  tree_.showSelected(main_.selected());
   showSheets();
   for (auto* window : {&preview_, &liveExamples_}) refreshSideWindow(*window);
 }
@@ -219,14 +185,9 @@ QPoint MainView::placeBeside(const QSize& size) const {
   return {std::clamp(left, available.left(), std::max(rightmost, available.left())), whole.top()};
 }
 
-/// After a deletion the library chooses the next node, not the view.
-void MainView::syncTree() {
-  tree_.withoutNodeChosen([this] { model_.sync(); });
-}
-
 void MainView::setModalOpen(bool isOpen) {
   if (isOpen && isStarting_) {  // the tip of the day is about to cover this window
-    nimbrel::runAction([this] { syncTree(); }, {[this] { refresh(); }});
+    nimbrel::runAction([this] { refresh(); });
   }
   isModalOpen_ = isOpen;
   preview_.setEnabled(!isOpen);
@@ -276,13 +237,7 @@ void MainView::changeEvent(QEvent* event) {
 
 void MainView::lookForOtherChanges() {
   if (!isStarted_ || isStarting_ || isClosed_ || isModalOpen_ || !isActiveWindow()) return;
-  bool isReloaded = false;
-  const auto showTree = [&] {
-    if (!isReloaded) return;
-    model_.reset();
-    tree_.expandInitially();
-  };
-  nimbrel::runAction([&] { isReloaded = main_.offerReload(); }, {showTree, [this] { refresh(); }});
+  nimbrel::runAction([this] { main_.offerReload(); }, {[this] { refresh(); }});
 }
 
 void MainView::drawIcons() {

@@ -18,15 +18,9 @@ TreeView::TreeView(TreeModel& model, QWidget* parent) : QTreeView(parent), tree_
 void TreeView::showSelected(const Node* node) {
   const auto index = tree_.indexOf(node);
   if (currentIndex() == index && (!index.isValid() || selectionModel()->isSelected(index))) return;
-  withoutNodeChosen([&] {
-    setCurrentIndex(index);
-    if (index.isValid()) scrollTo(index);
-  });
-}
-
-void TreeView::withoutNodeChosen(const std::function<void()>& change) {
   const QScopedValueRollback rollback(isSettingCurrent_, true);
-  change();
+  setCurrentIndex(index);
+  if (index.isValid()) scrollTo(index);
 }
 
 void TreeView::expandInitially() {
@@ -45,7 +39,8 @@ void TreeView::expandInitially() {
 
 void TreeView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
   QTreeView::currentChanged(current, previous);
-  if (!isSettingCurrent_ && current.isValid()) emit nodeChosen(tree_.node(current));
+  if (!isSettingCurrent_ && !tree_.isChanging() && current.isValid())
+    emit nodeChosen(TreeModel::node(current));
 }
 
 /// The right button does not select: its menu is for the current node.
@@ -54,7 +49,7 @@ void TreeView::mousePressEvent(QMouseEvent* event) {
   const auto index = indexAt(event->pos());
   const bool isCurrentAgain = index.isValid() && index == currentIndex() && event->button() == Qt::LeftButton;
   QTreeView::mousePressEvent(event);
-  if (isCurrentAgain) emit nodeChosen(tree_.node(currentIndex()));
+  if (isCurrentAgain) emit nodeChosen(TreeModel::node(currentIndex()));
 }
 
 void TreeView::mouseReleaseEvent(QMouseEvent* event) {

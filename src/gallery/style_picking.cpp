@@ -1,5 +1,7 @@
 #include "gallery/style_picking.h"
 
+#include <utility>
+
 namespace nimbrel {
 namespace {
 
@@ -8,17 +10,17 @@ constexpr Message nothingPicked{"Cannot apply style",
 constexpr Message containerOnItem{"Cannot apply style", "You cannot apply a submenu style to an item"};
 constexpr Message itemOnSubmenu{"Cannot apply style", "You cannot apply an item style to a submenu"};
 
-void apply(Document& document, const Node& node, const MenuStyle& style) {
-  auto* element = document.element(node);
-  if (element == nullptr) return;
-  if (auto* item = std::get_if<ItemObj>(element)) {
+/// Returns the element of a node in a style. Items without a submenu lose the images that mark one.
+Element styled(const Node& node, Element element, const MenuStyle& style) {
+  if (auto* item = std::get_if<ItemObj>(&element)) {
     CopyStyleValuesFromObject(*item, style.item);
     if (node.Child() == nullptr) clearSubmenuImages(*item);
-  } else if (auto* submenu = std::get_if<SubmenuObj>(element)) {
+  } else if (auto* submenu = std::get_if<SubmenuObj>(&element)) {
     CopyStyleValuesFromObject(*submenu, style.submenu);
   } else {
-    CopyStyleValuesFromObject(std::get<MenuObj>(*element), style.submenu);
+    CopyStyleValuesFromObject(std::get<MenuObj>(element), style.submenu);
   }
+  return element;
 }
 
 }  // namespace
@@ -51,23 +53,35 @@ void ApplyPickedStyle(const StylePicking& picking, Element& element) {
   }
 }
 
-void ApplyStyle(Document& document, Node& node, StyleScope scope, const MenuStyle& style) {
+void eachStyled(const Document& document, const Node& node, StyleScope scope, const MenuStyle& style,
+                const std::function<void(const Node&, Element)>& f) {
+  const auto visit = [&](const Node& one) {
+    if (const auto* element = document.element(one)) f(one, styled(one, *element, style));
+  };
   switch (scope) {
     case StyleScope::Menu: {
       const Node* root = document.tvTreeView.root();
-      for (const Node* each = root; each != nullptr; each = following(each, root))
-        apply(document, *each, style);
+      for (const Node* each = root; each != nullptr; each = following(each, root)) visit(*each);
       break;
     }
     case StyleScope::Submenu:
-      apply(document, node, style);
-      for (const Node* child = node.Child(); child != nullptr; child = child->Next())
-        apply(document, *child, style);
+      visit(node);
+      for (const Node* child = node.Child(); child != nullptr; child = child->Next()) visit(*child);
       break;
-    case StyleScope::Item:
-      if (auto* item = document.get<ItemObj>(node)) CopyStyleValuesFromObject(*item, style.item);
+    case StyleScope::Item: {
+      const auto* element = document.element(node);
+      if (element == nullptr || !std::holds_alternative<ItemObj>(*element)) break;
+      auto item = std::get<ItemObj>(*element);
+      CopyStyleValuesFromObject(item, style.item);
+      f(node, std::move(item));
       break;
+    }
   }
+}
+
+void ApplyStyle(Document& document, Node& node, StyleScope scope, const MenuStyle& style) {
+  eachStyled(document, node, scope, style,
+             [&](const Node& one, Element element) { *document.element(one) = std::move(element); });
 }
 
 }  // namespace nimbrel

@@ -144,6 +144,12 @@ void PropertySheet::EnterCell(int PropertyOrdinal, int col) {
   showHelp();
 }
 
+void PropertySheet::ShowCell(int PropertyOrdinal, int col) {
+  if (editing_ || PropertyOrdinal < 0 || PropertyOrdinal >= RowCount()) return;
+  cursorRow_ = PropertyOrdinal;
+  cursorColumn_ = col;
+}
+
 void PropertySheet::LeaveCell() {
   if (!editing_) return;
   editing_ = false;

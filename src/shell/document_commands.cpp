@@ -71,12 +71,11 @@ void frmMain::mnuFileNew() {
   state.FilePath.clear();
   state.FileTitle.clear();
   select(nullptr);
-  BuildDefaultDocument(document);
+  Document created;
+  BuildDefaultDocument(created);
+  created.settings.nbrFrontPageSupport = document.settings.nbrFrontPageSupport;
+  editor.open(std::move(created));
   SelectNode(document.tvTreeView.root());
-  state.IsDirty = false;
-  CompileSettings settings;
-  settings.nbrFrontPageSupport = document.settings.nbrFrontPageSupport;
-  document.settings = settings;
   isPartlyRead_ = false;
   ownFile_ = {};
   setTitle("Untitled");
@@ -120,17 +119,17 @@ void frmMain::mnuFileOpen() {
 /// for a broken file, after telling the author; the document is then what was read before the error.
 bool frmMain::load() {
   select(nullptr);
-  state.IsDirty = false;
   isPartlyRead_ = true;
   ownFile_ = {};
-  document.clear();
+  Document loaded;
+  loaded.settings = document.settings;  // Quirk: stays if the file is no menu file
   ReadNotes notes;
   std::optional<Finding> failure;
   try {
     const auto path = joinPath(state.FilePath, state.FileTitle);
     const auto bytes = ports.files.read(path);
     ownFile_ = KnownFile(path, bytes);
-    readMenuFile(bytes, path, state.FilePath, carryOver, document, notes);
+    readMenuFile(bytes, path, state.FilePath, carryOver, loaded, notes);
     isPartlyRead_ = !notes.findings.empty();
   } catch (const NotAMenuFile&) {
     ports.asker.MsgBox({.title = "Cannot Open File",
@@ -138,9 +137,9 @@ bool frmMain::load() {
   } catch (const FileError& error) {
     failure = error.finding();
   }
+  editor.open(std::move(loaded));
   SelectNode(document.tvTreeView.root());
   if (!failure || document.tvTreeView.empty()) RefreshCurrentSheet();
-  state.IsDirty = false;
   for (const auto& note : notes.findings) ports.asker.noteFailure(note);
   if (failure) {
     ports.asker.noteFailure(*failure);
@@ -161,12 +160,12 @@ void frmMain::warnOfLoss(const std::string& path, const std::string& reason) {
 
 /// Offers to load the document's file again if another program has changed it and nothing here is unsaved. An offer
 /// that the author declines is not made again for the same change.
-bool frmMain::offerReload() {
-  if (state.IsDirty || ownFile_.path().empty() || !ownFile_.hasChanged(ports.files)) return false;
+void frmMain::offerReload() {
+  if (state.IsDirty || ownFile_.path().empty() || !ownFile_.hasChanged(ports.files)) return;
   const auto status = ports.files.status(ownFile_.path());
-  if (status == declinedReload_) return false;
+  if (status == declinedReload_) return;
   LeaveCells();
-  if (state.IsDirty) return false;
+  if (state.IsDirty) return;
   declinedReload_ = status;
   const auto path = ownFile_.path();
   if (ports.asker.MsgBox({.title = std::string(productTitle),
@@ -174,14 +173,13 @@ bool frmMain::offerReload() {
                           .icon = BoxIcon::Question,
                           .buttons = {BoxButton::Reload, BoxButton::Cancel},
                           .paths = {path}}) != BoxButton::Reload) {
-    return false;
+    return;
   }
-  const auto key = selected == nullptr ? std::string() : selected->Key;
+  const auto key = selectedKey_;
   splitPath(path);
   load();
   SelectNode(document.tvTreeView.find(key));
   outdatePreview();
-  return true;
 }
 
 /// Writes the document, unless another program has changed its file and the author does not want to overwrite that.
@@ -204,7 +202,7 @@ bool frmMain::save(const std::string& path) {
       default: return false;
     }
   }
-  state.IsDirty = false;
+  editor.markSaved();
   isPartlyRead_ = false;
   return true;
 }

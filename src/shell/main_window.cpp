@@ -30,6 +30,8 @@ const CommandHandler* CommandHandler::find(std::string_view command) {
       {"mnuFileMRU3", [](frmMain& w) { w.mnuFileMRU(2); }},
       {"mnuFileMRU4", [](frmMain& w) { w.mnuFileMRU(3); }},
       {"mnuFileExit", [](frmMain& w) { w.QueryClose(); }},
+      {"mnuEditUndo", [](frmMain& w) { w.mnuEditUndo(); }},
+      {"mnuEditRedo", [](frmMain& w) { w.mnuEditRedo(); }},
       {"mnuEditCut", [](frmMain& w) { w.mnuEditCut(); }},
       {"mnuEditCopy", [](frmMain& w) { w.mnuEditCopy(); }},
       {"mnuEditPaste", [](frmMain& w) { w.mnuEditPaste(); }},
@@ -91,6 +93,7 @@ frmMain::frmMain(Ports& p, std::string programFolder)
       prctlItem(itemTable(), ports, state, liveExamples) {
   state.programFolder = std::move(programFolder);
   bindSheets();
+  listen();
   RegisterFileAssociations();
   readGeometry();
 }
@@ -99,6 +102,31 @@ void frmMain::bindSheets() {
   prctlMenu.Change = [this](int ordinal) { sheetChanged(Kind::Menu, ordinal); };
   prctlSubmenu.Change = [this](int ordinal) { sheetChanged(Kind::Submenu, ordinal); };
   prctlItem.Change = [this](int ordinal) { sheetChanged(Kind::Item, ordinal); };
+}
+
+void frmMain::listen() {
+  connections_.push_back(editor.dirtyChanged.connect([this](bool isDirty) { state.IsDirty = isDirty; }));
+  connections_.push_back(editor.historyChanged.connect([this] { showHistory(); }));
+  connections_.push_back(editor.edited.connect([this](const Edit& edit) {
+    // Quirk: a change of the settings does not make the preview outdated.
+    const bool isOfSettings =
+        edit.steps.size() == 1 && std::holds_alternative<SettingsStep>(edit.steps.front());
+    if (!isOfSettings) outdatePreview();
+  }));
+  showHistory();
+}
+
+/// The entries for undo and redo name what they would change.
+void frmMain::showHistory() {
+  const auto show = [this](EntryName entry, std::string_view verb,
+                           const std::optional<std::string_view>& name) {
+    commands.enable(entry, name.has_value());
+    auto& caption = commands.entry(entry).caption;
+    caption = verb;
+    if (name) caption.append(" ").append(*name);
+  };
+  show("mnuEditUndo", "&Undo", editor.undoName());
+  show("mnuEditRedo", "&Redo", editor.redoName());
 }
 
 bool frmMain::run(std::string_view name) {
@@ -133,14 +161,13 @@ void frmMain::LeaveCells() {
   for (auto* sheet : {&prctlMenu, &prctlSubmenu, &prctlItem}) sheet->LeaveCell();
 }
 
-void frmMain::SetIsDirty() {
-  state.IsDirty = true;
-  outdatePreview();
-}
+void frmMain::select(const Node* node) { selectedKey_ = node == nullptr ? std::string() : node->Key; }
 
-void frmMain::select(Node* node) { selected = CurrentNode = node; }
+Kind frmMain::selectedKind() const { return kindOf(selectedKey_); }
 
-void frmMain::SelectNode(Node* node) {
+const Element* frmMain::selectedElement() const { return document.ElementColl.find(selectedKey_); }
+
+void frmMain::SelectNode(const Node* node) {
   LeaveCells();
   if (node == nullptr) return;
   select(node);
@@ -148,8 +175,22 @@ void frmMain::SelectNode(Node* node) {
   EnableCommands(kindOf(node->Key));
 }
 
+/// Carries out a change of the author. Its spots are the present selection if the caller has set none.
+void frmMain::apply(Edit edit) {
+  if (edit.before.key.empty()) edit.before.key = selectedKey_;
+  if (edit.after.key.empty()) edit.after = edit.before;
+  editor.apply(std::move(edit));
+}
+
+/// Shows a place that undo or redo returns to.
+void frmMain::show(const Spot& spot) {
+  SelectNode(document.tvTreeView.find(spot.key));
+  auto* sheet = visibleSheet();
+  if (spot.row >= 0 && sheet != nullptr) sheet->ShowCell(spot.row, spot.column);
+}
+
 /// Fills the sheet for the kind of the node with its element, and hides the other sheets.
-void frmMain::refill(Node& node) {
+void frmMain::refill(const Node& node) {
   for (auto* sheet : {&prctlMenu, &prctlSubmenu, &prctlItem}) sheet->isOpen = false;
   const auto* element = document.element(node);
   if (element == nullptr) return;
@@ -159,9 +200,8 @@ void frmMain::refill(Node& node) {
 }
 
 void frmMain::RefreshCurrentSheet() {
-  CurrentNode = selected;
-  if (selected != nullptr) {
-    refill(*selected);
+  if (const auto* node = selected()) {
+    refill(*node);
   } else {
     for (auto* sheet : {&prctlMenu, &prctlSubmenu, &prctlItem}) sheet->isOpen = false;
   }
@@ -176,8 +216,8 @@ void frmMain::EnableCommands(Kind kind) {
   commands.enable("mnuItemDeleteItem", isItem);
   if (isItem) {
     enableMoves();
-    commands.enable("mnuItemPopupMoveItemUp", canMoveUp(*selected));
-    commands.enable("mnuItemPopupMoveItemDown", canMoveDown(*selected));
+    commands.enable("mnuItemPopupMoveItemUp", canMoveUp(*selected()));
+    commands.enable("mnuItemPopupMoveItemDown", canMoveDown(*selected()));
   } else {
     commands.enable("mnuItemMoveItemUp", false);
     commands.enable("mnuItemMoveItemDown", false);
@@ -188,8 +228,8 @@ void frmMain::EnableCommands(Kind kind) {
 }
 
 void frmMain::enableMoves() {
-  commands.enable("mnuItemMoveItemUp", canMoveUp(*selected));
-  commands.enable("mnuItemMoveItemDown", canMoveDown(*selected));
+  commands.enable("mnuItemMoveItemUp", canMoveUp(*selected()));
+  commands.enable("mnuItemMoveItemDown", canMoveDown(*selected()));
 }
 
 void frmMain::enableApply(Kind kind) {
@@ -202,34 +242,40 @@ void frmMain::enableApply(Kind kind) {
   }
 }
 
-/// Stores a row of a sheet in the current element. Ignores a sheet of another kind, whose cell stayed open while its
+/// Stores a row of a sheet in the selected element. Ignores a sheet of another kind, whose cell stayed open while its
 /// element was removed.
-void frmMain::sheetChanged(Kind sheet, int ordinal) {
-  auto* element = CurrentNode == nullptr ? nullptr : document.element(*CurrentNode);
-  if (element == nullptr || kindOf(*element) != sheet) return;
-  std::visit([&](auto& object) { GetValueFromPropertyControl(object, sheetOf(sheet), ordinal); }, *element);
-  if (ordinal == nameRow(sheet)) CurrentNode->Text = NodeText(*element);
-  SetIsDirty();
+void frmMain::sheetChanged(Kind kind, int ordinal) {
+  const auto* old = selectedElement();
+  if (old == nullptr || kindOf(*old) != kind) return;
+  const auto& sheet = sheetOf(kind);
+  const auto& node = *selected();
+  Element element = *old;
+  std::visit([&](auto& object) { GetValueFromPropertyControl(object, sheet, ordinal); }, element);
+  Edit edit{std::string(sheet.row(ordinal).Caption)};
+  edit.before = {selectedKey_, ordinal, sheet.cursorColumn()};
+  auto text = ordinal == nameRow(kind) ? NodeText(element) : node.Text;
+  edit.set(document, node, std::move(element), std::move(text));
+  apply(std::move(edit));
 }
 
-void frmMain::tvTreeView_NodeClick(Node* node) {
+void frmMain::tvTreeView_NodeClick(const Node* node) {
   LeaveCells();
   SelectNode(node);
 }
 
 void frmMain::tvTreeView_KeyUp(int key) {
-  if (key == keys::Delete && CurrentNode != nullptr) {
-    switch (kindOf(CurrentNode->Key)) {
+  if (key == keys::Delete) {
+    switch (selectedKind()) {
       case Kind::Item: mnuItemDeleteItem(); break;
       case Kind::Submenu: mnuSubmenuDeleteSubmenu(); break;
       default: break;
     }
   }
-  SelectNode(selected);
+  SelectNode(selected());
 }
 
 std::string_view frmMain::contextMenu() const {
-  switch (CurrentNode == nullptr ? Kind::None : kindOf(CurrentNode->Key)) {
+  switch (selectedKind()) {
     case Kind::Menu: return "mnuMenuPopup";
     case Kind::Submenu: return "mnuSubmenuPopup";
     case Kind::Item: return "mnuItemPopup";

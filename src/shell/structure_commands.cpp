@@ -15,73 +15,86 @@ constexpr Message deleteSubmenuTree{
     "This command will delete the selected submenu and the entire menu structure\r"
     "deriving from the submenu. Proceed?"};
 
-bool isSelected(const Node* node, Kind kind) { return node != nullptr && kindOf(node->Key) == kind; }
-
 }  // namespace
+
+void frmMain::mnuEditUndo() {
+  LeaveCells();  // its entry is a change of its own, and the first to be undone
+  if (editor.undoName()) show(editor.undo());
+}
+
+void frmMain::mnuEditRedo() {
+  LeaveCells();
+  if (editor.redoName()) show(editor.redo());
+}
 
 /// Quirk: enables Paste even if there is nothing to paste.
 void frmMain::mnuEditCopy() {
-  if (selected == nullptr) return;
+  if (selected() == nullptr) return;
   LeaveCells();
-  if (const auto* refusal = refusalOfCopy(selected->Key)) {
+  if (const auto* refusal = refusalOfCopy(selectedKey_)) {
     ports.asker.MsgBox(warning(*refusal));
   } else {
-    CopySubtree(document, *selected, clipboard);
+    CopySubtree(document, *selected(), clipboard);
   }
   commands.enablePaste(true);
 }
 
 void frmMain::mnuEditCut() {
-  if (selected == nullptr) return;
-  if (const auto* refusal = refusalOfCut(selected->Key)) {
+  if (selected() == nullptr) return;
+  if (const auto* refusal = refusalOfCut(selectedKey_)) {
     ports.asker.MsgBox(warning(*refusal));
     return;
   }
   LeaveCells();
-  CopySubtree(document, *selected, clipboard);
-  removeSelected();
-  SelectNode(selected);
-  SetIsDirty();
+  CopySubtree(document, *selected(), clipboard);
+  removeSelected("Cut");
+  SelectNode(selected());
   RefreshCurrentSheet();
   commands.enablePaste(true);
 }
 
 /// Commits no cell and keeps the selection. A paste that fails halfway is a change too.
 void frmMain::mnuEditPaste() {
-  if (selected == nullptr || clipboard.tvCopyTree.empty()) return;
-  if (const auto* refusal = refusalOfPaste(clipboard, *selected)) {
+  const auto* target = selected();
+  if (target == nullptr || clipboard.tvCopyTree.empty()) return;
+  if (const auto* refusal = refusalOfPaste(clipboard, *target)) {
     ports.asker.MsgBox(warning(*refusal));
     return;
   }
-  const auto before = document.tvTreeView.size();
-  try {
-    if (PasteSubtree(document, *selected, clipboard) == nullptr) return;
-  } catch (...) {
-    if (document.tvTreeView.size() > before) SetIsDirty();
-    throw;
+  auto pasted = pastedSubtree(document, *target, clipboard);
+  const bool lacksNumbers = isCut(pasted, clipboard);
+  if (!pasted.subtree.empty()) {
+    Edit edit("Paste");
+    edit.insert(std::move(pasted));
+    apply(std::move(edit));
   }
-  SetIsDirty();
+  if (lacksNumbers) throwUsedUp();
+}
+
+/// Adds new nodes and selects the first.
+void frmMain::add(std::string_view editName, Insertion insertion) {
+  Edit edit{std::string(editName)};
+  const auto key = insertion.subtree.key();
+  edit.after.key = key;
+  edit.insert(std::move(insertion));
+  apply(std::move(edit));
+  SelectNode(document.tvTreeView.find(key));
 }
 
 void frmMain::mnuItemAddItem() {
-  if (selected == nullptr) return;
+  if (selected() == nullptr) return;
   LeaveCells();
-  Node* node = AddItem(document, selected->Key);
-  if (node == nullptr) return;
-  SelectNode(node);
-  SetIsDirty();
+  if (auto item = newItem(document, selectedKey_)) add("Add Item", *std::move(item));
 }
 
 void frmMain::mnuSubmenuAddSubmenu() {
-  if (selected == nullptr) return;
-  if (const auto* refusal = refusalOfSubmenu(document, selected->Key)) {
+  if (selected() == nullptr) return;
+  if (const auto* refusal = refusalOfSubmenu(document, selectedKey_)) {
     ports.asker.MsgBox(warning(*refusal));
     return;
   }
   LeaveCells();
-  Node* node = AddSubmenu(document, selected->Key);
-  SelectNode(node);
-  SetIsDirty();
+  if (auto submenu = newSubmenu(document, selectedKey_)) add("Add Submenu", *std::move(submenu));
 }
 
 bool frmMain::askToDelete(const Message& message) {
@@ -93,38 +106,44 @@ bool frmMain::askToDelete(const Message& message) {
 }
 
 /// Removes the selected node and selects its neighbour.
-void frmMain::removeSelected() {
-  const auto key = selected->Key;
-  select(neighbourOf(*selected));
-  RemoveSubtree(document, key);
+void frmMain::removeSelected(std::string_view editName) {
+  const auto& node = *selected();
+  const auto* neighbour = neighbourOf(node);
+  Edit edit{std::string(editName)};
+  edit.before.key = selectedKey_;
+  if (neighbour != nullptr) edit.after.key = neighbour->Key;
+  edit.remove(node);
+  select(neighbour);
+  apply(std::move(edit));
 }
 
 void frmMain::mnuItemDeleteItem() {
-  if (!isSelected(selected, Kind::Item)) return;
-  if (askToDelete(selected->Child() == nullptr ? deleteItem : deleteItemTree)) {
+  if (selectedKind() != Kind::Item) return;
+  if (askToDelete(selected()->Child() == nullptr ? deleteItem : deleteItemTree)) {
     LeaveCells();
-    removeSelected();
+    removeSelected("Delete Item");
     RefreshCurrentSheet();
-    SetIsDirty();
   }
-  SelectNode(selected);
+  SelectNode(selected());
 }
 
 /// Unlike Delete Item, it does not leave the cell or call `SelectNode`, so the states of commands do not change.
 void frmMain::mnuSubmenuDeleteSubmenu() {
-  if (!isSelected(selected, Kind::Submenu)) return;
-  if (!askToDelete(selected->Child() == nullptr ? deleteSubmenu : deleteSubmenuTree)) return;
+  if (selectedKind() != Kind::Submenu) return;
+  if (!askToDelete(selected()->Child() == nullptr ? deleteSubmenu : deleteSubmenuTree)) return;
   prctlSubmenu.TakeBack();  // its element is removed
-  removeSelected();
+  removeSelected("Delete Submenu");
   RefreshCurrentSheet();
-  SetIsDirty();
 }
 
 void frmMain::mnuItemMove(bool up) {
-  if (!isSelected(selected, Kind::Item)) return;
-  if (up ? MoveItemUp(document, *selected) : MoveItemDown(document, *selected)) {
-    SelectNode(selected);
-    SetIsDirty();
+  if (selectedKind() != Kind::Item) return;
+  const auto& item = *selected();
+  if (auto to = up ? moveUp(document, item) : moveDown(document, item)) {
+    Edit edit(up ? "Move Item Up" : "Move Item Down");
+    edit.move(item, std::move(to->place), to->counter);
+    apply(std::move(edit));
+    SelectNode(&item);
   }
   enableMoves();
 }

@@ -8,9 +8,9 @@ namespace nimbrel {
 
 /// Enables the commands for the picked style. The next selection sets them again.
 void frmMain::mnuStylePickStyle() {
-  const auto* element = selected == nullptr ? nullptr : document.element(*selected);
+  const auto* element = selectedElement();
   if (element == nullptr) return;
-  const auto kind = kindOf(selected->Key);
+  const auto kind = selectedKind();
   sheetOf(kind).LeaveCell();
   PickStyle(*element, picking);
   commands.enable("mnuStyleApplyStyle", true);
@@ -24,16 +24,18 @@ void frmMain::mnuStylePickStyle() {
 }
 
 void frmMain::mnuStyleApplyStyle() {
-  auto* element = selected == nullptr ? nullptr : document.element(*selected);
-  if (element == nullptr) return;
-  if (const auto* refusal = refusalOfPickedStyle(picking, selected->Key)) {
+  if (selectedElement() == nullptr) return;
+  if (const auto* refusal = refusalOfPickedStyle(picking, selectedKey_)) {
     ports.asker.MsgBox(warning(*refusal));
     return;
   }
-  sheetOf(kindOf(selected->Key)).LeaveCell();  // otherwise its entry would undo the style later
-  ApplyPickedStyle(picking, *element);
-  refill(*selected);
-  SetIsDirty();
+  sheetOf(selectedKind()).LeaveCell();  // otherwise its entry would undo the style later
+  Element element = *selectedElement();
+  ApplyPickedStyle(picking, element);
+  Edit edit("Apply Style");
+  edit.set(document, *selected(), std::move(element));
+  apply(std::move(edit));
+  refill(*selected());
 }
 
 /// Quirk: reports success even if a step has failed.
@@ -44,9 +46,10 @@ void frmMain::mnuStyleSaveStyle() {
   if (state.StyleName.empty()) return;
   LeaveCells();
   const Node* root = document.tvTreeView.root();
-  const auto* menu = root == nullptr ? nullptr : document.get<MenuObj>(*root);
-  const auto* first =
-      root == nullptr || root->Child() == nullptr ? nullptr : document.get<ItemObj>(*root->Child());
+  const auto* menu = root == nullptr ? nullptr : std::get_if<MenuObj>(document.element(*root));
+  const auto* first = root == nullptr || root->Child() == nullptr
+                          ? nullptr
+                          : std::get_if<ItemObj>(document.element(*root->Child()));
   StepReport report;
   SaveStyle(ports.files, state.programFolder, state.StyleName, styleOfMenu(menu, first), report);
   noteFailures(report.findings);
@@ -58,13 +61,15 @@ void frmMain::mnuStyleSaveStyle() {
 
 void frmMain::mnuStyleOpenStyleLibrary() {
   LeaveCells();
-  frmGallery form(ports, state, carryOver, selected == nullptr ? Kind::None : kindOf(selected->Key),
-                  [this](StyleScope scope, const MenuStyle& style) {
-                    if (selected == nullptr) return;
-                    ApplyStyle(document, *selected, scope, style);
-                    refill(*selected);
-                    SetIsDirty();
-                  });
+  frmGallery form(ports, state, carryOver, selectedKind(), [this](StyleScope scope, const MenuStyle& style) {
+    const auto* node = selected();
+    if (node == nullptr) return;
+    Edit edit("Apply Style");
+    eachStyled(document, *node, scope, style,
+               [&](const Node& styled, Element element) { edit.set(document, styled, std::move(element)); });
+    apply(std::move(edit));
+    refill(*node);
+  });
   form.Form_Activate();
   ports.asker.ShowModal(form);
 }

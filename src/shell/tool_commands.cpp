@@ -41,7 +41,8 @@ void frmMain::CreatePreviewFile() {
   state.WebPageName = "preview.html";
   state.altURL.clear();
   StepReport report;
-  nimbrel::CreatePreviewFile(ports.files, state.programFolder, state.BlackPreview, document, report);
+  nimbrel::CreatePreviewFile(ports.files, state.programFolder, state.BlackPreview, editor.forCompile(),
+                             report);
   noteFailures(report.findings);
   browser.Show();
   browser.RefreshPreview();
@@ -52,7 +53,7 @@ void frmMain::mnuToolsPreview() { CreatePreviewFile(); }
 /// Asks for a file until its name is valid, and before replacing a file. Quirk: the document keeps the choice even if
 /// the author cancels later, and is not marked as changed.
 std::optional<std::string> frmMain::chooseCompiledFile() {
-  auto& settings = document.settings;
+  const auto& settings = document.settings;
   while (true) {
     const auto chosen = ports.asker.chooseFile(
         {.kind = FileDialog::Save,
@@ -61,8 +62,7 @@ std::optional<std::string> frmMain::chooseCompiledFile() {
          .folder = settings.CompiledPath,
          .name = settings.CompiledName.empty() ? "" : settings.CompiledPath + '\\' + settings.CompiledName});
     if (!chosen) return std::nullopt;
-    settings.CompiledName = fileName(*chosen);
-    settings.CompiledPath = folderName(*chosen);
+    editor.setCompileTarget(std::string(folderName(*chosen)), std::string(fileName(*chosen)));
     const auto* refusal = refusalOfCompiledName(settings.CompiledName);
     if (refusal == nullptr) break;
     ports.asker.MsgBox(warning(*refusal));
@@ -90,7 +90,7 @@ void frmMain::mnuToolsCompileMenu() {
                                std::string(refusal->text)});
     report.isComplete = false;
   } else {
-    CompileMenu(ports.files, state.programFolder, document, report);
+    CompileMenu(ports.files, state.programFolder, editor.forCompile(), report);
   }
   noteFailures(report.findings);
   if (!report.isComplete) ports.asker.MsgBox(notAllCompiled(report));
@@ -120,7 +120,11 @@ void frmMain::mnuToolsInsertMenuIntoWebpage() {
 }
 
 void frmMain::mnuToolsCompileProperties() {
-  frmCompileProperties form(ports.asker, ports.help, state, document.settings);
+  frmCompileProperties form(ports.asker, ports.help, document.settings, [this](CompileSettings settings) {
+    Edit edit("Compile Properties");
+    edit.set(document, std::move(settings));
+    apply(std::move(edit));
+  });
   ports.asker.ShowModal(form);
 }
 

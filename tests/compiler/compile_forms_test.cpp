@@ -2,7 +2,6 @@
 
 #include "../support/scripted_ports.h"
 #include "compiler/compile_properties.h"
-#include "platform/program_state.h"
 
 namespace nimbrel {
 namespace {
@@ -10,20 +9,19 @@ namespace {
 struct CompilePropertiesForm : testing::Test, ScriptedPorts {};
 
 TEST_F(CompilePropertiesForm, StoresTheEntriesUnlessCancelled) {
-  ProgramState state;
   CompileSettings options;
   options.nbrSubmenusFrame = "content";
   options.nbrSubmenusFrameOffset = 7;
   options.nbrImagePath = "old";
   const auto before = options;
   for (const bool cancelled : {true, false}) {
-    frmCompileProperties form(asker, *this, state, options);
+    frmCompileProperties form(asker, *this, options,
+                              [&](CompileSettings accepted) { options = std::move(accepted); });
     form.click(form.Option2);
     form.enter(form.txtLibraryPath, "a/b");  // Quirk: a slash is accepted
     form.click(form.Option3);
     form.check(form.chkEnableCrossFrame, false);
     form.click(cancelled ? form.cmdCancel : form.cmdOk);
-    EXPECT_EQ(state.IsDirty, !cancelled);
     EXPECT_EQ(options == before, cancelled);
   }
   EXPECT_EQ(options.nbrLibraryPath, "a/b");

@@ -21,6 +21,7 @@
 #include "desktop/browser_view.h"
 #include "desktop/display_text.h"
 #include "desktop/folder_view.h"
+#include "editing/editor.h"
 #include "model/structure.h"
 #include "persistence/menu_file.h"
 #include "platform/file_error.h"
@@ -82,7 +83,7 @@ class Desktop : public testing::Test {
     auto& bar = find<QToolBar>(run.view(), "tbToolBar");
     click(*bar.widgetForAction(run.view().commands().button(key)));
   }
-  std::string selected() { return run.main().selected->Key; }
+  std::string selected() { return run.main().selected()->Key; }
   QModelIndex item(int row) {
     const auto* tree = run.view().tree().model();
     return tree->index(row, 0, tree->index(0, 0));
@@ -220,7 +221,7 @@ TEST_F(Desktop, EveryDialogOpensWholeAndClosesEachWay) {
     EXPECT_EQ(flawedControls(run.view()), "");
   }
   EXPECT_EQ(run.view().windowTitle(), "Nimbrel ver 2.0 - " + sample);
-  run.main().document.settings.CompiledPath = fromDisplayPath(run.path(""));
+  run.main().editor.setCompileTarget(fromDisplayPath(run.path("")), "");
   const struct {
     const char* command;
     const char* form;
@@ -471,33 +472,36 @@ TEST(DesktopRunTest, WrongAnswersAreProblems) {
 
 /// With the signals that views rely on.
 TEST(TreeModelTest, FollowsEachChangeAndKeepsIndexesValid) {
-  Tree tree;
-  auto& root = tree.addRoot("M0", "Menu");
-  for (const auto* key : {"I1", "I2", "I3"}) tree.add(root, Relationship::Child, key, key);
-  TreeModel model(tree);
+  Editor editor;
+  const auto& tree = editor.document().tvTreeView;
+  TreeModel model(editor);
   const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
+  Document document;
+  BuildDefaultDocument(document);
+  editor.open(document);
   const auto names = [&] {
-    const auto first = model.index(0, 0, model.index(0, 0));
     QStringList all;
-    for (const auto& index : model.match(first, Qt::DisplayRole, "", -1, Qt::MatchStartsWith)) {
+    for (const auto& index :
+         model.match(model.index(0, 0), Qt::DisplayRole, "", -1, Qt::MatchStartsWith | Qt::MatchRecursive)) {
       all += index.data().toString();
     }
     return all.join(' ');
   };
   const QPersistentModelIndex kept = model.indexOf(tree.find("I2"));
-  tree.move(*tree.find("I2"), *tree.find("I1"), Relationship::Previous);
-  model.sync();
-  EXPECT_EQ(names(), "I2 I1 I3");
+  Edit edit("Several");
+  edit.move(*tree.find("I2"), {"M0", "I1"}, 9);
+  edit.remove(*tree.find("I1"));
+  edit.insert(*newSubmenu(document, "I2"));
+  ItemObj third;
+  setNames(third, "Third");
+  edit.set(document, *tree.find("I3"), third, "Third");
+  editor.apply(std::move(edit));
+  EXPECT_EQ(names(), "Main Menu Item2 Submenu4 Third");
   EXPECT_EQ(kept.row(), 0);
-  tree.remove("I1");
-  tree.add(*tree.find("I3"), Relationship::Next, "I4", "I4");
-  tree.add(*tree.find("I2"), Relationship::Child, "S5", "S5");
-  tree.find("I3")->Text = "Third";
-  model.sync();
-  EXPECT_EQ(names(), "I2 Third I4");
-  EXPECT_EQ(model.node(model.index(0, 0, kept))->Key, "S5");
-  tree.clear();
-  model.sync();
+  editor.undo();
+  EXPECT_EQ(names(), "Main Menu Item1 Item2 Item3");
+  EXPECT_EQ(kept.row(), 1);
+  editor.open({});
   EXPECT_EQ(model.rowCount(), 0);
 }
 

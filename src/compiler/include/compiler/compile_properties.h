@@ -1,19 +1,21 @@
 #pragma once
 
 #include <array>
+#include <functional>
 
 #include "model/document.h"
 #include "platform/form.h"
 #include "platform/ports.h"
-#include "platform/program_state.h"
 
 namespace nimbrel {
 
-/// The document's compile settings, on four tabs. OK stores them and marks the document dirty; Cancel changes
+/// The document's compile settings, on four tabs. Cancel changes
 /// nothing.
 class frmCompileProperties : public Form {
  public:
-  frmCompileProperties(Asker& asker, HelpSystem& help, ProgramState& state, CompileSettings& settings);
+  /// OK passes the new settings to `accept`.
+  frmCompileProperties(Asker& asker, HelpSystem& help, CompileSettings settings,
+                       std::function<void(CompileSettings)> accept);
 
   void TabStrip1_Click();
   void Option1_Click();
@@ -89,8 +91,8 @@ class frmCompileProperties : public Form {
 
   std::size_t tab_ = 0;  ///< the current tab
   Asker& asker_;
-  ProgramState& state_;
-  CompileSettings& settings_;
+  CompileSettings settings_;
+  std::function<void(CompileSettings)> accept_;
 };
 
 }  // namespace nimbrel

@@ -52,9 +52,8 @@ class MainView : public QMainWindow {
   void runAction(const Action& action);
   void openHelp(int topic);
   IconSource icons() const;
-  void showNode(Node* node);
+  void showNode(const Node* node);
   void deleteNode();
-  void syncTree();
   QRect placeOnScreen() const;
   void showContextMenu(const QPoint& place);
   void showSheets();
@@ -74,6 +73,7 @@ class MainView : public QMainWindow {
   FormWindow liveExamples_;
   std::map<const FormWindow*, std::size_t>
       lastShows_;  ///< `Form::shows` of the side windows at the last refresh
+  Connection expandNewDocuments_;
   bool isStarted_ = false;
   bool isStarting_ = false;
   bool isModalOpen_ = false;

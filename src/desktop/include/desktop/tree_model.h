@@ -2,37 +2,30 @@
 
 #include <QAbstractItemModel>
 #include <QIcon>
-#include <memory>
-#include <string>
 #include <unordered_map>
 #include <vector>
 
-#include "model/tree.h"
+#include "editing/editor.h"
 
 namespace nimbrel {
 
-/// The document's tree as a Qt model. It holds a copy of the keys and texts, since a command may change the tree in
-/// many places before the model learns of it. `sync` then updates the model with the fewest changes, so that
-/// expanded nodes stay expanded.
+/// The document's tree as a Qt model. It listens to the editor, so that views keep their state through each change.
 class TreeModel : public QAbstractItemModel {
   Q_OBJECT
 
  public:
-  /// `tree` outlives the model.
-  explicit TreeModel(Tree& tree, QObject* parent = nullptr);
-  ~TreeModel() override;
+  /// `editor` outlives the model.
+  explicit TreeModel(Editor& editor, QObject* parent = nullptr);
 
-  /// Call after a change. Linear in the size of the tree.
-  void sync();
-  /// Call after another document has been loaded.
-  void reset();
-  /// Call after a change of one node's text.
-  void syncText(const Node& node);
   void setIcons(QIcon menu, QIcon submenu, QIcon item);
 
+  /// Whether rows are coming or going at the moment. Views then may choose another current node on their own.
+  bool isChanging() const { return isChanging_; }
+
+  /// Invalid for nullptr.
   QModelIndex indexOf(const Node* node) const;
   /// nullptr for an invalid index.
-  Node* node(const QModelIndex& index) const;
+  static const Node* node(const QModelIndex& index);
 
   QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
   QModelIndex parent(const QModelIndex& index) const override;
@@ -41,22 +34,23 @@ class TreeModel : public QAbstractItemModel {
   QVariant data(const QModelIndex& index, int role) const override;
 
  private:
-  struct Mirror;
-  using Children = std::vector<std::unique_ptr<Mirror>>;
+  /// The children of a node in order. The tree links siblings only to their neighbours, and views ask by row.
+  struct Children {
+    std::vector<const Node*> nodes;
+    std::unordered_map<const Node*, int> rows;
+  };
 
-  Mirror* mirrorOf(const QModelIndex& index) const;
-  QModelIndex indexOf(Mirror& mirror) const;
-  std::unique_ptr<Mirror> copyOf(const Node& top, Mirror* parent);
-  void syncChildren(Mirror& mirror, std::vector<Node*> nodes);
-  void insert(Mirror& mirror, std::size_t at, const std::vector<Node*>& nodes);
-  void remove(Mirror& mirror, std::size_t first, std::size_t last);
-  void swap(Mirror& mirror, std::size_t first);
-  void forget(const Mirror& top);
+  void forget(const Node* top);
+  void begin(const RowChange& change);
+  void end(const RowChange& change);
+  const Children& childrenOf(const Node* parent) const;
 
-  Tree& tree_;
-  std::unique_ptr<Mirror> top_;  ///< the parent of the roots
-  std::unordered_map<std::string, Mirror*> byKey_;
+  Editor& editor_;
+  mutable std::unordered_map<const Node*, Children>
+      children_;  ///< by parent, nullptr for the roots; filled when asked for
+  bool isChanging_ = false;
   QIcon menu_, submenu_, item_;
+  std::vector<Connection> connections_;
 };
 
 }  // namespace nimbrel

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QTreeView>
-#include <functional>
 
 #include "desktop/tree_model.h"
 
@@ -16,13 +15,11 @@ class TreeView : public QTreeView {
 
   /// Makes a node the current one and scrolls to it, without a signal.
   void showSelected(const Node* node);
-  /// Runs a change of the model, with no signal for the node that becomes current by it.
-  void withoutNodeChosen(const std::function<void()>& change);
   /// Expands all of a small tree, or the first levels of a large one.
   void expandInitially();
 
  signals:
-  void nodeChosen(Node* node);
+  void nodeChosen(const nimbrel::Node* node);
   void deletePressed();
   void contextMenuRequested(const QPoint& globalPosition);
 

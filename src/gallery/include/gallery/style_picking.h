@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "gallery/style_file.h"
 #include "model/document.h"
 #include "text/message.h"
@@ -32,9 +34,12 @@ void ApplyPickedStyle(const StylePicking& picking, Element& element);
 /// The elements that a style is applied to.
 enum class StyleScope { Menu, Submenu, Item };
 
-/// Applies a style to the whole tree, to the submenu `node` and its items, or only to the item `node`. Items
-/// without a submenu lose the images that mark one.
+/// Calls `f` with each node in the scope and its element in the style: of the whole tree, of the submenu `node` and its
+/// items, or only of the item `node`. Items without a submenu lose the images that mark one.
 /// Quirk: with `StyleScope::Item` the item keeps these images.
+void eachStyled(const Document& document, const Node& node, StyleScope scope, const MenuStyle& style,
+                const std::function<void(const Node&, Element)>& f);
+/// Stores these elements in the document.
 void ApplyStyle(Document& document, Node& node, StyleScope scope, const MenuStyle& style);
 
 }  // namespace nimbrel

@@ -25,17 +25,17 @@ struct ElementRow : PropertyRow {
   /// A heading.
   consteval ElementRow(Text caption) : PropertyRow{caption, {KindGroup}} {}  // NOLINT(google-explicit-*)
   /// One value, on a sheet with one value column.
-  consteval ElementRow(Text caption, Editor e, int topic, Text page, Field field, Text help)
+  consteval ElementRow(Text caption, CellEditor e, int topic, Text page, Field field, Text help)
       : PropertyRow{caption, e, topic, page, {help}}, fields{field} {}
   /// One value, in one of the three columns.
-  consteval ElementRow(Text caption, Editor e, int topic, Text page, int col, Field field, Text help)
+  consteval ElementRow(Text caption, CellEditor e, int topic, Text page, int col, Field field, Text help)
       : PropertyRow{caption, e, topic, page, {}, col} {
     fields[slotOf(col)] = field;
     HelpText[slotOf(col)] = help;
   }
   /// A value for each state.
-  consteval ElementRow(Text caption, Editor e, int topic, Text page, Field normal, Field over, Field click,
-                       std::array<Text, valueColumns.size()> help)
+  consteval ElementRow(Text caption, CellEditor e, int topic, Text page, Field normal, Field over,
+                       Field click, std::array<Text, valueColumns.size()> help)
       : PropertyRow{caption, e, topic, page, help}, fields{normal, over, click} {}
 
   std::array<Field, valueColumns.size()> fields;
@@ -54,15 +54,15 @@ inline constexpr auto borderStyles = std::to_array<Choice>({{Choice::itself, "no
 inline constexpr std::string_view defaultColour = "(Default_Foreground_Color)";
 inline constexpr std::string_view transparent = "(Transparent)";
 
-consteval Editor text(std::string_view BlankValue = {}) { return {KindText, {}, BlankValue}; }
-consteval Editor number(std::int16_t MinValue, std::int16_t MaxValue) {
+consteval CellEditor text(std::string_view BlankValue = {}) { return {KindText, {}, BlankValue}; }
+consteval CellEditor number(std::int16_t MinValue, std::int16_t MaxValue) {
   return {KindNumber, {}, {}, "0", MinValue, MaxValue};
 }
-consteval Editor file() { return {KindFile, {}, notSet, "(no_image)"}; }
-consteval Editor fontSize() { return {KindFontSize}; }
-consteval Editor colour(std::string_view BlankText) { return {KindColour, {}, notSet, BlankText}; }
-consteval Editor list(std::span<const Choice> choices) { return {KindList, choices}; }
-consteval Editor fonts() { return {KindSortedList}; }
+consteval CellEditor file() { return {KindFile, {}, notSet, "(no_image)"}; }
+consteval CellEditor fontSize() { return {KindFontSize}; }
+consteval CellEditor colour(std::string_view BlankText) { return {KindColour, {}, notSet, BlankText}; }
+consteval CellEditor list(std::span<const Choice> choices) { return {KindList, choices}; }
+consteval CellEditor fonts() { return {KindSortedList}; }
 
 }  // namespace editors
 

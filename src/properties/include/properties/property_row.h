@@ -39,7 +39,7 @@ struct Choice {
 };
 
 /// The kind of editor of a row, the values it accepts and how it shows "not set".
-struct Editor {
+struct CellEditor {
   PropertyKind Kind;
   std::span<const Choice> choices = {};
   std::string_view BlankValue = {};  ///< for all kinds but numbers, where it is 0
@@ -68,7 +68,7 @@ constexpr std::size_t slotOf(int col) {
 
 struct PropertyRow {
   std::string_view Caption;
-  Editor editor;
+  CellEditor editor;
   int HelpTopic = 0;
   std::string_view example = {};  ///< name of the folder and page of the live example, or empty
   std::array<std::string_view, valueColumns.size()> HelpText = {};  ///< by slot

@@ -48,6 +48,8 @@ class PropertySheet : public Form {
   /// Opens a cell. A heading opens the row below, and an unusable cell the usable one of its row. Does nothing while
   /// a cell is open, or outside the table.
   void EnterCell(int PropertyOrdinal, int col);
+  /// Makes a cell the current one without opening it. Does nothing while a cell is open.
+  void ShowCell(int PropertyOrdinal, int col);
   /// Commits the entry and closes the cell. Does nothing if no cell is open.
   void LeaveCell();
   /// Closes the cell and discards the entry.

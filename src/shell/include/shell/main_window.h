@@ -4,7 +4,9 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
+#include "editing/editor.h"
 #include "gallery/style_picking.h"
 #include "model/structure_editing.h"
 #include "persistence/known_file.h"
@@ -44,8 +46,8 @@ class frmMain {
   void Activate(std::string_view commandLine = {}, StartWindows windows = StartWindows::Wanted);
 
   /// Called when the window gets the focus again. Offers to load the document's file again if another program has
-  /// changed it and nothing is unsaved. Returns whether the document was replaced.
-  bool offerReload();
+  /// changed it and nothing is unsaved.
+  void offerReload();
 
   /// Asks about unsaved changes before the window closes. Returns false if it must stay open.
   bool QueryClose();
@@ -55,7 +57,7 @@ class frmMain {
   /// Whether the author can choose the entry now.
   bool canRun(std::string_view name) const;
 
-  void tvTreeView_NodeClick(Node* node);
+  void tvTreeView_NodeClick(const Node* node);
   /// `key` is a code of platform/keys.h. Called after the tree has moved its selection.
   void tvTreeView_KeyUp(int key);
   /// The name of the context menu for the current node.
@@ -64,8 +66,10 @@ class frmMain {
   /// Widens a window that is too narrow. Returns whether it did.
   bool Form_Resize(Geometry& window, bool isMinimised) const;
 
-  void SelectNode(Node* node);
-  void SetIsDirty();
+  /// Does nothing for nullptr.
+  void SelectNode(const Node* node);
+  /// The node that is selected in the tree and whose sheet is visible, or nullptr.
+  const Node* selected() const { return document.tvTreeView.find(selectedKey_); }
   void LeaveCells();
   void CreatePreviewFile();
   void UpdateMRUList(const std::string& path, const std::string& name);
@@ -76,14 +80,12 @@ class frmMain {
 
   Ports& ports;
   ProgramState state;
-  Document document;
+  Editor editor;
+  const Document& document = editor.document();
   CommandStates commands;
   std::string title;
   Geometry geometry;
   bool isMinimised = false;
-
-  Node* selected = nullptr;     ///< in the tree
-  Node* CurrentNode = nullptr;  ///< the node of the visible sheet
 
   frmLiveExamples liveExamples;
   frmBrowser browser;
@@ -97,13 +99,20 @@ class frmMain {
  private:
   // main_window.cpp
   void bindSheets();
+  void listen();
   void EnableCommands(Kind kind);
   void enableMoves();
   void enableApply(Kind kind);
   void RefreshCurrentSheet();
-  void refill(Node& node);
+  void refill(const Node& node);
   void sheetChanged(Kind sheet, int ordinal);
-  void select(Node* node);
+  void select(const Node* node);
+  Kind selectedKind() const;
+  /// The element of the selected node, or nullptr.
+  const Element* selectedElement() const;
+  void apply(Edit edit);
+  void showHistory();
+  void show(const Spot& spot);
   void setTitle(std::string_view document);
 
   // document_commands.cpp
@@ -121,6 +130,8 @@ class frmMain {
   void splitPath(const std::string& path);
 
   // structure_commands.cpp
+  void mnuEditUndo();
+  void mnuEditRedo();
   void mnuEditCut();
   void mnuEditCopy();
   void mnuEditPaste();
@@ -129,8 +140,9 @@ class frmMain {
   void mnuItemMove(bool up);
   void mnuSubmenuAddSubmenu();
   void mnuSubmenuDeleteSubmenu();
+  void add(std::string_view editName, Insertion insertion);
   bool askToDelete(const Message& message);
-  void removeSelected();
+  void removeSelected(std::string_view editName);
 
   // tool_commands.cpp
   void mnuToolsPreview();
@@ -156,6 +168,7 @@ class frmMain {
   void saveGeometry();
 
   friend struct CommandHandler;
+  std::string selectedKey_;  ///< empty: nothing is selected
   bool FirstActivation_ = true;
   /// The file of the document was not read whole, so that Save must not replace it without a question.
   bool isPartlyRead_ = false;
@@ -163,6 +176,7 @@ class frmMain {
   KnownFile ownFile_;
   std::optional<FileStatus> declinedReload_;  ///< of a changed file that the author did not want to load
   RecentFiles recent_;
+  std::vector<Connection> connections_;
 };
 
 }  // namespace nimbrel
