@@ -5,6 +5,7 @@
 #include <array>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "model/structure.h"
 #include "platform/memory/memory_file_system.h"
@@ -112,10 +113,24 @@ void requireNesting(const Document& document) {
   }
 }
 
-bool sameMenu(const Document& a, Document b) {
-  b.NextKeyNumber = a.NextKeyNumber;
-  b.settings = a.settings;  // a compile sets some of them without counting as a change
-  return a == b;
+/// Compares all but the counter and the settings: a compile sets some of those without counting as a change.
+bool sameMenu(const Document& a, Document& b) {
+  const auto number = std::exchange(b.NextKeyNumber, a.NextKeyNumber);
+  const auto settings = std::exchange(b.settings, a.settings);
+  const bool same = a == b;
+  b.NextKeyNumber = number;
+  b.settings = settings;
+  return same;
+}
+
+/// The file of the document that New creates.
+const std::string& newMenuFile() {
+  static const auto text = [] {
+    Document document;
+    BuildDefaultDocument(document);
+    return menuFileText(document);
+  }();
+  return text;
 }
 
 class Session {
@@ -126,9 +141,7 @@ class Session {
         ports_{files_,  author_, settings_,           system_,
                system_, system_, {"Liberation Sans"}, [] { return 0.5; }},
         window_(ports_, "C:\\p") {
-    Document document;
-    BuildDefaultDocument(document);
-    const auto text = menuFileText(document);
+    const auto& text = newMenuFile();
     files_.files["C:\\m\\a.nbr"] = text;
     files_.files["C:\\m\\cut.nbr"] = text.substr(0, text.size() * 3 / 4);
     files_.files["C:\\m\\foreign"] = "no menu";
@@ -141,7 +154,6 @@ class Session {
     if (choices_.below(8) == 0) files_.failsNow = failingFrom(static_cast<int>(choices_.below(4)));
     author_.savePrompt.reset();
     isFileCommand_ = false;
-    before_ = window_.document;
     wasDirty_ = window_.state.IsDirty;
     try {
       act();
@@ -153,10 +165,10 @@ class Session {
     requireSelection();
     if (isFileCommand_) {
       requireSafeFileCommand();
+      if (!window_.state.IsDirty) clean_ = window_.document;
     } else {
       require(window_.state.IsDirty || (!wasDirty_ && sameMenu(window_.document, clean_)));
     }
-    if (!window_.state.IsDirty) clean_ = window_.document;
   }
 
  private:
@@ -184,7 +196,8 @@ class Session {
   void run(std::string_view name) {
     isFileCommand_ = name.starts_with("mnuFile");
     if (isFileCommand_) {
-      window_.LeaveCells();
+      before_ = window_.document;
+      window_.LeaveCells();  // may fail
       before_ = window_.document;
       wasDirty_ = window_.state.IsDirty;
     }
@@ -240,7 +253,7 @@ class Session {
   Ports ports_;
   frmMain window_;
   Document clean_;   // as last created, opened or saved
-  Document before_;  // before the step
+  Document before_;  // before the file command
   bool wasDirty_ = false;
   bool isFileCommand_ = false;
 };

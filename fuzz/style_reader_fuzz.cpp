@@ -29,7 +29,8 @@ Reading read(const MemoryFileSystem& files, std::string_view name) {
 }
 
 Document withStyle(const MenuStyle& style) {
-  Document sample = BuildSampleMenu();
+  static const Document blank = BuildSampleMenu();
+  Document sample = blank;
   ApplyStyleToSample(sample, style);
   return sample;
 }

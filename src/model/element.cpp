@@ -20,29 +20,36 @@ E copyOfProperties(const E& element) {
   return copy;
 }
 
+/// One property that a copy of a style includes.
 template <class Target, class Source>
-constexpr bool hasAllOf(Style style) {
-  for (const auto& property : Target::properties()) {
-    // Compare names: with sanitizers, GCC cannot compare the addresses of rows in a constant expression.
-    const auto& offered = Source::properties();
-    if ((property.style & style) != 0 &&
-        std::ranges::find(offered, property.name, &Property<Source>::name) == offered.end()) {
-      return false;
-    }
-  }
-  return true;
-}
+struct CopiedField {
+  typename Property<Target>::Field to;
+  typename Property<Source>::Field from;
+};
 
-/// Copies the properties that are part of `style` from the source's properties of the same name.
+/// The properties that are part of `style`, each with the source's property of the same name. Does not compile if the
+/// source lacks one.
+template <Style style, class Target, class Source>
+constexpr auto copiedFields = [] {
+  constexpr auto isCopied = [](const Property<Target>& property) { return (property.style & style) != 0; };
+  std::array<CopiedField<Target, Source>, std::ranges::count_if(Target::properties(), isCopied)> fields{};
+  std::size_t next = 0;
+  for (const auto& property : Target::properties()) {
+    if (isCopied(property)) fields[next++] = {property.field, findProperty<Source>(property.name)->field};
+  }
+  return fields;
+}();
+
 template <Style style, class Target, class Source>
 void copyStyle(Target& target, const Source& source) {
-  static_assert(hasAllOf<Target, Source>(style));
-  eachProperty<Target>([&](const Property<Target>& property, auto field) {
-    if ((property.style & style) == 0) return;
-    using Value = std::remove_reference_t<decltype(target.*field)>;
-    const auto& from = findProperty<Source>(property.name)->field;
-    target.*field = source.*std::get<Value Source::*>(from);
-  });
+  for (const auto& copied : copiedFields<style, Target, Source>) {
+    std::visit(
+        [&](auto field) {
+          using Value = std::remove_reference_t<decltype(target.*field)>;
+          target.*field = source.*std::get<Value Source::*>(copied.from);
+        },
+        copied.to);
+  }
 }
 
 template <class E>
