@@ -167,7 +167,7 @@ class Session {
       requireSafeFileCommand();
       if (!window_.state.IsDirty) clean_ = window_.document;
     } else {
-      require(window_.state.IsDirty || (!wasDirty_ && sameMenu(window_.document, clean_)));
+      require(window_.state.IsDirty || sameMenu(window_.document, clean_));
     }
   }
 

@@ -21,7 +21,8 @@ Reading read(const MemoryFileSystem& files, std::string_view name) {
   Reading reading;
   SubmenuCarryOver carryOver;
   try {
-    reading.isWhole = ReadStyleFile(files, program, name, carryOver, reading.style);
+    ReadNotes notes;
+    reading.isWhole = ReadStyleFile(files, program, name, carryOver, reading.style, notes);
   } catch (const FileError& error) {
     require(!error.finding().reason.empty());
   }

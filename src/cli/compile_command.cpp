@@ -27,6 +27,10 @@ ExitStatus compileCommand(const Console& console, FileSystem& files, const std::
     console.fault(fromHostPath(to), *refusal);
     return notAllDone;
   }
+  if (const auto* refusal = refusalOfFolders(settings)) {
+    console.fault(input.path, *refusal);
+    return notAllDone;
+  }
   if (const auto* refusal = refusalOfCompile(input.document)) {
     console.fault(input.path, *refusal);
     return notAllDone;

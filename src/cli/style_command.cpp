@@ -63,12 +63,16 @@ ExitStatus styleApplyCommand(const Console& console, FileSystem& files,
   input.loadWarning(files, console);
   const auto folder = fromHostPath(programFolder(home));
   const auto path = styleFilePath(folder, nameFromHost(call.name));
+  if (const auto* refusal = refusalOfStyleName(fromUtf8(call.name)))
+    return refuse(console, fromHostPath(call.name), *refusal);
   if (!files.isFile(path)) return refuse(console, path, noStyle);
   SubmenuCarryOver carryOver;
   MenuStyle style;
-  if (!ReadStyleFile(files, folder, nameFromHost(call.name), carryOver, style)) {
+  ReadNotes notes;
+  if (!ReadStyleFile(files, folder, nameFromHost(call.name), carryOver, style, notes)) {
     return refuse(console, path, foreignStyle);
   }
+  console.warnings(notes.findings);
   auto& tree = input.document.tvTreeView;
   Node* node = call.key.empty() ? tree.root() : tree.find(call.key);
   if (node == nullptr) return refuse(console, input.path, noNode);

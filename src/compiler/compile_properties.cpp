@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "compiler/picture_file.h"
 #include "text/numbers.h"
 
 namespace nimbrel {
@@ -102,10 +103,15 @@ void frmCompileProperties::chkEnableCrossFrame_Click() {
 
 /// Quirk: the message lists the slash, but the check accepts it, so that nested folders are possible.
 bool frmCompileProperties::ValidateFolderName(const Control& textBox) {
-  if (textBox.text.find_first_of("\\:*?\"<>|") == std::string::npos) return true;
-  asker_.MsgBox({.title = "Invalid character",
-                 .text = "A folder name cannot contain any of the following characters:\r\\ / : * ? \" < > |",
-                 .icon = BoxIcon::Critical});
+  const bool isName = textBox.text.find_first_of("\\:*?\"<>|") == std::string::npos;
+  if (isName && (textBox.text.empty() || staysInside(textBox.text))) return true;
+  asker_.MsgBox(
+      {.title = isName ? "Folder outside of the menu's folder" : "Invalid character",
+       .text = isName ? "The folder must be inside the folder of the compiled menu. Its name cannot begin or "
+                        "end with a "
+                        "slash, or have a part that is empty, \".\" or \"..\"."
+                      : "A folder name cannot contain any of the following characters:\r\\ / : * ? \" < > |",
+       .icon = BoxIcon::Critical});
   toFocus = &textBox;
   return false;
 }

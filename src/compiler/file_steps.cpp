@@ -28,18 +28,34 @@ bool FileSteps::attempt(Step step) {
   }
 }
 
+void FileSteps::requireInside(std::string_view path) const {
+  if (limit_.empty() || files_.isInside(path, limit_)) return;
+  throw FileError(std::string(path), "a link here leads out of " + limit_ + " and is not followed");
+}
+
 void FileSteps::note(Finding finding) { addNew(report_.findings, std::move(finding)); }
 
 void FileSteps::copy(std::string_view from, std::string_view to) {
-  if (attempt([&] { files_.copy(from, to); })) addNew(report_.made, std::string(to));
+  const auto copyInside = [&] {
+    requireInside(to);
+    files_.copy(from, to);
+  };
+  if (attempt(copyInside)) addNew(report_.made, std::string(to));
 }
 
 void FileSteps::generate(std::string_view path, std::string_view bytes) {
-  if (attempt([&] { files_.generate(path, bytes); })) addNew(report_.made, std::string(path));
+  const auto generateInside = [&] {
+    requireInside(path);
+    files_.generate(path, bytes);
+  };
+  if (attempt(generateInside)) addNew(report_.made, std::string(path));
 }
 
 void FileSteps::makeFolder(std::string_view path) {
-  attempt([&] { files_.makeFolder(path); });
+  attempt([&] {
+    requireInside(path);
+    files_.makeFolder(path);
+  });
 }
 
 void FileSteps::remove(std::string_view path) {

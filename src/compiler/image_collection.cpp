@@ -1,28 +1,27 @@
 #include "compiler/image_collection.h"
 
+#include "compiler/picture_file.h"
 #include "text/paths.h"
 
 namespace nimbrel {
 
-Finding missingPicture(const std::string& picture, const std::string& user) {
-  return {picture, "there is no such picture (used by " + user + ")"};
-}
-
 bool ImageFolder::has(const std::string& picture, const Node& user) {
   const auto [entry, isNew] = known_.try_emplace(picture, false);
-  if (isNew) {
-    entry->second = steps_.files().isFile(picture);
-    // An empty path means no picture, so nothing is missing.
-    if (!entry->second && !picture.empty()) steps_.note(missingPicture(picture, user.Key));
+  // An empty path means no picture, so nothing is missing.
+  if (!isNew || picture.empty()) return entry->second;
+  if (auto refusal = refusalOfPicture(steps_.files(), picture, user.Key)) {
+    steps_.note(*std::move(refusal));
+    return false;
   }
-  return entry->second;
+  if (auto warning = warningOfPicture(steps_.files(), picture, user.Key)) steps_.note(*std::move(warning));
+  return entry->second = true;
 }
 
 CImageInfo ImageFolder::take(const std::string& picture) {
   const auto [measured, isNew] = measured_.try_emplace(picture);
   if (isNew) {
     try {
-      measured->second = ReadImageInfo(steps_.files().read(picture));
+      measured->second = ReadImageInfo(steps_.files(), picture);
     } catch (const FileError&) {
       // The copy below fails in the same way and reports it; the size stays 0 by 0.
     }

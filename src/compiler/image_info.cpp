@@ -1,8 +1,11 @@
 #include "compiler/image_info.h"
 
+#include <functional>
 #include <limits>
 #include <stdexcept>
+#include <string>
 #include <unordered_set>
+#include <utility>
 
 namespace nimbrel {
 namespace {
@@ -10,17 +13,32 @@ namespace {
 /// Thrown on a read past the buffer or a value that does not fit its field; ends the probe.
 struct ProbeEnds : std::exception {};
 
-/// The bytes of a picture, followed by one zero byte. Positions start at 0.
+/// Returns up to `count` bytes of a picture from `offset` on.
+using ReadBlock = std::function<std::string(std::uint64_t offset, std::size_t count)>;
+
+/// The bytes of a picture, followed by one zero byte. Positions start at 0. Reads a block at a time, because the header
+/// may be a small part of a large file.
 class Buffer {
  public:
-  explicit Buffer(std::string_view bytes) : bytes_(bytes) {}
+  explicit Buffer(std::string_view bytes) : size_(static_cast<std::int64_t>(bytes.size())), block_(bytes) {}
+  Buffer(std::uint64_t size, ReadBlock read)
+      : size_(static_cast<std::int64_t>(size)), read_(std::move(read)) {}
 
-  std::int64_t size() const { return static_cast<std::int64_t>(bytes_.size()); }
+  std::int64_t size() const { return size_; }
 
   int at(std::int64_t position) const {
-    if (position < 0 || position > size()) throw ProbeEnds();
-    if (position == size()) return 0;
-    return static_cast<std::uint8_t>(bytes_[static_cast<std::size_t>(position)]);
+    if (position < 0 || position > size_) throw ProbeEnds();
+    if (position == size_) return 0;
+    if (position < start_ || position >= start_ + static_cast<std::int64_t>(block_.size())) load(position);
+    return static_cast<std::uint8_t>(block_[static_cast<std::size_t>(position - start_)]);
+  }
+
+  bool beginsWith(std::string_view signature) const {
+    for (std::size_t i = 0; i < signature.size(); ++i) {
+      const auto position = static_cast<std::int64_t>(i);
+      if (position >= size_ || at(position) != static_cast<std::uint8_t>(signature[i])) return false;
+    }
+    return true;
   }
 
   // Quirk: words are signed, so sizes of 32768 and more become negative.
@@ -37,7 +55,20 @@ class Buffer {
                                      static_cast<std::uint32_t>(d) << 24);
   }
 
-  std::string_view bytes_;
+  void load(std::int64_t position) const {
+    constexpr std::int64_t blockSize = 65'536;
+    start_ = position / blockSize * blockSize;
+    loaded_ = read_(static_cast<std::uint64_t>(start_), blockSize);
+    block_ = loaded_;
+    // The file has become shorter in the meantime.
+    if (position >= start_ + static_cast<std::int64_t>(block_.size())) throw ProbeEnds();
+  }
+
+  std::int64_t size_;
+  ReadBlock read_;
+  mutable std::int64_t start_ = 0;  ///< the position of `block_`
+  mutable std::string loaded_;
+  mutable std::string_view block_;
 };
 
 std::uint8_t depthOf(int bits) {
@@ -128,10 +159,14 @@ class TiffReader {
 };
 
 /// Follows the markers to the frame header. Bytes before the first marker are skipped.
-void readJpeg(std::string_view bytes, const Buffer& buffer, CImageInfo& info) {
+void readJpeg(const Buffer& buffer, CImageInfo& info) {
   const std::int64_t end = buffer.size() - 10;
-  const auto start = bytes.find("\xFF\xD8\xFF");
-  auto position = start == std::string_view::npos ? end : static_cast<std::int64_t>(start) + 2;
+  const auto isStart = [&](std::int64_t p) {
+    return buffer.at(p) == 0xFF && buffer.at(p + 1) == 0xD8 && buffer.at(p + 2) == 0xFF;
+  };
+  std::int64_t position = 0;
+  while (position < end && !isStart(position)) ++position;
+  position += 2;
   // A segment's length may be negative, so remember the markers to stop a scan that loops.
   std::unordered_set<std::int64_t> seen;
   while (position < end) {
@@ -151,28 +186,37 @@ void readJpeg(std::string_view bytes, const Buffer& buffer, CImageInfo& info) {
   }
 }
 
-void probe(std::string_view bytes, CImageInfo& info) {
-  const Buffer buffer(bytes);
-  if (bytes.starts_with("\x89PN")) readPng(buffer, info);
-  if (bytes.starts_with("GIF")) readGif(buffer, info);
-  if (bytes.starts_with("BM")) readBmp(buffer, info);
-  if (bytes.starts_with('\x0A')) readPcx(buffer, info);
-  if (bytes.starts_with("II*")) TiffReader(buffer, false).read(info);
-  if (bytes.starts_with("MM*")) TiffReader(buffer, true).read(info);
-  if (info.ImageType == ImageFormat::Unknown) readJpeg(bytes, buffer, info);
+void probe(const Buffer& buffer, CImageInfo& info) {
+  if (buffer.beginsWith("\x89PN")) readPng(buffer, info);
+  if (buffer.beginsWith("GIF")) readGif(buffer, info);
+  if (buffer.beginsWith("BM")) readBmp(buffer, info);
+  if (buffer.beginsWith("\x0A")) readPcx(buffer, info);
+  if (buffer.beginsWith("II*")) TiffReader(buffer, false).read(info);
+  if (buffer.beginsWith("MM*")) TiffReader(buffer, true).read(info);
+  if (info.ImageType == ImageFormat::Unknown) readJpeg(buffer, info);
 }
 
-}  // namespace
-
-CImageInfo ReadImageInfo(std::string_view bytes) {
+CImageInfo infoOf(const Buffer& buffer) {
   CImageInfo info;
-  info.FileSize = static_cast<std::int32_t>(bytes.size());
+  info.FileSize = static_cast<std::int32_t>(buffer.size());
   try {
-    probe(bytes, info);
+    probe(buffer, info);
   } catch (const ProbeEnds&) {
     return info;  // Quirk: values that were read before the error stay
   }
   return info;
+}
+
+}  // namespace
+
+CImageInfo ReadImageInfo(std::string_view bytes) { return infoOf(Buffer(bytes)); }
+
+CImageInfo ReadImageInfo(const FileSystem& files, std::string_view path) {
+  const auto status = files.status(path);
+  if (!status) throw FileError(std::string(path), "there is no such file");
+  return infoOf(Buffer(status->size, [&](std::uint64_t offset, std::size_t count) {
+    return files.readPart(path, offset, count);
+  }));
 }
 
 }  // namespace nimbrel

@@ -1,8 +1,14 @@
 #include "compiler/inspection.h"
 
+#include <algorithm>
 #include <map>
+#include <optional>
+#include <utility>
 
-#include "compiler/image_collection.h"
+#include "compiler/compile.h"
+#include "compiler/image_info.h"
+#include "compiler/picture_file.h"
+#include "compiler/script_literals.h"
 #include "text/paths.h"
 
 namespace nimbrel {
@@ -19,10 +25,20 @@ class Inspector {
       inspectPlace(*node);
       if (const Element* element = document_.element(*node)) inspectValues(*node, *element);
     }
+    if (const auto* refusal = refusalOfFolders(document_.settings)) say(std::string(refusal->text));
+    for (auto& flaw : flawedLiterals(document_, path_)) findings_.push_back(std::move(flaw));
+    if (firstLetters_) {
+      warn(path_, "has letters outside ASCII, first in " + *firstLetters_ +
+                      ": pages that are not in Windows-1252 show them wrongly");
+    }
     return std::move(findings_);
   }
 
  private:
+  std::string folderOfMenu() const { return std::string(folderName(path_)); }
+  void warn(std::string path, std::string reason) {
+    findings_.push_back({std::move(path), std::move(reason), {}, Severity::Warning});
+  }
   void say(std::string reason) { findings_.push_back({path_, std::move(reason)}); }
 
   void inspectPlace(const Node& node) {
@@ -65,23 +81,26 @@ class Inspector {
     if (form == FileForm::Raw && value.find(',') != std::string_view::npos) {
       say(of + "a comma, which shifts the values after it in the file");
     }
-    if (form == FileForm::Raw && value.find('\'') != std::string_view::npos)
-      say(of + "a single quote, which breaks the script");
-    const bool isPlain = name == "URL" || name == "TargetFrame";
-    if (isPlain && value.find('"') != std::string_view::npos)
-      say(of + "a double quote, which breaks the script");
+    if (!firstLetters_ && std::ranges::any_of(value, [](char c) { return (c & 0x80) != 0; })) {
+      firstLetters_ = std::string(name) + " of " + key;
+    }
   }
 
   void inspectPicture(const std::string& key, const std::string& picture) {
     if (picture == notSet || picture.empty()) return;
     const auto [user, isNew] = users_.try_emplace(picture, key);
     if (!isNew) return;
-    if (!files_.isFile(picture)) {
-      findings_.push_back(missingPicture(picture, key));
+    if (auto refusal = refusalOfPicture(files_, picture, key)) {
+      findings_.push_back(*std::move(refusal));
       return;
     }
+    if (auto warning = warningOfPicture(files_, picture, key)) findings_.push_back(*std::move(warning));
+    if (!files_.isInside(picture, folderOfMenu())) {
+      warn(picture,
+           "lies outside the folder of the menu file; a compile takes it from there (used by " + key + ")");
+    }
     try {
-      if (ReadImageInfo(files_.read(picture)).ImageType == ImageFormat::Unknown) {
+      if (ReadImageInfo(files_, picture).ImageType == ImageFormat::Unknown) {
         findings_.push_back({picture, "is of no known picture format (used by " + key + ")"});
       }
     } catch (const FileError& error) {
@@ -90,6 +109,8 @@ class Inspector {
     const auto name = std::string(fileName(picture));
     if (name.find('\'') != std::string_view::npos) {
       findings_.push_back({picture, "has a single quote in its name, which breaks the script"});
+    } else if (const auto* flaw = flawOfLiteral(name, '\'')) {
+      findings_.push_back({picture, std::string(flaw) + " in its name, which breaks the script"});
     }
     const auto [first, isNewName] = firstOfName_.try_emplace(name, picture);
     if (!isNewName) {
@@ -102,6 +123,7 @@ class Inspector {
   const FileSystem& files_;
   const std::string& path_;
   Findings findings_;
+  std::optional<std::string> firstLetters_;         // the first value with letters outside ASCII
   std::map<std::string, std::string> users_;        // picture path: key of the first element that uses it
   std::map<std::string, std::string> firstOfName_;  // file name: path of the picture that is shown for it
 };

@@ -1,6 +1,6 @@
 #include "editing/editor.h"
 
-#include <ranges>
+#include <algorithm>
 #include <utility>
 
 namespace nimbrel {
@@ -103,7 +103,7 @@ void Editor::swapSteps(Edit& edit, bool forward) {
   if (forward) {
     for (auto& step : edit.steps) swapOne(step);
   } else {
-    for (auto& step : std::views::reverse(edit.steps)) swapOne(step);
+    std::for_each(edit.steps.rbegin(), edit.steps.rend(), swapOne);
   }
   if (edit.counter >= 0) std::swap(edit.counter, document_.NextKeyNumber);
 }

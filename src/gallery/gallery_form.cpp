@@ -73,14 +73,17 @@ void frmGallery::Form_Activate() {
 void frmGallery::readSelected() {
   StyleInvalid = false;
   isWhole_ = true;
+  ReadNotes notes;
   try {
-    StyleInvalid = !ReadStyleFile(ports_.files, state_.programFolder, cboStyle.text, carryOver_, style_);
+    StyleInvalid =
+        !ReadStyleFile(ports_.files, state_.programFolder, cboStyle.text, carryOver_, style_, notes);
   } catch (const FileError& error) {
     ports_.asker.noteFailure(error.finding());
     const bool wasOpened = error.finding().place.line != 0;
     StyleInvalid = !wasOpened;  // a style that is only partly readable is shown
     isWhole_ = false;
   }
+  for (const auto& note : notes.findings) ports_.asker.noteFailure(note);
 }
 
 void frmGallery::cboStyle_Click() {

@@ -3,6 +3,7 @@
 #include <array>
 #include <utility>
 
+#include "compiler/picture_file.h"
 #include "persistence/property_line.h"
 #include "persistence/record_reader.h"
 #include "text/ascii.h"
@@ -31,11 +32,18 @@ bool marksSubmenus(const ItemObj& item) {
          item.HasSubmenuImage3 != notSet;
 }
 
+/// A style file from a stranger could name any file of the author: only pictures of the gallery are taken.
 template <class E>
-void prefixImages(E& element, const std::string& folder) {
+void prefixImages(FileHandle& file, E& element, const std::string& folder) {
   for (const auto* row : imageRows<E>) {
     auto& path = element.*std::get<SharedText E::*>(row->field);
-    if (path != notSet && !path.empty()) path = folder + '\\' + path.str();
+    if (path == notSet || path.empty()) continue;
+    if (staysInside(path) && isPictureName(path)) {
+      path = folder + '\\' + path.str();
+    } else {
+      file.note(std::string(row->name) + ": " + quoted(path) + " is not a picture of the gallery");
+      path = notSet;
+    }
   }
 }
 
@@ -56,7 +64,7 @@ void readRecord(FileHandle& file, RecordReader& reader, const std::string& folde
   Element element = E{};
   const auto take = [&] {
     target = std::get<E>(std::move(element));
-    prefixImages(target, folder);
+    prefixImages(file, target, folder);
   };
   try {
     reader.ReadPropertiesFromFile(element);
@@ -98,11 +106,11 @@ std::string styleFilePath(const std::string& programFolder, std::string_view nam
 }
 
 bool ReadStyleFile(const FileSystem& files, const std::string& programFolder, std::string_view name,
-                   SubmenuCarryOver& carryOver, MenuStyle& style) {
+                   SubmenuCarryOver& carryOver, MenuStyle& style, ReadNotes& notes) {
   style = {};
   const auto path = styleFilePath(programFolder, name);
+  if (refusalOfStyleName(name) != nullptr) throw FileError(path, "is not in the gallery");
   const auto bytes = files.read(path);
-  ReadNotes notes;
   FileHandle file(path, bytes, notes);
   const auto* format = file.atEnd() ? nullptr : formatOfStyleFile(file.next());
   if (format == nullptr) return false;
@@ -126,8 +134,8 @@ MenuStyle styleOfMenu(const MenuObj* menu, const ItemObj* firstItem) {
 
 void SaveStyle(FileSystem& files, const std::string& programFolder, const std::string& name, MenuStyle style,
                StepReport& report) {
-  FileSteps steps(files, report);
   const auto gallery = galleryFolder(programFolder);
+  FileSteps steps(files, report, gallery);
   const auto folder = imagesFolder(name);
   const auto wholeFolder = gallery + '\\' + folder;
   std::vector<std::string> images;
@@ -136,6 +144,11 @@ void SaveStyle(FileSystem& files, const std::string& programFolder, const std::s
   for (auto* image : lookImages(style)) {
     if (*image == notSet) continue;
     const auto source = image->str();
+    if (const auto refusal = refusalOfPicture(files, source, "this style"); refusal && files.isFile(source)) {
+      steps.note(*refusal);
+      *image = notSet;
+      continue;
+    }
     images.push_back(folder + '\\' + std::string(fileName(source)));
     *image = images.back();
     steps.copy(source, gallery + '\\' + images.back());

@@ -85,7 +85,9 @@ void frmMain::mnuToolsCompileMenu() {
   if (!chooseCompiledFile()) return;
   LeaveCells();
   StepReport report;
-  if (const auto* refusal = refusalOfCompile(document)) {
+  const auto* refusal = refusalOfFolders(document.settings);
+  if (refusal == nullptr) refusal = refusalOfCompile(document);
+  if (refusal != nullptr) {
     report.findings.push_back({joinPath(document.settings.CompiledPath, document.settings.CompiledName),
                                std::string(refusal->text)});
     report.isComplete = false;

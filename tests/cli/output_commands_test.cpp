@@ -65,6 +65,80 @@ TEST_F(OutputCommands, CompileRefusesNames) {
   EXPECT_FALSE(std::filesystem::exists("nbrmenupath.gif"));
 }
 
+/// What a menu file from a stranger could do to the files of the author.
+TEST_F(OutputCommands, CompileWritesInItsFolderOnlyAndCopiesPicturesOnly) {
+  namespace fs = std::filesystem;
+  fs::create_directories("site/inner");
+  fs::create_directory("elsewhere");
+  for (const auto* name : {".bashrc", "index.html", "elsewhere/kept"}) write(name, "author's");
+  fs::create_directory("evil");
+  write("evil/.bashrc", "stranger's");
+  const auto contents = [this] {
+    std::string all;
+    for (const auto& entry : fs::recursive_directory_iterator(here)) {
+      if (entry.is_regular_file() && entry.path().filename() != "m.nbr")
+        all += entry.path().string() + bytesOf(entry.path());
+    }
+    return all;
+  };
+  for (const auto* folder :
+       {"..", "..\\..\\x", "a/../../x", "/tmp", "\\tmp", "C:\\x", "a\\\\b", "a/", ".", "./a", ".. "}) {
+    for (auto member : {&CompileSettings::nbrImagePath, &CompileSettings::nbrLibraryPath}) {
+      document.settings = {};
+      document.settings.*member = folder;
+      item().ItemImage1 = "*\\evil\\.bashrc";
+      save("m.nbr", document);
+      const auto before = contents();
+      const auto outcome = compileTo("site/menu.js");
+      EXPECT_EQ(outcome.status, 1) << folder;
+      EXPECT_THAT(outcome.err, HasSubstr("must be inside the folder of the compiled menu")) << folder;
+      EXPECT_EQ(contents(), before) << folder;
+      EXPECT_THAT(run({"check", "m.nbr"}).err, HasSubstr("must be inside the folder")) << folder;
+    }
+  }
+  document.settings = {};
+  document.settings.nbrImagePath = "inner/deep";
+  fs::create_symlink(here / "elsewhere", here / "site/inner/deep");
+  write("evil/a.gif", "GIF89a");
+  item().ItemImage2 = "*\\evil\\a.gif";
+  save("m.nbr", document);
+  const auto linked = compileTo("site/menu.js");
+  EXPECT_EQ(linked.status, 1);
+  EXPECT_THAT(linked.err, HasSubstr(".bashrc: is not a picture"));
+  EXPECT_THAT(linked.err, HasSubstr("leads out of site and is not followed"));
+  EXPECT_FALSE(fs::exists("elsewhere/a.gif"));
+  EXPECT_FALSE(fs::exists("elsewhere/.bashrc"));
+}
+
+TEST_F(OutputCommands, CompileLeavesOutLargePicturesAndWarnsOfPrivateOnes) {
+  namespace fs = std::filesystem;
+  write("large.gif", "GIF89a");
+  fs::resize_file("large.gif", (std::uintmax_t{64} << 20) + 1);
+  write("own.gif", "GIF89a");
+  fs::permissions("own.gif", fs::perms::owner_read | fs::perms::owner_write);
+  item().ItemImage1 = "*\\own.gif";
+  save("m.nbr", document);
+  EXPECT_EQ(compileTo("a.js").status, 0);
+  item().ItemImage2 = "*\\large.gif";
+  save("m.nbr", document);
+  const auto outcome = compileTo("b.js");
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_THAT(outcome.err, HasSubstr("own.gif: warning: other users may not read this file"));
+  EXPECT_THAT(outcome.err, HasSubstr("large.gif: is larger than 64 MiB"));
+  EXPECT_TRUE(fs::exists("nbrData-b/own.gif"));
+  EXPECT_FALSE(fs::exists("nbrData-b/large.gif"));
+}
+
+TEST_F(OutputCommands, CompileTellsOfTextsThatBreakTheScriptAndWritesThem) {
+  item().URL = "c:\\x\\";
+  save("m.nbr", document);
+  const auto outcome = compileTo("a.js");
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_THAT(outcome.err,
+              HasSubstr("URL of I1 holds a backslash that begins no escape, which breaks the script"));
+  EXPECT_THAT(read("a.js"), HasSubstr("\"c:\\x\\\""));
+}
+
 TEST_F(OutputCommands, CompileReportsWhatFailedAndMakesTheRest) {
   std::filesystem::remove("home/libraries/nbrlib3.js");
   std::filesystem::create_directory("menu1.js");  // prevents writing the script

@@ -15,7 +15,7 @@ class ImageCollectionTest : public testing::Test {
     files.files = {{"C:\\a\\x.gif", gif(1, 2)},
                    {"C:\\b\\x.gif", gif(3, 4)},
                    {"C:\\b\\X.GIF", gif(5, 6)},
-                   {"C:\\a\\odd.txt", "what?"},
+                   {"C:\\a\\odd.gif", "what?"},
                    {"nomoreimages", ""}};
     files.folders = {"C:\\site"};
   }
@@ -52,8 +52,8 @@ TEST_F(ImageCollectionTest, ShowsTheFirstPictureOfANameAndKeepsTheLastGroupsFile
   item("I5").ItemImage1 = "C:\\a\\x.gif";
   item("I5").ItemImage2 = item("I7").ItemImage1 = "C:\\b\\x.gif";
   item("I5").BGImage1 = "C:\\b\\X.GIF";
-  item("I5").ItemImage3 = "C:\\a\\odd.txt";
-  EXPECT_EQ(collect("S4"), "nbrImagesColl=['x.gif',1,2,'odd.txt',0,0,'X.GIF',5,6];");
+  item("I5").ItemImage3 = "C:\\a\\odd.gif";
+  EXPECT_EQ(collect("S4"), "nbrImagesColl=['x.gif',1,2,'odd.gif',0,0,'X.GIF',5,6];");
   EXPECT_EQ(item("I5").ItemImage2No, 1);
   EXPECT_EQ(files.files["C:\\site\\x.gif"], gif(1, 2));
   EXPECT_EQ(collect("S6"), "nbrImagesColl=['x.gif',3,4];");

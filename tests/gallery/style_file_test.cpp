@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "persistence/file_versions.h"
+#include "persistence/property_line.h"
 #include "platform/memory/memory_file_system.h"
 #include "support/bytes_of.h"
 
@@ -19,7 +20,8 @@ class StyleFile : public testing::Test {
   }
 
   void save() { SaveStyle(files, "C:\\p", "Blue", style, report); }
-  bool load() { return ReadStyleFile(files, "C:\\p", "Blue", carryOver, style); }
+  ReadNotes notes;
+  bool load() { return ReadStyleFile(files, "C:\\p", "Blue", carryOver, style, notes); }
   std::string& text() { return files.files["C:\\p\\gallery\\Blue.nbs"]; }
 
   const std::string magic{currentFormat.styleMagic};
@@ -61,7 +63,29 @@ TEST_F(StyleFile, IsReadInOlderVersions) {
   ASSERT_TRUE(load());
   EXPECT_EQ(style.submenu.SubmenuHow, 2);  // Quirk: from the last older menu file
   EXPECT_EQ(style.submenu.BorderColor, "BorderColor 90");
-  EXPECT_EQ(style.item.BGImage3, "C:\\p\\gallery\\BGImage3, 176");
+  EXPECT_EQ(style.item.BGImage3, "C:\\p\\gallery\\BGImage3, 176.gif");
+}
+
+TEST_F(StyleFile, TakesOnlyPicturesOfTheGallery) {
+  for (const auto* foreign : {"..\\..\\secret.gif", "Blue-images/../../secret.gif", "\\home\\me\\a.gif",
+                              "C:\\a.gif", "Blue-images\\notes.txt", ".ssh\\id_rsa"}) {
+    style.submenu.BGImage = foreign;
+    text() =
+        "nbs200\r\n 0 \r\n" + ParameterString(style.submenu) + "\r\n" + ParameterString(style.item) + "\r\n";
+    notes = {};
+    ASSERT_TRUE(load());
+    EXPECT_EQ(style.submenu.BGImage, "n") << foreign;
+    EXPECT_EQ(notes.findings.size(), 1U) << foreign;
+  }
+  EXPECT_THROW(ReadStyleFile(files, "C:\\p", "..\\Blue", carryOver, style, notes), FileError);
+}
+
+TEST_F(StyleFile, AreSavedWithPicturesOnly) {
+  files.files["C:\\home\\.bashrc"] = "secret";
+  style.submenu.BGImage = "C:\\home\\.bashrc";
+  save();
+  EXPECT_EQ(report.findings.size(), 1U);
+  EXPECT_FALSE(files.isFile("C:\\p\\gallery\\Blue-images\\.bashrc"));
 }
 
 }  // namespace

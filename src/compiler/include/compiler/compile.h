@@ -26,8 +26,12 @@ const Message* refusalOfCompiledName(std::string_view name);
 /// Returns why the document cannot be compiled, or nullptr if it can: a document without a main menu is refused.
 const Message* refusalOfCompile(const Document& document);
 
+/// Returns why nothing may be written to the folders of libraries and images, or nullptr: they must be inside the folder
+/// of the compiled menu.
+const Message* refusalOfFolders(const CompileSettings& settings);
+
 /// Compiles the document to its `CompiledPath` and `CompiledName` and replaces existing files. Requires that
-/// neither function above refuses. A step that fails becomes a finding, and the compile continues.
+/// none of the functions above refuses. A step that fails becomes a finding, and the compile continues.
 void CompileMenu(FileSystem& files, const std::string& programFolder, Document& document, StepReport& report);
 
 }  // namespace nimbrel

@@ -19,6 +19,9 @@ struct StepReport {
 class FileSteps {
  public:
   FileSteps(FileSystem& files, StepReport& report) : files_(files), report_(report) {}
+  /// Creates and copies only inside `limit`: where a link leads out of this folder, the step fails.
+  FileSteps(FileSystem& files, StepReport& report, std::string limit)
+      : files_(files), report_(report), limit_(std::move(limit)) {}
 
   const FileSystem& files() const { return files_; }
   void copy(std::string_view from, std::string_view to);
@@ -32,9 +35,11 @@ class FileSteps {
  private:
   template <class Step>
   bool attempt(Step step);
+  void requireInside(std::string_view path) const;
 
   FileSystem& files_;
   StepReport& report_;
+  std::string limit_;  ///< empty: none
 };
 
 }  // namespace nimbrel

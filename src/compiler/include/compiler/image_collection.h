@@ -12,15 +12,12 @@
 
 namespace nimbrel {
 
-/// The finding for a picture file that does not exist. `user` is the key of the element that uses it.
-Finding missingPicture(const std::string& picture, const std::string& user);
-
 /// The image folder of one compile. Reads each picture once and copies it to the folder under its own name.
 class ImageFolder {
  public:
   ImageFolder(FileSteps& steps, std::string path) : steps_(steps), path_(std::move(path)) {}
 
-  /// Whether the picture file exists. A missing file is reported once, with its first user.
+  /// Whether the picture can be used (`refusalOfPicture`). If not, that is reported once, with its first user.
   bool has(const std::string& picture, const Node& user);
 
   /// Copies the picture into the folder and returns its size.

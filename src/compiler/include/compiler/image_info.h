@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <string_view>
 
+#include "platform/file_system.h"
+
 namespace nimbrel {
 
 enum class ImageFormat : std::int32_t { Unknown = 0, Gif = 1, Jpeg = 2, Png = 3, Bmp = 4, Pcx = 5, Tiff = 6 };
@@ -21,5 +23,8 @@ struct CImageInfo {
 
 /// Probes the bytes of a whole file. Accepts any bytes.
 CImageInfo ReadImageInfo(std::string_view bytes);
+
+/// The same for a file, of which it reads only the parts that it needs. Throws `FileError` if it cannot be read.
+CImageInfo ReadImageInfo(const FileSystem& files, std::string_view path);
 
 }  // namespace nimbrel

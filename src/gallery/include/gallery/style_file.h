@@ -28,7 +28,7 @@ std::string styleFilePath(const std::string& programFolder, std::string_view nam
 /// `FileError` if the file cannot be read completely; `style` then has what could be read, and empty values
 /// for the rest.
 bool ReadStyleFile(const FileSystem& files, const std::string& programFolder, std::string_view name,
-                   SubmenuCarryOver& carryOver, MenuStyle& style);
+                   SubmenuCarryOver& carryOver, MenuStyle& style, ReadNotes& notes);
 
 /// The style of a main menu and its first item. A part given as nullptr gets defaults.
 MenuStyle styleOfMenu(const MenuObj* menu, const ItemObj* firstItem);

@@ -65,7 +65,10 @@ class KeyedList {
     return &std::next(entries_.begin(), static_cast<std::ptrdiff_t>(position - 1))->second;
   }
 
-  const T* at(std::size_t position) const { return const_cast<KeyedList*>(this)->at(position); }
+  const T* at(std::size_t position) const {
+    if (position < 1 || position > entries_.size()) return nullptr;
+    return &std::next(entries_.begin(), static_cast<std::ptrdiff_t>(position - 1))->second;
+  }
 
   /// Does nothing if the key does not exist.
   void remove(std::string_view key) {

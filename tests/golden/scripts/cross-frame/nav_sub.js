@@ -41,7 +41,7 @@ it=s1.addItem(2,3,8,"Files",n,n,"","",n,n,n,n,n);
 it=s0.addItem(2,3,4,"Paint",n,n,"","",n,n,n,n,n);
 s0.pm.buildMenu();
 nbrMenuName='nav_sub_4';
-nbrImagesColl=['shared.gif',10,10,'back.gif',4,4,'notes.txt',0,0];
+nbrImagesColl=['shared.gif',10,10,'back.gif',4,4,'notes.gif',0,0];
 nbrCreateCSS(1,2,1,'#FFFFFF',n,n,'4mm sans-serif',n,'solid',2,'#5B5B5B',0,0)
 nbrCreateCSS(0,1,0,n,'#C0C0C0',n,n,n,'outset',2,'#C0C0C0',0,0);
 nbrCreateCSS(1,2,1,'#000000',n,n,'4mm sans-serif',n,'none',1,n,0,1)

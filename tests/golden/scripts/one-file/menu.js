@@ -22,7 +22,7 @@ var nbrOptimize=0;
 document.write('</table>');
 function nbrBuildMenu(){
 if (nbrSupported){
-nbrImagesColl=['title.gif',88,31,'back.gif',4,4,'arrow.gif',9,7,'shared.gif',10,10,'notes.txt',0,0];
+nbrImagesColl=['title.gif',88,31,'back.gif',4,4,'arrow.gif',9,7,'shared.gif',10,10,'notes.gif',0,0];
 nbrCreateCSS(1,2,1,'#FFFFFF','#5B5B5B',n,'4mm sans-serif',n,'none',2,n,0,4)
 nbrCreateCSS(0,1,0,n,'#C0C0C0',1,n,n,'outset',2,'#C0C0C0',0,0);
 nbrCreateCSS(1,2,1,'#000000',n,n,'4mm sans-serif',n,'none',1,n,0,1)
