@@ -5,6 +5,7 @@
 #include <QProcess>
 #include <QSaveFile>
 #include <QStandardPaths>
+#include <algorithm>
 #include <array>
 
 #include "desktop/display_text.h"
@@ -94,7 +95,16 @@ QString FileTypes::desktopEntry() const {
       .arg(quoted(program_), opened.join(';'));
 }
 
+/// Whether an installed package registers the program for all users.
+bool FileTypes::isInstalled() const {
+  constexpr const char* entry = "applications/example.nimbrel.Nimbrel.desktop";
+  const auto own = QDir(dataFolder_).filePath(entry);
+  const auto all = QStandardPaths::locateAll(QStandardPaths::GenericDataLocation, entry);
+  return std::ranges::any_of(all, [&](const QString& found) { return QFileInfo(found) != QFileInfo(own); });
+}
+
 void FileTypes::publish() const {
+  if (isInstalled()) return;
   bool isNew = writeIfNew(dataFolder_ + "/mime/packages/nimbrel-user.xml", mimeTypes().toUtf8());
   isNew |= writeIfNew(dataFolder_ + "/applications/example.nimbrel.Nimbrel.desktop", desktopEntry().toUtf8());
   const auto icons = dataFolder_ + "/icons/hicolor/scalable/";

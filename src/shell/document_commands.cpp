@@ -37,15 +37,6 @@ std::string lossText(const ReadNotes& notes) {
          " unknown to this version. The first: " + first;
 }
 
-/// Returns nullptr for a folder that cannot be locked. Saving is then only as safe as the comparison of the file.
-std::unique_ptr<FolderLock> lockFolderOf(FileSystem& files, const std::string& path) {
-  try {
-    return files.lock(folderName(path));
-  } catch (const FileError&) {
-    return nullptr;
-  }
-}
-
 }  // namespace
 
 bool frmMain::PromptToSave() {
@@ -188,7 +179,7 @@ bool frmMain::save(const std::string& path) {
   LeaveCells();
   while (true) {
     // Held from the comparison to the end of the write, so that no other program of ours saves in between.
-    auto lock = lockFolderOf(ports.files, path);
+    auto lock = ports.files.lock(std::array{std::string(folderName(path))});
     if (path != ownFile_.path() || !ownFile_.hasChanged(ports.files)) {
       const auto text = menuFileText(document);
       ports.files.replace(path, text);

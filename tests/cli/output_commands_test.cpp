@@ -1,3 +1,6 @@
+#include <sys/wait.h>
+#include <unistd.h>
+
 #include "cli/nbrc_test.h"
 #include "platform/memory/memory_file_system.h"
 
@@ -183,6 +186,21 @@ TEST_F(LinkCommand, ContinuesAfterAPageThatFails) {
       (Outcome{1, "", fault("gone.html", "No such file or directory") + fault("a.html", "is read-only")}));
   EXPECT_EQ(read("a.html"), page);
   EXPECT_THAT(read("pages/b c.html"), HasSubstr("nbrBuildMenu();"));
+}
+
+TEST_F(LinkCommand, SeveralProgramsOnOnePageKeepEachOthersLinks) {
+  constexpr int programs = 8;
+  std::vector<pid_t> children;
+  for (int i = 0; i < programs; ++i) {
+    const auto menu = "menu" + std::to_string(i) + ".js";
+    write(menu, read("menu1.js"));
+    const pid_t child = ::fork();
+    if (child == 0) ::_exit(run({"link", menu, "a.html"}).status);
+    children.push_back(child);
+  }
+  for (const pid_t child : children) ::waitpid(child, nullptr, 0);
+  for (int i = 0; i < programs; ++i)
+    EXPECT_THAT(read("a.html"), HasSubstr("menu" + std::to_string(i) + ".js"));
 }
 
 TEST_F(LinkCommand, RefusesACompiledFileThatIsTooOld) {

@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QLockFile>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTabBar>
@@ -191,6 +192,17 @@ TEST_F(Desktop, AsksBeforeUnsavedWorkIsLostAndSavesUnderTheTypedName) {
   EXPECT_TRUE(action("mnuFileMRU1").text().endsWith(file.right(12)));
 }
 
+TEST_F(Desktop, ALockedSettingsFileHoldsNothingUp) {
+  QLockFile lock(run.path("config/Nimbrel/Nimbrel.ini.lock"));
+  ASSERT_TRUE(lock.tryLock());
+  UserSettings settings;
+  settings.SaveSetting("Settings", "key", "new");
+  EXPECT_EQ(settings.GetSetting("Settings", "key", ""), "new");
+  EXPECT_EQ(UserSettings().GetSetting("Settings", "key", "none"), "none");
+  lock.unlock();
+  EXPECT_TRUE(waitFor([] { return UserSettings().GetSetting("Settings", "key", "none") == "new"; }));
+}
+
 TEST_F(Desktop, AFileIsKnownByItsWholePathAndReloadedAfterAChangeByOthers) {
   Document document;
   BuildDefaultDocument(document);
@@ -272,6 +284,11 @@ TEST_F(Desktop, StartsOnAnExistingScreenBehindTheTipAndKeepsItsSettings) {
               testing::AllOf(HasSubstr("*.nbr"), HasSubstr("Nimbrel Menu Style")));
   EXPECT_THAT(run.read("data/applications/example.nimbrel.Nimbrel.desktop").toStdString(),
               HasSubstr("MimeType=application/x-nimbrel-menu;\n"));
+  run.write("share/applications/example.nimbrel.Nimbrel.desktop", "of a package");
+  qputenv("XDG_DATA_DIRS", run.path("share").toLocal8Bit());
+  FileTypes(run.path("unused"), "nimbrel").publish();
+  EXPECT_FALSE(QFile::exists(run.path("unused")));
+  qunsetenv("XDG_DATA_DIRS");
   run.view().resize(700, 500);
   EXPECT_TRUE(run.view().close());
   EXPECT_EQ(settings.GetSetting("Settings2", "MainWidth", ""), "10500");

@@ -1,12 +1,15 @@
 #include "platform/posix/replacement.h"
 
 #include <chrono>
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <random>
 #include <signal.h>
+#include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
+#include <sys/xattr.h>
 #include <thread>
 #include <unistd.h>
 
@@ -102,11 +105,72 @@ TEST_F(Replacing, OnAFullDiskLeavesTheOldFileAndNothingElse) {
   EXPECT_THAT(names(), ElementsAre("a"));
 }
 
+TEST_F(Replacing, KeepsOtherNamesAndExtendedAttributes) {
+  folder_.write("a", "old and longer");
+  fs::create_hard_link(folder_ / "a", folder_ / "b");
+  folder_.write("c", "old");
+  const bool hasAttributes = ::setxattr((folder_ / "c").c_str(), "user.note", "kept", 4, 0) == 0;
+  for (const auto* name : {"a", "c"}) replace(name, "new");
+  EXPECT_EQ(folder_.read("b"), "new");
+  std::string note(4, ' ');
+  if (hasAttributes) ::getxattr((folder_ / "c").c_str(), "user.note", note.data(), note.size());
+  EXPECT_EQ(note, hasAttributes ? "kept" : "    ");
+  EXPECT_THAT(names(), ElementsAre("a", "b", "c"));
+}
+
+/// Runs a child process, whose visit of the folder is its first, and returns its exit status.
+template <class F>
+int inChild(F action) {
+  const pid_t child = ::fork();
+  if (child == 0) ::_exit(action());
+  int status = 0;
+  ::waitpid(child, &status, 0);
+  return status;
+}
+
+TEST_F(Replacing, RemovesOnlyWhatDeadProcessesOfOursHaveLeft) {
+  for (const auto* name :
+       {"a", ".nimbrel-1-0", ".nimbrel-1-1.backup", ".nimbrel-notes", ".nimbrel-1-2.txt"}) {
+    folder_.write(name, "left");
+  }
+  folder_.write(".nimbrel-99999-0", "in use");
+  const Handle used(::open((folder_ / ".nimbrel-99999-0").c_str(), O_RDONLY));
+  ASSERT_EQ(::flock(used.get(), LOCK_EX), 0);
+  EXPECT_EQ(inChild([this] {
+              replace("a", "new");
+              return 0;
+            }),
+            0);
+  EXPECT_THAT(names(), ElementsAre(".nimbrel-1-2.txt", ".nimbrel-99999-0", ".nimbrel-notes", "a"));
+}
+
+/// As after a loss of power: the backup is whole, and the file has parts of both sides, in any order.
+TEST_F(Replacing, PutsBackWhatWasBeingWrittenInPlaceUnlessItWasChangedSince) {
+  const auto after = [&](const std::string& bytes) {
+    folder_.write("a", bytes);
+    fs::create_hard_link(folder_ / "a", folder_ / "b");
+    folder_.write(".nimbrel-1-0.backup", "a/6/8\noooooonnnnnnnn");
+    const int status = inChild([this] {
+      const auto read = files_.read(fromHostPath((folder_ / "b").string()));
+      return read == "oooooo" ? 1 : read == "nnnnnnnn" ? 2 : read == "edited" ? 3 : 4;
+    });
+    fs::remove(folder_ / "b");
+    const bool isLeft = fs::remove(folder_ / ".nimbrel-1-0.backup");
+    return std::pair(WEXITSTATUS(status), isLeft);
+  };
+  EXPECT_EQ(after("nnoonn"), std::pair(1, false));
+  EXPECT_EQ(after("nnnoo"), std::pair(1, false));
+  EXPECT_EQ(after("nnnnnnnn"), std::pair(2, false));
+  EXPECT_EQ(after("edited"), std::pair(3, true));
+}
+
 TEST_F(Replacing, ThatIsKilledLeavesTheOldOrTheNewFile) {
   constexpr std::size_t size = 300'000;
   replace("a", std::string(size, 'a'));
   std::mt19937 engine(1);
-  for (int round = 0; round < 15; ++round) {
+  for (int round = 0; round < 30; ++round) {
+    if (round == 15)
+      fs::create_hard_link(folder_ / "a", folder_ / "b");  // from here on it is written in place
     const pid_t child = ::fork();
     if (child == 0) {
       for (char c = 'a';; c = c == 'z' ? 'a' : static_cast<char>(c + 1)) replace("a", std::string(size, c));
@@ -114,10 +178,16 @@ TEST_F(Replacing, ThatIsKilledLeavesTheOldOrTheNewFile) {
     std::this_thread::sleep_for(std::chrono::microseconds(engine() % 20'000));
     ::kill(child, SIGKILL);
     ::waitpid(child, nullptr, 0);
+    inChild([this] { return files_.read(fromHostPath((folder_ / "a").string())).empty() ? 1 : 0; });
     const auto bytes = folder_.read("a");
     ASSERT_EQ(bytes.size(), size);
     ASSERT_EQ(bytes.find_first_not_of(bytes[0]), std::string::npos);
   }
+  inChild([this] {
+    replace("a", "last");
+    return 0;
+  });
+  EXPECT_THAT(names(), ElementsAre("a", "b"));
 }
 
 }  // namespace

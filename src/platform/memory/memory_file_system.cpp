@@ -65,8 +65,7 @@ bool MemoryFileSystem::isInside(std::string_view path, std::string_view folder) 
   return full == inside || full.starts_with(inside + '\\');
 }
 
-std::unique_ptr<FolderLock> MemoryFileSystem::lock(std::string_view folder) {
-  if (!isFolder(folder)) throw FileError(std::string(folder), "no such folder");
+std::unique_ptr<FolderLock> MemoryFileSystem::lock(std::span<const std::string>) {
   return std::make_unique<FolderLock>();
 }
 

@@ -6,13 +6,14 @@
 #include <fcntl.h>
 #include <filesystem>
 #include <set>
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
 
+#include "platform/posix/folder_locks.h"
 #include "platform/posix/host_paths.h"
 #include "platform/posix/replacement.h"
+#include "platform/posix/strays.h"
 #include "platform/posix/system_error.h"
 
 namespace nimbrel {
@@ -29,6 +30,10 @@ Handle openToRead(std::string_view path, struct stat& status) {
   if (::fstat(file.get(), &status) != 0) throwSystemError(path);
   if (S_ISDIR(status.st_mode)) throwSystemError(path, EISDIR);
   if (!S_ISREG(status.st_mode)) throw FileError(std::string(path), "is not a regular file");
+  if (status.st_nlink > 1) {  // writing it in place may have been interrupted
+    removeStrays(fs::path(toHostPath(path)).parent_path());
+    if (::fstat(file.get(), &status) != 0) throwSystemError(path);
+  }
   return file;
 }
 
@@ -47,21 +52,6 @@ std::string readFrom(const Handle& file, std::string_view path, off_t offset, st
   bytes.resize(size);
   return bytes;
 }
-
-/// A lock on the folder itself, so that it needs no file. The system releases it with the process at the latest.
-class HostFolderLock : public FolderLock {
- public:
-  explicit HostFolderLock(std::string_view folder)
-      : folder_(::open(toHostPath(folder).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
-    if (!folder_.isOpen()) throwSystemError(folder);
-    while (::flock(folder_.get(), LOCK_EX) != 0) {
-      if (errno != EINTR) throwSystemError(folder);
-    }
-  }
-
- private:
-  Handle folder_;
-};
 
 }  // namespace
 
@@ -111,15 +101,17 @@ bool HostFileSystem::isInside(std::string_view path, std::string_view folder) co
   return std::ranges::mismatch(inner, outer).in2 == outer.end();
 }
 
-std::unique_ptr<FolderLock> HostFileSystem::lock(std::string_view folder) {
-  requireUsable(folder);
-  return std::make_unique<HostFolderLock>(folder);
+std::unique_ptr<FolderLock> HostFileSystem::lock(std::span<const std::string> folders) {
+  std::vector<fs::path> paths;
+  for (const auto& folder : folders) paths.emplace_back(folder.empty() ? "." : toHostPath(folder));
+  return std::make_unique<FolderLocks>(paths);
 }
 
 void HostFileSystem::replace(std::string_view path, std::string_view bytes) {
   Replacement file(path, bytes);
   file.flush();
   file.commit();
+  flushFolders({file.folder()});
 }
 
 Findings HostFileSystem::replaceAll(std::span<const NewFile> newFiles) {
@@ -134,12 +126,15 @@ Findings HostFileSystem::replaceAll(std::span<const NewFile> newFiles) {
   std::deque<Replacement> files;
   for (const auto& file : newFiles) attempt([&] { files.emplace_back(file.path, file.bytes); });
   std::set<dev_t> flushedDevices;
+  std::set<fs::path> folders;
   for (auto& file : files) {
     attempt([&] {
       file.flushDevice(flushedDevices);
       file.commit();
+      folders.insert(file.folder());
     });
   }
+  flushFolders(folders);
   return findings;
 }
 

@@ -1,17 +1,15 @@
 #include "platform/posix/product_copy.h"
 
 #include <cstdint>
-#include <fcntl.h>
 #include <fstream>
 #include <iterator>
 #include <map>
 #include <optional>
 #include <string>
-#include <sys/file.h>
 #include <system_error>
-#include <unistd.h>
 
 #include "platform/file_error.h"
+#include "platform/posix/folder_locks.h"
 #include "platform/posix/host_paths.h"
 #include "text/product.h"
 
@@ -55,21 +53,8 @@ std::optional<Hashes> hashesOf(const fs::path& folder) {
   return hashes;
 }
 
-/// Locks a copy against other processes. The lock is on its parent folder, so it needs no file.
-class Lock {
- public:
-  explicit Lock(const fs::path& copy) : folder_(::open(copy.parent_path().c_str(), O_RDONLY | O_CLOEXEC)) {
-    if (folder_ >= 0) ::flock(folder_, LOCK_EX);
-  }
-  Lock(const Lock&) = delete;
-  Lock& operator=(const Lock&) = delete;
-  ~Lock() {
-    if (folder_ >= 0) ::close(folder_);
-  }
-
- private:
-  int folder_;
-};
+/// Locks a copy against other processes, by its parent folder.
+FolderLocks lockOf(const fs::path& copy) { return FolderLocks({copy.parent_path()}); }
 
 /// The contents of the list. `version` is empty if there is no list.
 struct Installed {
@@ -137,7 +122,7 @@ std::error_code complete(const fs::path& product, const Hashes& installed, const
 void makeProductCopy(const fs::path& product, const fs::path& copy) {
   std::error_code error;
   fs::create_directories(copy.parent_path(), error);
-  const Lock lock(copy);
+  const auto lock = lockOf(copy);
   if (fs::is_directory(copy / "libraries", error)) return;  // another process has created it
   const auto installed = hashesOf(product);
   if (!installed) {
@@ -151,7 +136,7 @@ void makeProductCopy(const fs::path& product, const fs::path& copy) {
 
 void updateProductCopy(const fs::path& product, const fs::path& copy) {
   if (readList(copy).version == productBuild) return;
-  const Lock lock(copy);
+  const auto lock = lockOf(copy);
   const auto old = readList(copy);
   if (old.version == productBuild) return;
   const auto& before = old.hashes;

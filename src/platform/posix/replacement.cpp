@@ -1,29 +1,26 @@
 #include "platform/posix/replacement.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
+#include <map>
+#include <sys/file.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 #include <utility>
+#include <vector>
 
 #include "platform/file_error.h"
 #include "platform/posix/host_paths.h"
+#include "platform/posix/strays.h"
 #include "platform/posix/system_error.h"
+#include "platform/posix/write_through.h"
 
 namespace nimbrel {
 namespace {
 
 namespace fs = std::filesystem;
-
-bool writeAll(int descriptor, std::string_view bytes) {
-  while (!bytes.empty()) {
-    const auto written = ::write(descriptor, bytes.data(), bytes.size());
-    if (written < 0 && errno == EINTR) continue;
-    if (written < 0) return false;
-    bytes.remove_prefix(static_cast<std::size_t>(written));
-  }
-  return true;
-}
 
 mode_t modeOfNewFiles() {
   const mode_t mask = ::umask(0);
@@ -49,6 +46,34 @@ fs::path folderOf(const fs::path& path) {
 
 }  // namespace
 
+bool writeAll(int descriptor, std::string_view bytes) {
+  while (!bytes.empty()) {
+    const auto written = ::write(descriptor, bytes.data(), bytes.size());
+    if (written < 0 && errno == EINTR) continue;
+    if (written < 0) return false;
+    bytes.remove_prefix(static_cast<std::size_t>(written));
+  }
+  return true;
+}
+
+void flushFolders(const std::set<fs::path>& folders) {
+  constexpr std::size_t few = 4;  // from here on, one flush of the device is faster
+  std::map<dev_t, std::vector<Handle>> open;
+  for (const auto& folder : folders) {
+    Handle handle(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    struct stat status {};
+    if (handle.isOpen() && ::fstat(handle.get(), &status) == 0)
+      open[status.st_dev].push_back(std::move(handle));
+  }
+  for (const auto& [device, handles] : open) {
+    if (handles.size() > few) {
+      ::syncfs(handles.front().get());
+    } else {
+      for (const auto& handle : handles) ::fsync(handle.get());
+    }
+  }
+}
+
 Handle::Handle(Handle&& other) noexcept : descriptor_(std::exchange(other.descriptor_, -1)) {}
 
 Handle& Handle::operator=(Handle&& other) noexcept {
@@ -67,8 +92,19 @@ Replacement::Replacement(std::string_view documentPath)
 
 // The delegated constructor has completed, so if a step throws, the destructor removes the temporary file.
 Replacement::Replacement(std::string_view documentPath, std::string_view bytes) : Replacement(documentPath) {
-  open(folderOf(target_));
-  adoptAttributes();
+  removeStrays(folder());
+  struct stat old {};
+  const bool exists = findOld(old);
+  if (exists && old.st_nlink > 1) {
+    inPlace_ = bytes;
+    return;
+  }
+  open();
+  if (exists) {
+    adoptAttributes(old);
+  } else if (::fchmod(file_.get(), modeOfNewFiles()) != 0) {
+    throwSystemError(documentPath_);
+  }
   if (!writeAll(file_.get(), bytes)) throwSystemError(documentPath_);
 }
 
@@ -76,42 +112,73 @@ Replacement::~Replacement() {
   if (file_.isOpen() && !name_.empty()) ::unlink(name_.c_str());
 }
 
+fs::path Replacement::folder() const { return folderOf(target_); }
+
 /// Prefers a file without a name, of which nothing remains even if the process is killed.
-void Replacement::open(const fs::path& folder) {
+void Replacement::open() {
   const bool canBeNamed = ::access("/proc/self/fd", X_OK) == 0;
   errno = EOPNOTSUPP;
   if (canBeNamed) {
-    file_ = Handle(::open(folder.c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, S_IRUSR | S_IWUSR));
+    file_ = Handle(::open(folder().c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, S_IRUSR | S_IWUSR));
   }
-  if (file_.isOpen()) return;
-  if (errno != EOPNOTSUPP && errno != EISDIR && errno != EINVAL) throwSystemError(documentPath_);
-  name_ = (folder / ".nimbrel-XXXXXX").string();
-  file_ = Handle(::mkostemp(name_.data(), O_CLOEXEC));
-  if (!file_.isOpen()) throwSystemError(documentPath_);
+  if (!file_.isOpen()) {
+    if (errno != EOPNOTSUPP && errno != EISDIR && errno != EINVAL) throwSystemError(documentPath_);
+    for (unsigned number = 0; !file_.isOpen(); ++number) {
+      name_ = (folder() / strayName(number)).string();
+      file_ = Handle(::open(name_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR));
+      if (!file_.isOpen() && errno != EEXIST) throwSystemError(documentPath_);
+    }
+  }
+  ::flock(file_.get(), LOCK_EX | LOCK_NB);  // shows others that this process is alive; see `removeStrays`
 }
 
-/// Gives the temporary file the mode and owner of the old one. Throws if that is not a writable regular file.
-void Replacement::adoptAttributes() {
-  struct stat old {};
+/// Returns false if there is no old file. Throws if it is not a writable regular file.
+bool Replacement::findOld(struct stat& old) const {
   if (::stat(target_.c_str(), &old) != 0) {
-    if (errno != ENOENT || ::fchmod(file_.get(), modeOfNewFiles()) != 0) throwSystemError(documentPath_);
-    return;
+    if (errno != ENOENT) throwSystemError(documentPath_);
+    return false;
   }
   if (S_ISDIR(old.st_mode)) throwSystemError(documentPath_, EISDIR);
   if (!S_ISREG(old.st_mode)) throw FileError(documentPath_, "is not a regular file");
   // access() alone would let root write a file that its owner has made read-only.
   const bool markedReadOnly = (old.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0;
   if (markedReadOnly || ::access(target_.c_str(), W_OK) != 0) throw FileError(documentPath_, "is read-only");
-  // Only root can keep another owner. For other users the file becomes theirs.
-  if (::fchown(file_.get(), old.st_uid, old.st_gid) != 0) errno = 0;
+  return true;
+}
+
+void Replacement::adoptAttributes(const struct stat& old) const {
+  // Only root can keep another owner. Members of the group can keep the group.
+  constexpr auto unchanged = static_cast<uid_t>(-1);
+  if (::fchown(file_.get(), old.st_uid, old.st_gid) != 0 && ::fchown(file_.get(), unchanged, old.st_gid) != 0)
+    errno = 0;
   if (::fchmod(file_.get(), old.st_mode & 07777) != 0) throwSystemError(documentPath_);
+  adoptExtendedAttributes();
+}
+
+/// Those that the file system or the user's rights do not allow are lost.
+void Replacement::adoptExtendedAttributes() const {
+  const auto size = ::listxattr(target_.c_str(), nullptr, 0);
+  if (size <= 0) return;
+  std::string names(static_cast<std::size_t>(size), '\0');
+  const auto listed = ::listxattr(target_.c_str(), names.data(), names.size());
+  for (std::string_view rest = names.substr(0, static_cast<std::size_t>(std::max<ssize_t>(listed, 0)));
+       !rest.empty();) {
+    const std::string name(rest.substr(0, rest.find('\0')));
+    rest.remove_prefix(std::min(rest.size(), name.size() + 1));
+    const auto length = ::getxattr(target_.c_str(), name.c_str(), nullptr, 0);
+    if (length < 0) continue;
+    std::string value(static_cast<std::size_t>(length), '\0');
+    const auto got = ::getxattr(target_.c_str(), name.c_str(), value.data(), value.size());
+    if (got >= 0) ::fsetxattr(file_.get(), name.c_str(), value.data(), static_cast<std::size_t>(got), 0);
+  }
 }
 
 void Replacement::flush() {
-  if (::fdatasync(file_.get()) != 0) throwSystemError(documentPath_);
+  if (!inPlace_ && ::fdatasync(file_.get()) != 0) throwSystemError(documentPath_);
 }
 
 void Replacement::flushDevice(std::set<dev_t>& flushed) {
+  if (inPlace_) return;
   struct stat status {};
   if (::fstat(file_.get(), &status) != 0) throwSystemError(documentPath_);
   if (flushed.contains(status.st_dev)) return;
@@ -120,24 +187,30 @@ void Replacement::flushDevice(std::set<dev_t>& flushed) {
 }
 
 /// Gives a nameless file a temporary name, since linkat() cannot replace an existing file.
-void Replacement::nameIn(const fs::path& folder) {
+void Replacement::nameFile() {
   const auto self = "/proc/self/fd/" + std::to_string(file_.get());
-  for (unsigned attempt = 0;; ++attempt) {
-    const auto name = ".nimbrel-" + std::to_string(::getpid()) + "-" + std::to_string(attempt);
-    const auto path = (folder / name).string();
+  for (unsigned number = 0; name_.empty(); ++number) {
+    const auto path = (folder() / strayName(number)).string();
     if (::linkat(AT_FDCWD, self.c_str(), AT_FDCWD, path.c_str(), AT_SYMLINK_FOLLOW) == 0) {
       name_ = path;
-      return;
+    } else if (errno != EEXIST) {
+      throwSystemError(documentPath_);
     }
-    if (errno != EEXIST) throwSystemError(documentPath_);
   }
 }
 
 void Replacement::commit() {
-  if (name_.empty()) nameIn(folderOf(target_));
+  if (inPlace_) {
+    writeThrough(documentPath_, target_, *inPlace_);
+    return;
+  }
+  // Some file systems report a failed write only here. The copy of the descriptor keeps the lock.
+  Handle copy(::dup(file_.get()));
+  if (!copy.isOpen() || !copy.close()) throwSystemError(documentPath_);
+  if (name_.empty()) nameFile();
   if (::rename(name_.c_str(), target_.c_str()) != 0) throwSystemError(documentPath_);
   name_.clear();
-  if (!file_.close()) throwSystemError(documentPath_);
+  file_.close();
 }
 
 }  // namespace nimbrel

@@ -18,11 +18,13 @@ class FileTypes : public ClassesRoot {
   void CreateClassKey(std::string_view key) override;
   void SetClassValue(std::string_view key, std::string_view valueName, std::string_view value) override;
 
-  /// Writes the files that differ. If there are any, updates the desktop's caches in the background.
+  /// Writes the files that differ, unless an installed package brings its own. If there are any, updates the desktop's
+  /// caches in the background.
   void publish() const;
 
  private:
   std::string value(const std::string& key) const;
+  bool isInstalled() const;
   QString mimeTypes() const;
   QString desktopEntry() const;
 

@@ -59,9 +59,9 @@ class FileSystem {
   /// need not exist.
   virtual bool isInside(std::string_view path, std::string_view folder) const = 0;
 
-  /// Locks an existing folder against other programs that lock it, and waits for them if need be. Reading and
-  /// writing need no lock.
-  virtual std::unique_ptr<FolderLock> lock(std::string_view folder) = 0;
+  /// Locks folders against other programs that lock them, and waits some seconds for those if need be. Folders that
+  /// cannot be locked are left out: reading and writing need no lock.
+  virtual std::unique_ptr<FolderLock> lock(std::span<const std::string> folders) = 0;
 
   /// Creates the file or replaces it atomically: after a crash or power failure it has either its old bytes
   /// or all of the new ones. Keeps the mode of an old file and follows links. Fails if the file is read-only.

@@ -13,7 +13,7 @@ class HostFileSystem : public FileSystem {
   std::string readPart(std::string_view path, std::uint64_t offset, std::size_t count) const override;
   std::optional<FileStatus> status(std::string_view path) const override;
   bool isInside(std::string_view path, std::string_view folder) const override;
-  std::unique_ptr<FolderLock> lock(std::string_view folder) override;
+  std::unique_ptr<FolderLock> lock(std::span<const std::string> folders) override;
   void replace(std::string_view path, std::string_view bytes) override;
   Findings replaceAll(std::span<const NewFile> newFiles) override;
   void generate(std::string_view path, std::string_view bytes) override;

@@ -1,9 +1,11 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
+#include <sys/stat.h>
 #include <sys/types.h>
 
 namespace nimbrel {
@@ -24,12 +26,21 @@ class Handle {
   int descriptor_;
 };
 
+/// Writes all bytes. Returns false for an error of the system.
+bool writeAll(int descriptor, std::string_view bytes);
+
+/// Waits until the names in these folders are on the disk. Folders that cannot be flushed are left out.
+void flushFolders(const std::set<std::filesystem::path>& folders);
+
 /// Replaces a file atomically: the new bytes are written to a temporary file in the same folder, which is
 /// then renamed. Before `commit()`, or if a step fails, the old file is unchanged and the temporary file is
 /// removed. All steps throw `FileError` with the path in document form.
+///
+/// A file with several names (hard links) is written in place at the end, with a backup beside it (`writeThrough`).
 class Replacement {
  public:
-  /// Writes the temporary file, with the mode and owner of the old file.
+  /// Writes the temporary file, with mode, extended attributes and, where allowed, owner and group of the old file.
+  /// `bytes` must stay until `commit`.
   Replacement(std::string_view documentPath, std::string_view bytes);
   Replacement(const Replacement&) = delete;
   Replacement& operator=(const Replacement&) = delete;
@@ -42,19 +53,25 @@ class Replacement {
   /// is much faster than a flush for each.
   void flushDevice(std::set<dev_t>& flushed);
 
-  /// Renames the temporary file to the path of the old one.
+  /// Renames the temporary file to the path of the old one. The name may not yet be on the disk.
   void commit();
+
+  /// The folder of the file, after links were followed.
+  std::filesystem::path folder() const;
 
  private:
   explicit Replacement(std::string_view documentPath);
-  void open(const std::filesystem::path& folder);
-  void adoptAttributes();
-  void nameIn(const std::filesystem::path& folder);
+  void open();
+  bool findOld(struct stat& old) const;
+  void adoptAttributes(const struct stat& old) const;
+  void adoptExtendedAttributes() const;
+  void nameFile();
 
   std::string documentPath_;
   std::filesystem::path target_;
   std::string name_;  // of the temporary file, empty while it has none
   Handle file_;
+  std::optional<std::string_view> inPlace_;  // the bytes, if the file is to be written in place
 };
 
 }  // namespace nimbrel

@@ -1,0 +1,43 @@
+#include "platform/posix/folder_locks.h"
+
+#include <cerrno>
+#include <chrono>
+#include <fcntl.h>
+#include <map>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <thread>
+#include <utility>
+
+namespace nimbrel {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+bool lockUntil(int descriptor, Clock::time_point end) {
+  constexpr std::chrono::milliseconds pause{5};
+  while (::flock(descriptor, LOCK_EX | LOCK_NB) != 0) {
+    if (errno != EWOULDBLOCK && errno != EINTR) return false;
+    if (Clock::now() >= end) return false;
+    std::this_thread::sleep_for(pause);
+  }
+  return true;
+}
+
+}  // namespace
+
+FolderLocks::FolderLocks(const std::vector<std::filesystem::path>& folders) {
+  std::map<std::pair<dev_t, ino_t>, Handle> inOrder;  // one folder may have several paths
+  for (const auto& folder : folders) {
+    Handle handle(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    struct stat status {};
+    if (!handle.isOpen() || ::fstat(handle.get(), &status) != 0) continue;
+    inOrder.try_emplace({status.st_dev, status.st_ino}, std::move(handle));
+  }
+  const auto end = Clock::now() + patience;
+  for (auto& [identity, handle] : inOrder) {
+    if (lockUntil(handle.get(), end)) locked_.push_back(std::move(handle));
+  }
+}
+
+}  // namespace nimbrel
