@@ -161,10 +161,10 @@ void Replacement::adoptExtendedAttributes() const {
   if (size <= 0) return;
   std::string names(static_cast<std::size_t>(size), '\0');
   const auto listed = ::listxattr(target_.c_str(), names.data(), names.size());
-  for (std::string_view rest = names.substr(0, static_cast<std::size_t>(std::max<ssize_t>(listed, 0)));
-       !rest.empty();) {
-    const std::string name(rest.substr(0, rest.find('\0')));
-    rest.remove_prefix(std::min(rest.size(), name.size() + 1));
+  names.resize(static_cast<std::size_t>(std::max<ssize_t>(listed, 0)));
+  for (std::size_t begin = 0; begin < names.size();) {
+    const std::string name = names.c_str() + begin;  // each ends in a zero byte
+    begin += name.size() + 1;
     const auto length = ::getxattr(target_.c_str(), name.c_str(), nullptr, 0);
     if (length < 0) continue;
     std::string value(static_cast<std::size_t>(length), '\0');
