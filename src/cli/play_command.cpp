@@ -50,6 +50,7 @@ class Player {
   void press(const Words& words);
   void replicate(const Words& words);
   void touch(const Words& words);
+  const Node& node(const std::string& key) const;
   void close();
   void print(const Words& words);
   PropertySheet& sheet();
@@ -101,6 +102,7 @@ const Statement* Statement::find(std::string_view name) {
        [](Player& p, const Words& w) {
          p.asker_.queueForm(w[1], {w.begin() + 2, w.end()});
        }},
+      {"rename", 2, [](Player& p, const Words& w) { p.window_.rename(p.node(w[1]), w[2]); }},
       {"touch", 2, [](Player& p, const Words& w) { p.touch(w); }},
       {"close", 0, [](Player& p, const Words&) { p.close(); }},
       {"print", 1, [](Player& p, const Words& w) { p.print(w); }},
@@ -144,10 +146,12 @@ void Player::force(const Words& words) {
   }
 }
 
-void Player::select(const Words& words) {
-  const Node* node = window_.document.tvTreeView.find(words[1]);
-  if (node == nullptr) throw MacroFault("no node " + words[1]);
-  window_.tvTreeView_NodeClick(node);
+void Player::select(const Words& words) { window_.tvTreeView_NodeClick(&node(words[1])); }
+
+const Node& Player::node(const std::string& key) const {
+  const auto* found = window_.document.tvTreeView.find(key);
+  if (found == nullptr) throw MacroFault("no node " + key);
+  return *found;
 }
 
 void Player::key(const Words& words) { window_.tvTreeView_KeyUp(words[1] == "Delete" ? keys::Delete : 0); }

@@ -52,6 +52,10 @@ SheetView& MainView::sheet(Kind kind) {
 
 void MainView::connectAll() {
   connect(&tree_, &TreeView::nodeChosen, this, &MainView::showNode);
+  tree_.addActions(commands_.treeActions());
+  connect(&model_, &TreeModel::renamed, this, [this](const Node* node, const QString& name) {
+    runAction([&] { main_.rename(*node, fromDisplay(name)); });
+  });
   connect(&tree_, &TreeView::deletePressed, this, &MainView::deleteNode);
   connect(&tree_, &TreeView::contextMenuRequested, this, &MainView::showContextMenu);
   connect(&commands_, &CommandActions::commandTriggered, this, &MainView::run);
@@ -136,6 +140,7 @@ void MainView::refresh() {
   tree_.showSelected(main_.selected());
   showSheets();
   for (auto* window : {&preview_, &liveExamples_}) refreshSideWindow(*window);
+  if (std::exchange(main_.isRenaming, false)) tree_.edit(tree_.currentIndex());
 }
 
 void MainView::showSheets() {

@@ -10,7 +10,7 @@ TreeView::TreeView(TreeModel& model, QWidget* parent) : QTreeView(parent), tree_
   setModel(&model);
   setHeaderHidden(true);
   setUniformRowHeights(true);
-  setEditTriggers(NoEditTriggers);
+  setEditTriggers(SelectedClicked);  // F2 is a command
   setExpandsOnDoubleClick(true);
   setAccessibleName("Menu structure");
 }
@@ -43,10 +43,12 @@ void TreeView::currentChanged(const QModelIndex& current, const QModelIndex& pre
     emit nodeChosen(TreeModel::node(current));
 }
 
-/// The right button does not select: its menu is for the current node.
 void TreeView::mousePressEvent(QMouseEvent* event) {
-  if (event->button() == Qt::RightButton) return;
   const auto index = indexAt(event->pos());
+  if (event->button() == Qt::RightButton) {  // its menu, which opens on release, is for the node under it
+    if (index.isValid() && index != currentIndex()) setCurrentIndex(index);
+    return;
+  }
   const bool isCurrentAgain = index.isValid() && index == currentIndex() && event->button() == Qt::LeftButton;
   QTreeView::mousePressEvent(event);
   if (isCurrentAgain) emit nodeChosen(TreeModel::node(currentIndex()));

@@ -35,6 +35,8 @@ const CommandHandler* CommandHandler::find(std::string_view command) {
       {"mnuEditCut", [](frmMain& w) { w.mnuEditCut(); }},
       {"mnuEditCopy", [](frmMain& w) { w.mnuEditCopy(); }},
       {"mnuEditPaste", [](frmMain& w) { w.mnuEditPaste(); }},
+      {"mnuEditDuplicate", [](frmMain& w) { w.mnuEditDuplicate(); }},
+      {"mnuEditRename", [](frmMain& w) { w.isRenaming = w.selected() != nullptr; }},
       {"mnuItemAddItem", [](frmMain& w) { w.mnuItemAddItem(); }},
       {"mnuItemDeleteItem", [](frmMain& w) { w.mnuItemDeleteItem(); }},
       {"mnuItemMoveItemUp", [](frmMain& w) { w.mnuItemMove(true); }},
@@ -213,6 +215,7 @@ void frmMain::EnableCommands(Kind kind) {
   const bool isSubmenu = kind == Kind::Submenu;
   commands.enable("mnuEditCut", isItem || isSubmenu);
   commands.enable("mnuEditCopy", isItem || isSubmenu);
+  commands.enable("mnuEditDuplicate", isItem);
   commands.enable("mnuItemDeleteItem", isItem);
   if (isItem) {
     enableMoves();

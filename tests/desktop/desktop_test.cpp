@@ -192,6 +192,29 @@ TEST_F(Desktop, AsksBeforeUnsavedWorkIsLostAndSavesUnderTheTypedName) {
   EXPECT_TRUE(action("mnuFileMRU1").text().endsWith(file.right(12)));
 }
 
+TEST_F(Desktop, TheTreeRenamesAddsAndMovesByKeys) {
+  run.start();
+  run.select("I3");
+  auto& tree = run.view().tree();
+  press(tree, Qt::Key_F2);
+  auto& editor = find<QLineEdit>(tree);
+  EXPECT_EQ(editor.text(), "Item3");
+  editor.setText("About");
+  press(editor, Qt::Key_Return);
+  EXPECT_TRUE(waitFor([&] { return tree.currentIndex().data() == "About"; }));
+  press(tree, Qt::Key_Insert);
+  EXPECT_EQ(selected(), "I4");
+  QTest::keyClick(&tree, Qt::Key_Up, Qt::ControlModifier);
+  EXPECT_EQ(tree.currentIndex().row(), 2);
+  QTest::mouseClick(tree.viewport(), Qt::RightButton, {},
+                    tree.visualRect(tree.model()->index(0, 0, tree.currentIndex().parent())).center());
+  EXPECT_EQ(selected(), "I1");
+  QApplication::activePopupWidget()->close();
+  for (int i = 0; i < 3; ++i) QTest::keyClick(&tree, Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_FALSE(run.main().state.IsDirty);
+  EXPECT_EQ(selected(), "I3");
+}
+
 TEST_F(Desktop, ALockedSettingsFileHoldsNothingUp) {
   QLockFile lock(run.path("config/Nimbrel/Nimbrel.ini.lock"));
   ASSERT_TRUE(lock.tryLock());

@@ -74,6 +74,9 @@ class frmMain {
   void CreatePreviewFile();
   void UpdateMRUList(const std::string& path, const std::string& name);
 
+  /// Gives a node another name: an item in all of its states. Line breaks become blanks.
+  void rename(const Node& node, std::string name);
+
   PropertySheet& sheetOf(Kind kind);
   /// The visible sheet, or nullptr if the tree is empty.
   PropertySheet* visibleSheet();
@@ -86,6 +89,7 @@ class frmMain {
   std::string title;
   Geometry geometry;
   bool isMinimised = false;
+  bool isRenaming = false;  ///< the author wants to rename the selected node in the tree; the view resets it
 
   frmLiveExamples liveExamples;
   frmBrowser browser;
@@ -135,6 +139,7 @@ class frmMain {
   void mnuEditCut();
   void mnuEditCopy();
   void mnuEditPaste();
+  void mnuEditDuplicate();
   void mnuItemAddItem();
   void mnuItemDeleteItem();
   void mnuItemMove(bool up);
