@@ -63,6 +63,9 @@ void MainView::connectAll() {
   for (auto* sheet : {&menuSheet_, &submenuSheet_, &itemSheet_}) {
     connect(sheet, &SheetView::actionFinished, this, [this] { nimbrel::runAction([this] { refresh(); }); });
     connect(sheet, &SheetView::helpRequested, this, &MainView::openHelp);
+    connect(sheet, &SheetView::menuRequested, this, [this](const QPoint& place) {
+      QMenu::exec({commands_.action("mnuEditResetProperty"), commands_.action("mnuEditResetElement")}, place);
+    });
   }
   for (auto* window : {&preview_, &liveExamples_}) {
     connect(window, &FormWindow::actionFinished, this, [this] { nimbrel::runAction([this] { refresh(); }); });

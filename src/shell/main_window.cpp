@@ -37,6 +37,8 @@ const CommandHandler* CommandHandler::find(std::string_view command) {
       {"mnuEditPaste", [](frmMain& w) { w.mnuEditPaste(); }},
       {"mnuEditDuplicate", [](frmMain& w) { w.mnuEditDuplicate(); }},
       {"mnuEditRename", [](frmMain& w) { w.isRenaming = w.selected() != nullptr; }},
+      {"mnuEditResetProperty", [](frmMain& w) { w.mnuEditReset(true); }},
+      {"mnuEditResetElement", [](frmMain& w) { w.mnuEditReset(false); }},
       {"mnuItemAddItem", [](frmMain& w) { w.mnuItemAddItem(); }},
       {"mnuItemDeleteItem", [](frmMain& w) { w.mnuItemDeleteItem(); }},
       {"mnuItemMoveItemUp", [](frmMain& w) { w.mnuItemMove(true); }},
@@ -100,7 +102,17 @@ frmMain::frmMain(Ports& p, std::string programFolder)
   readGeometry();
 }
 
+template <class E>
+void putStandards(PropertySheet& sheet) {
+  E standard;
+  SetDefaultValues(standard);
+  PutStandardsToPropertyControl(standard, sheet);
+}
+
 void frmMain::bindSheets() {
+  putStandards<MenuObj>(prctlMenu);
+  putStandards<SubmenuObj>(prctlSubmenu);
+  putStandards<ItemObj>(prctlItem);
   prctlMenu.Change = [this](int ordinal) { sheetChanged(Kind::Menu, ordinal); };
   prctlSubmenu.Change = [this](int ordinal) { sheetChanged(Kind::Submenu, ordinal); };
   prctlItem.Change = [this](int ordinal) { sheetChanged(Kind::Item, ordinal); };
@@ -259,6 +271,23 @@ void frmMain::sheetChanged(Kind kind, int ordinal) {
   auto text = ordinal == nameRow(kind) ? NodeText(element) : node.Text;
   edit.set(document, node, std::move(element), std::move(text));
   apply(std::move(edit));
+}
+
+/// Sets the current row of the sheet, or the whole element but its name, to the defaults.
+void frmMain::mnuEditReset(bool onlyRow) {
+  LeaveCells();
+  const auto* sheet = visibleSheet();
+  if (sheet == nullptr) return;
+  const int ordinal = onlyRow ? sheet->cursorRow() : -1;
+  Element element = *selectedElement();
+  std::visit([&](auto& object) { ResetToStandards(object, *sheet, ordinal); }, element);
+  Edit edit("Reset" + (onlyRow ? " " + std::string(sheet->row(ordinal).Caption) : " to Defaults"));
+  edit.before = {selectedKey_, ordinal, sheet->cursorColumn()};
+  edit.set(document, *selected(), std::move(element));
+  if (edit.steps.empty()) return;
+  const auto spot = edit.before;
+  apply(std::move(edit));
+  show(spot);
 }
 
 void frmMain::tvTreeView_NodeClick(const Node* node) {

@@ -85,12 +85,23 @@ class History : public testing::Test {
   }
 
   void changeSomething() {
-    constexpr std::array commands{
-        "mnuEditCut",           "mnuEditCopy",          "mnuEditPaste",
-        "mnuEditDuplicate",     "mnuItemAddItem",       "mnuItemAddItem",
-        "mnuItemDeleteItem",    "mnuItemMoveItemUp",    "mnuItemMoveItemDown",
-        "mnuSubmenuAddSubmenu", "mnuSubmenuAddSubmenu", "mnuSubmenuDeleteSubmenu",
-        "mnuStylePickStyle",    "mnuStyleApplyStyle",   "mnuToolsCompileProperties"};
+    constexpr std::array commands{"mnuEditCut",
+                                  "mnuEditCopy",
+                                  "mnuEditPaste",
+                                  "mnuEditDuplicate",
+                                  "mnuEditResetProperty",
+                                  "mnuEditResetElement",
+                                  "mnuItemAddItem",
+                                  "mnuItemAddItem",
+                                  "mnuItemDeleteItem",
+                                  "mnuItemMoveItemUp",
+                                  "mnuItemMoveItemDown",
+                                  "mnuSubmenuAddSubmenu",
+                                  "mnuSubmenuAddSubmenu",
+                                  "mnuSubmenuDeleteSubmenu",
+                                  "mnuStylePickStyle",
+                                  "mnuStyleApplyStyle",
+                                  "mnuToolsCompileProperties"};
     auto& tree = main.document.tvTreeView;
     main.tvTreeView_NodeClick(tree.at(below(tree.size()) + 1));
     system.asker.inForm = [this](Form& form) {

@@ -110,6 +110,7 @@ class frmMain {
   void RefreshCurrentSheet();
   void refill(const Node& node);
   void sheetChanged(Kind sheet, int ordinal);
+  void mnuEditReset(bool onlyRow);
   void select(const Node* node);
   Kind selectedKind() const;
   /// The element of the selected node, or nullptr.
