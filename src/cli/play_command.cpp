@@ -103,6 +103,7 @@ const Statement* Statement::find(std::string_view name) {
          p.asker_.queueForm(w[1], {w.begin() + 2, w.end()});
        }},
       {"rename", 2, [](Player& p, const Words& w) { p.window_.rename(p.node(w[1]), w[2]); }},
+      {"find", 1, [](Player& p, const Words& w) { p.transcript_.found(p.window_.find(w[1])); }},
       {"touch", 2, [](Player& p, const Words& w) { p.touch(w); }},
       {"close", 0, [](Player& p, const Words&) { p.close(); }},
       {"print", 1, [](Player& p, const Words& w) { p.print(w); }},

@@ -3,6 +3,7 @@
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
+#include <unordered_set>
 
 namespace nimbrel {
 
@@ -21,6 +22,24 @@ void TreeView::showSelected(const Node* node) {
   const QScopedValueRollback rollback(isSettingCurrent_, true);
   setCurrentIndex(index);
   if (index.isValid()) scrollTo(index);
+}
+
+void TreeView::filter(const std::vector<const Node*>* nodes) {
+  if (nodes == nullptr && !isFiltered_) return;
+  isFiltered_ = nodes != nullptr;
+  std::unordered_set<const Node*> shown;
+  if (nodes != nullptr) {
+    for (const Node* node : *nodes) {
+      while (node != nullptr && shown.insert(node).second) node = node->Parent();
+    }
+  }
+  const auto* first = TreeModel::node(tree_.index(0, 0));
+  for (const Node* node = first; node != nullptr; node = following(node)) {
+    const auto index = tree_.indexOf(node);
+    const bool isShown = nodes == nullptr || shown.contains(node);
+    setRowHidden(index.row(), index.parent(), !isShown);
+    if (nodes != nullptr && isShown && node->Child() != nullptr) setExpanded(index, true);
+  }
 }
 
 void TreeView::expandInitially() {

@@ -2,8 +2,11 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
+#include <unordered_map>
 #include <utility>
 
+#include "editing/find.h"
 #include "platform/keys.h"
 #include "properties/element_values.h"
 #include "shell/addresses.h"
@@ -37,6 +40,9 @@ const CommandHandler* CommandHandler::find(std::string_view command) {
       {"mnuEditPaste", [](frmMain& w) { w.mnuEditPaste(); }},
       {"mnuEditDuplicate", [](frmMain& w) { w.mnuEditDuplicate(); }},
       {"mnuEditRename", [](frmMain& w) { w.isRenaming = w.selected() != nullptr; }},
+      {"mnuEditFind", [](frmMain& w) { w.isFinding = true; }},
+      {"mnuEditFindNext", [](frmMain& w) { w.findNext(true); }},
+      {"mnuEditFindPrevious", [](frmMain& w) { w.findNext(false); }},
       {"mnuEditResetProperty", [](frmMain& w) { w.mnuEditReset(true); }},
       {"mnuEditResetElement", [](frmMain& w) { w.mnuEditReset(false); }},
       {"mnuItemAddItem", [](frmMain& w) { w.mnuItemAddItem(); }},
@@ -271,6 +277,31 @@ void frmMain::sheetChanged(Kind kind, int ordinal) {
   auto text = ordinal == nameRow(kind) ? NodeText(element) : node.Text;
   edit.set(document, node, std::move(element), std::move(text));
   apply(std::move(edit));
+}
+
+std::vector<const Node*> frmMain::find(std::string text) {
+  findText_ = std::move(text);
+  return nodesWith(document, findText_);
+}
+
+/// Selects the next of the nodes found, in tree order and round the end.
+void frmMain::findNext(bool forward) {
+  LeaveCells();
+  const auto found = nodesWith(document, findText_);
+  if (found.empty()) return;
+  std::unordered_map<const Node*, std::size_t> order;
+  for (const Node* node = document.tvTreeView.root(); node != nullptr; node = following(node)) {
+    order.emplace(node, order.size());
+  }
+  const auto place = [&](const Node* node) { return order.at(node); };
+  const auto here = selected() == nullptr ? 0 : order.at(selected());
+  if (forward) {
+    const auto next = std::ranges::upper_bound(found, here, {}, place);
+    SelectNode(next == found.end() ? found.front() : *next);
+  } else {
+    const auto next = std::ranges::lower_bound(found, here, {}, place);
+    SelectNode(next == found.begin() ? found.back() : *std::prev(next));
+  }
 }
 
 /// Sets the current row of the sheet, or the whole element but its name, to the defaults.

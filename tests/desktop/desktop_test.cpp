@@ -215,6 +215,29 @@ TEST_F(Desktop, TheTreeRenamesAddsAndMovesByKeys) {
   EXPECT_EQ(selected(), "I3");
 }
 
+TEST_F(Desktop, TheFindBarFiltersTheTree) {
+  run.start(run.programFolder() + "/Examples/thistlewick/thistlewick.nbr");
+  auto& tree = run.view().tree();
+  const auto visible = [&] {
+    int rows = 0;
+    for (auto index = tree.model()->index(0, 0); index.isValid(); index = tree.indexBelow(index)) ++rows;
+    return rows;
+  };
+  run.select("M0");
+  const int all = visible();
+  run.run("mnuEditFind");
+  auto& text = find<QLineEdit>(run.view(), "txtFind");
+  EXPECT_EQ(QApplication::focusWidget(), &text);
+  QTest::keyClicks(&text, "ORCHID");
+  EXPECT_EQ(visible(), 4);  // with the menus above it
+  EXPECT_EQ(find<QLabel>(run.view(), "lblFound").text(), "1 found");
+  press(text, Qt::Key_Return);
+  EXPECT_EQ(selected(), "I5");
+  press(text, Qt::Key_Escape);
+  EXPECT_EQ(visible(), all);
+  EXPECT_TRUE(tree.hasFocus());
+}
+
 TEST_F(Desktop, ALockedSettingsFileHoldsNothingUp) {
   QLockFile lock(run.path("config/Nimbrel/Nimbrel.ini.lock"));
   ASSERT_TRUE(lock.tryLock());

@@ -77,6 +77,9 @@ class frmMain {
   /// Gives a node another name: an item in all of its states. Line breaks become blanks.
   void rename(const Node& node, std::string name);
 
+  /// The nodes with a text (`nodesWith`), which Find Next and Find Previous go through from now on.
+  std::vector<const Node*> find(std::string text);
+
   PropertySheet& sheetOf(Kind kind);
   /// The visible sheet, or nullptr if the tree is empty.
   PropertySheet* visibleSheet();
@@ -89,6 +92,7 @@ class frmMain {
   std::string title;
   Geometry geometry;
   bool isMinimised = false;
+  bool isFinding = false;   ///< the author wants to type what to find; the view resets it
   bool isRenaming = false;  ///< the author wants to rename the selected node in the tree; the view resets it
 
   frmLiveExamples liveExamples;
@@ -111,6 +115,7 @@ class frmMain {
   void refill(const Node& node);
   void sheetChanged(Kind sheet, int ordinal);
   void mnuEditReset(bool onlyRow);
+  void findNext(bool forward);
   void select(const Node* node);
   Kind selectedKind() const;
   /// The element of the selected node, or nullptr.
@@ -174,6 +179,7 @@ class frmMain {
   void saveGeometry();
 
   friend struct CommandHandler;
+  std::string findText_;
   std::string selectedKey_;  ///< empty: nothing is selected
   bool FirstActivation_ = true;
   /// The file of the document was not read whole, so that Save must not replace it without a question.
