@@ -263,6 +263,8 @@ void Transcript::found(const std::vector<const Node*>& nodes) {
   printEntry(out_, "found", std::move(keys));
 }
 
+void Transcript::replaced(std::size_t count) { printEntry(out_, "replaced", count); }
+
 void Transcript::error(std::string_view text) {
   hadErrors_ = true;
   printEntry(out_, "error", toUtf8(text));

@@ -49,6 +49,7 @@ class Player {
   void edit(const Words& words);
   void press(const Words& words);
   void replicate(const Words& words);
+  void replace(const Words& words);
   void touch(const Words& words);
   const Node& node(const std::string& key) const;
   void close();
@@ -104,6 +105,7 @@ const Statement* Statement::find(std::string_view name) {
        }},
       {"rename", 2, [](Player& p, const Words& w) { p.window_.rename(p.node(w[1]), w[2]); }},
       {"find", 1, [](Player& p, const Words& w) { p.transcript_.found(p.window_.find(w[1])); }},
+      {"replace", 3, [](Player& p, const Words& w) { p.replace(w); }},
       {"touch", 2, [](Player& p, const Words& w) { p.touch(w); }},
       {"close", 0, [](Player& p, const Words&) { p.close(); }},
       {"print", 1, [](Player& p, const Words& w) { p.print(w); }},
@@ -187,6 +189,12 @@ void Player::replicate(const Words& words) {
   current.LeaveCell();
   current.EnterCell(row, column::Normal);
   current.click(current.btnReplicate);
+}
+
+void Player::replace(const Words& words) {
+  const auto kind = textKindNamed(words[1]);
+  if (!kind) throw MacroFault("no kind of text: " + words[1]);
+  transcript_.replaced(window_.replace(words[2], words[3], *kind));
 }
 
 /// Does as another program would that the author goes to, and comes back from.

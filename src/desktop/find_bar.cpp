@@ -1,6 +1,6 @@
 #include "desktop/find_bar.h"
 
-#include <QHBoxLayout>
+#include <QGridLayout>
 #include <QKeyEvent>
 
 namespace nimbrel {
@@ -15,12 +15,28 @@ FindBar::FindBar(QWidget* parent) : QWidget(parent) {
   close_.setAutoRaise(true);
   close_.setAccessibleName("Close the find bar");
   close_.setToolTip("Close (Esc)");
-  auto* layout = new QHBoxLayout(this);
+  by_.setObjectName("txtReplace");
+  by_.setPlaceholderText("Replace by");
+  by_.setAccessibleName("Replace by");
+  where_.setObjectName("cboReplaceIn");
+  where_.setAccessibleName("Replace in");
+  where_.addItems(
+      {"in all texts", "in names", "in addresses", "in tooltips", "in commands", "in image paths"});
+  replace_.setObjectName("cmdReplace");
+  replace_.setText("&Replace All");
+  auto* layout = new QGridLayout(this);
   constexpr int margin = 3;  // pixels
   layout->setContentsMargins(margin, margin, margin, margin);
-  layout->addWidget(&text_, 1);
-  layout->addWidget(&count_);
-  layout->addWidget(&close_);
+  layout->setSpacing(margin);
+  layout->addWidget(&text_, 0, 0);
+  layout->addWidget(&count_, 0, 1);
+  layout->addWidget(&close_, 0, 2, Qt::AlignRight);
+  layout->addWidget(&by_, 1, 0);
+  layout->addWidget(&where_, 1, 1);
+  layout->addWidget(&replace_, 1, 2);
+  layout->setColumnStretch(0, 1);
+  connect(&replace_, &QPushButton::clicked, this,
+          [this] { emit replaceRequested(by_.text(), static_cast<TextKind>(where_.currentIndex())); });
   connect(&text_, &QLineEdit::textChanged, this, &FindBar::textChanged);
   connect(&close_, &QToolButton::clicked, this, &FindBar::close);
   hide();
@@ -42,6 +58,11 @@ void FindBar::setCount(std::size_t found) {
   count_.setText(text().isEmpty() ? QString()
                  : found == 1     ? QString("1 found")
                                   : QString("%1 found").arg(found));
+  text_.setAccessibleDescription(count_.text());
+}
+
+void FindBar::setReplaced(std::size_t count) {
+  count_.setText(QString("%1 replaced").arg(count));
   text_.setAccessibleDescription(count_.text());
 }
 

@@ -66,6 +66,11 @@ void MainView::connectAll() {
   connect(&findBar_, &FindBar::textChanged, this, &MainView::find);
   connect(&findBar_, &FindBar::nextRequested, this,
           [this](bool forward) { run(forward ? "mnuEditFindNext" : "mnuEditFindPrevious"); });
+  connect(&findBar_, &FindBar::replaceRequested, this, [this](const QString& by, TextKind kind) {
+    std::size_t count = 0;
+    runAction([&] { count = main_.replace(fromDisplay(findBar_.text()), fromDisplay(by), kind); });
+    findBar_.setReplaced(count);
+  });
   connect(&findBar_, &FindBar::closed, this, [this] {
     find();
     tree_.setFocus();

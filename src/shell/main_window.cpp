@@ -284,6 +284,17 @@ std::vector<const Node*> frmMain::find(std::string text) {
   return nodesWith(document, findText_);
 }
 
+std::size_t frmMain::replace(std::string_view text, std::string by, TextKind kind) {
+  LeaveCells();
+  std::ranges::replace_if(
+      by, [](char c) { return c == '\r' || c == '\n'; }, ' ');
+  auto [edit, count] = replacing(document, text, by, kind);
+  if (edit.steps.empty()) return 0;
+  apply(std::move(edit));
+  SelectNode(selected());
+  return count;
+}
+
 /// Selects the next of the nodes found, in tree order and round the end.
 void frmMain::findNext(bool forward) {
   LeaveCells();

@@ -233,6 +233,11 @@ TEST_F(Desktop, TheFindBarFiltersTheTree) {
   EXPECT_EQ(find<QLabel>(run.view(), "lblFound").text(), "1 found");
   press(text, Qt::Key_Return);
   EXPECT_EQ(selected(), "I5");
+  find<QLineEdit>(run.view(), "txtReplace").setText("Orchard");
+  find<QComboBox>(run.view(), "cboReplaceIn").setCurrentText("in names");
+  click(find(run.view(), "cmdReplace"));
+  EXPECT_EQ(find<QLabel>(run.view(), "lblFound").text(), "3 replaced");
+  EXPECT_EQ(tree.currentIndex().data().toString(), "Orchard Room");
   press(text, Qt::Key_Escape);
   EXPECT_EQ(visible(), all);
   EXPECT_TRUE(tree.hasFocus());

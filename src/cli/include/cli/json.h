@@ -40,6 +40,7 @@ class Transcript {
   void refused(std::string_view command);
   void closed(bool isClosed);
   void found(const std::vector<const Node*>& nodes);
+  void replaced(std::size_t count);
   void error(std::string_view text);
   bool hadErrors() const { return hadErrors_; }
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "editing/editor.h"
+#include "editing/find.h"
 #include "gallery/style_picking.h"
 #include "model/structure_editing.h"
 #include "persistence/known_file.h"
@@ -79,6 +80,8 @@ class frmMain {
 
   /// The nodes with a text (`nodesWith`), which Find Next and Find Previous go through from now on.
   std::vector<const Node*> find(std::string text);
+  /// Replaces a text in the whole document. Returns how many were replaced. Line breaks become blanks.
+  std::size_t replace(std::string_view text, std::string by, TextKind kind);
 
   PropertySheet& sheetOf(Kind kind);
   /// The visible sheet, or nullptr if the tree is empty.
