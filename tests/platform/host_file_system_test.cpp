@@ -128,9 +128,12 @@ TEST_F(HostFiles, AreLockedWithTheirFolder) {
   auto mine = files_.lock(path("."));
   auto other = std::async(std::launch::async, [this] { return files_.lock(path(".")); });
   EXPECT_EQ(other.wait_for(std::chrono::milliseconds(50)), std::future_status::timeout);
+  EXPECT_EQ(files_.tryLock(path(".")), nullptr);
   mine.reset();
   EXPECT_NE(other.get(), nullptr);
+  EXPECT_NE(files_.tryLock(path(".")), nullptr);
   EXPECT_THROW(files_.lock(path("missing")), FileError);
+  EXPECT_EQ(files_.tryLock(path("missing")), nullptr);
 }
 
 TEST(MemoryFiles, AreInsideAFolderAsOnADisk) {

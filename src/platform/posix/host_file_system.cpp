@@ -52,16 +52,45 @@ std::string readFrom(const Handle& file, std::string_view path, off_t offset, st
 class HostFolderLock : public FolderLock {
  public:
   explicit HostFolderLock(std::string_view folder)
-      : folder_(::open(toHostPath(folder).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
-    if (!folder_.isOpen()) throwSystemError(folder);
-    while (::flock(folder_.get(), LOCK_EX) != 0) {
-      if (errno != EINTR) throwSystemError(folder);
+      : path_(folder), folder_(::open(toHostPath(folder).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
+    if (!folder_.isOpen()) throwSystemError(path_);
+  }
+
+  /// Returns false if the lock is taken and must not be waited for.
+  bool take(bool waits) {
+    while (::flock(folder_.get(), waits ? LOCK_EX : LOCK_EX | LOCK_NB) != 0) {
+      if (errno == EWOULDBLOCK) return false;
+      if (errno != EINTR) throwSystemError(path_);
     }
+    return true;
+  }
+
+  /// Whether the path still leads to the folder that was opened. Another program may have removed it before the lock.
+  bool isInPlace() const {
+    struct stat opened {};
+    struct stat named {};
+    return ::fstat(folder_.get(), &opened) == 0 && ::stat(toHostPath(path_).c_str(), &named) == 0 &&
+           opened.st_dev == named.st_dev && opened.st_ino == named.st_ino;
   }
 
  private:
+  std::string path_;
   Handle folder_;
 };
+
+/// The names of the entries for which `isWanted` returns true, in byte order.
+std::vector<std::string> namesIn(std::string_view folder,
+                                 bool (*isWanted)(const fs::directory_entry&, std::error_code&)) {
+  std::vector<std::string> names;
+  std::error_code error;
+  for (fs::directory_iterator entry(toHostPath(folder), error), end; !error && entry != end;
+       entry.increment(error)) {
+    std::error_code ignored;
+    if (isWanted(*entry, ignored)) names.push_back(fromHostPath(entry->path().filename().string()));
+  }
+  std::ranges::sort(names);
+  return names;
+}
 
 }  // namespace
 
@@ -113,7 +142,17 @@ bool HostFileSystem::isInside(std::string_view path, std::string_view folder) co
 
 std::unique_ptr<FolderLock> HostFileSystem::lock(std::string_view folder) {
   requireUsable(folder);
-  return std::make_unique<HostFolderLock>(folder);
+  auto lock = std::make_unique<HostFolderLock>(folder);
+  lock->take(true);
+  return lock;
+}
+
+std::unique_ptr<FolderLock> HostFileSystem::tryLock(std::string_view folder) {
+  requireUsable(folder);
+  if (!isFolder(folder)) return nullptr;
+  auto lock = std::make_unique<HostFolderLock>(folder);
+  if (!lock->take(false) || !lock->isInPlace()) return nullptr;
+  return lock;
 }
 
 void HostFileSystem::replace(std::string_view path, std::string_view bytes) {
@@ -168,15 +207,15 @@ void HostFileSystem::removeFolder(std::string_view path) {
 }
 
 std::vector<std::string> HostFileSystem::filesIn(std::string_view folder) const {
-  std::vector<std::string> names;
-  std::error_code error;
-  for (fs::directory_iterator entry(toHostPath(folder), error), end; !error && entry != end;
-       entry.increment(error)) {
-    std::error_code ignored;
-    if (entry->is_regular_file(ignored)) names.push_back(fromHostPath(entry->path().filename().string()));
-  }
-  std::ranges::sort(names);
-  return names;
+  return namesIn(folder, [](const fs::directory_entry& entry, std::error_code& error) {
+    return entry.is_regular_file(error);
+  });
+}
+
+std::vector<std::string> HostFileSystem::foldersIn(std::string_view folder) const {
+  return namesIn(folder, [](const fs::directory_entry& entry, std::error_code& error) {
+    return entry.is_directory(error);
+  });
 }
 
 }  // namespace nimbrel
