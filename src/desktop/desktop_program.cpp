@@ -10,6 +10,7 @@
 #include "desktop/display_text.h"
 #include "desktop/run_action.h"
 #include "platform/posix/host_paths.h"
+#include "platform/posix/program_folder.h"
 #include "text/ascii.h"
 #include "text/product.h"
 
@@ -32,9 +33,15 @@ DesktopProgram::DesktopProgram(const std::string& programFolder)
     : help_(QString::fromStdString(programFolder) + "/nbrhelp.hlp",
             userFolder(QStandardPaths::CacheLocation)),
       fileTypes_(userFolder(QStandardPaths::GenericDataLocation), QCoreApplication::applicationFilePath()),
-      ports_{
-          files_, asker_,     settings_,        opener_,
-          help_,  fileTypes_, installedFonts(), [] { return QRandomGenerator::global()->generateDouble(); }},
+      ports_{files_,
+             asker_,
+             settings_,
+             opener_,
+             help_,
+             fileTypes_,
+             installedFonts(),
+             [] { return QRandomGenerator::global()->generateDouble(); },
+             fromHostPath(absoluteHostPath(stateFolder()))},
       main_(ports_, fromHostPath(programFolder)),
       view_(main_) {
   BrowserView::setReadableFolder(QString::fromStdString(programFolder));

@@ -104,6 +104,7 @@ frmMain::frmMain(Ports& p, std::string programFolder)
   state.programFolder = std::move(programFolder);
   bindSheets();
   listen();
+  if (!ports.stateFolder.empty()) keepForRecovery();
   RegisterFileAssociations();
   readGeometry();
 }

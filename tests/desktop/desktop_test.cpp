@@ -2,6 +2,7 @@
 #include <QAccessible>
 #include <QClipboard>
 #include <QComboBox>
+#include <QDir>
 #include <QHelpSearchQueryWidget>
 #include <QHelpSearchResultWidget>
 #include <QLabel>
@@ -26,6 +27,7 @@
 #include "model/structure.h"
 #include "persistence/menu_file.h"
 #include "platform/file_error.h"
+#include "recovery/recovery_file.h"
 #include "support/desktop_run.h"
 
 namespace nimbrel {
@@ -571,6 +573,38 @@ TEST(TreeModelTest, FollowsEachChangeAndKeepsIndexesValid) {
   EXPECT_EQ(kept.row(), 1);
   editor.open({});
   EXPECT_EQ(model.rowCount(), 0);
+}
+
+TEST_F(Desktop, OffersWhatACrashHasLeft) {
+  Document lost;
+  BuildDefaultDocument(lost);
+  for (const char* name : {"1", "2"}) {
+    const auto folder = "state/nimbrel/recovery/" + QString(name);
+    ASSERT_TRUE(QDir().mkpath(run.path(folder)));
+    const RecoveryHead head{.folder = "\\site", .name = name + std::string(".nbr")};
+    run.write(folder + "/document", QByteArray::fromStdString(recoveryHeadText(head) + menuFileText(lost)));
+  }
+  run.answer([this](QWidget& window) {
+    EXPECT_EQ(flawedControls(window), "");
+    auto& list = find<QListWidget>(window, "List1");
+    EXPECT_TRUE(list.hasFocus());
+    EXPECT_EQ(list.item(0)->text(), "/site/1.nbr, " + list.item(1)->text().section(", ", 1));
+    EXPECT_THAT(find<QLabel>(window, "lblTree").text().toStdString(), HasSubstr("Item2"));
+    press(list, Qt::Key_Down);
+    press(list, Qt::Key_Return);
+  });
+  run.start();
+  EXPECT_EQ(run.view().windowTitle(), "Nimbrel ver 2.0 - 2.nbr");
+  EXPECT_TRUE(run.main().state.IsDirty);
+  EXPECT_EQ(run.main().document, lost);
+  // The other one is there for the next start, and this one is kept until it is saved or given up.
+  const auto kept = [this] {
+    return QDir(run.path("state/nimbrel/recovery")).entryList(QDir::Dirs | QDir::NoDotAndDotDot).join(' ');
+  };
+  EXPECT_EQ(kept(), "1 2");
+  run.answerWith("No");
+  EXPECT_TRUE(run.view().close());
+  EXPECT_EQ(kept(), "1");
 }
 
 TEST(DisplayText, FiltersAreWrittenAsQtReadsThem) {

@@ -65,6 +65,7 @@ DesktopRun::DesktopRun(const QString& folder) : folder_(folder.isEmpty() ? tempo
            fs::copy_options::recursive | fs::copy_options::create_hard_links);
   QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, path("config"));
   qputenv("XDG_DATA_HOME", path("data").toLocal8Bit());
+  qputenv("XDG_STATE_HOME", path("state").toLocal8Bit());
   qputenv("XDG_CACHE_HOME", path("cache").toLocal8Bit());
   UserSettings settings;
   settings.SaveSetting("Settings", "Show Tips at Startup", "0");

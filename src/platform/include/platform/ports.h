@@ -42,6 +42,7 @@ struct Ports {
   ClassesRoot& classes;
   std::vector<std::string> fonts;  ///< installed font families
   std::function<double()> random;  ///< returns a number from 0 to below 1
+  std::string stateFolder{};       ///< for the recovery of unsaved changes; empty: there is none
 };
 
 }  // namespace nimbrel

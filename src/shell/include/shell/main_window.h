@@ -17,11 +17,14 @@
 #include "preview/browser_form.h"
 #include "properties/live_examples.h"
 #include "properties/property_sheet.h"
+#include "recovery/recovery_writer.h"
 #include "shell/command_states.h"
 #include "shell/recent_files.h"
 #include "shell/window_layout.h"
 
 namespace nimbrel {
+
+struct Orphan;
 
 /// The place of the main window on the screen, in twips.
 struct Geometry {
@@ -175,6 +178,11 @@ class frmMain {
   void mnuHelpAbout();
   void noteFailures(const Findings& findings);
 
+  // recovery_commands.cpp
+  void keepForRecovery();
+  void offerRecovery();
+  void recover(Orphan orphan);
+
   // start_stop.cpp
   void RegisterFileAssociations();
   void readGeometry();
@@ -191,6 +199,8 @@ class frmMain {
   KnownFile ownFile_;
   std::optional<FileStatus> declinedReload_;  ///< of a changed file that the author did not want to load
   RecentFiles recent_;
+  std::optional<RecoveryWriter> recovery_;  ///< none without a state folder
+  bool hasWholeCopy_ = false;               ///< of this document, so that it needs the changes alone
   std::vector<Connection> connections_;
 };
 
