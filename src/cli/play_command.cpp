@@ -26,7 +26,7 @@ class Player {
         system_(transcript_),
         asker_(transcript_, system_),
         settings_(settings),
-        ports_{files, asker_, settings, system_, system_, system_, {}, [this] { return random_(); }},
+        ports_{files, files, asker_, settings, system_, system_, system_, {}, [this] { return random_(); }},
         window_(ports_, home) {
     window_.Activate({}, StartWindows::None);
   }

@@ -102,10 +102,10 @@ void frmGallery::noteFailures(const StepReport& report) {
 
 void frmGallery::CreatePreviewFile() {
   StepReport report;
-  FileSteps steps(ports_.files, report);
+  FileSteps steps(ports_.previews, report);
   const auto folder = galleryFolder(state_.programFolder);
   const auto data = folder + "\\nbrData";
-  for (const auto& file : ports_.files.filesIn(data)) {
+  for (const auto& file : ports_.previews.filesIn(data)) {
     if (isOldPicture(file)) steps.remove(joinPath(data, file));
   }
   steps.makeFolder(data);
@@ -123,11 +123,11 @@ void frmGallery::WebBrowser_DocumentComplete() { Timer1.value = true; }
 /// The timer runs until the next style is selected. Later ticks find no files to remove.
 void frmGallery::Timer1_Timer() {
   StepReport report;
-  FileSteps steps(ports_.files, report);
+  FileSteps steps(ports_.previews, report);
   for (const auto* file : {"\\stylepreview.html", "\\stylepreview.js"}) {
     auto path = galleryFolder(state_.programFolder);
     path += file;
-    if (ports_.files.isFile(path)) steps.remove(path);
+    if (ports_.previews.isFile(path)) steps.remove(path);
   }
   noteFailures(report);
 }

@@ -21,7 +21,7 @@ void frmMain::CreatePreviewFile() {
   state.WebPageName = "preview.html";
   state.altURL.clear();
   StepReport report;
-  nimbrel::CreatePreviewFile(ports.files, state.programFolder, state.BlackPreview, document, report);
+  nimbrel::CreatePreviewFile(ports.previews, state.programFolder, state.BlackPreview, document, report);
   noteFailures(report.findings);
   browser.Show();
   browser.RefreshPreview();
