@@ -33,7 +33,7 @@ PageGuard::PageGuard(QWebEnginePage& page) : page_(page) {
 }
 
 PageGuard::~PageGuard() {
-  if (sinceAnswer_.elapsed() > 2 * questionInterval) stop();
+  if (sinceAnswer_.elapsed() > qint64{2} * questionInterval) stop();
 }
 
 void PageGuard::stop() {
