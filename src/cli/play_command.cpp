@@ -31,6 +31,7 @@ class Player {
         asker_(transcript_, system_),
         settings_(settings),
         ports_{files,
+               files,
                asker_,
                settings,
                system_,

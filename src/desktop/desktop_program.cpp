@@ -30,10 +30,12 @@ std::vector<std::string> installedFonts() {
 }  // namespace
 
 DesktopProgram::DesktopProgram(const std::string& programFolder)
-    : help_(QString::fromStdString(programFolder) + "/nbrhelp.hlp",
+    : pages_(previews_, fromHostPath(programFolder)),
+      help_(QString::fromStdString(programFolder) + "/nbrhelp.hlp",
             userFolder(QStandardPaths::CacheLocation)),
       fileTypes_(userFolder(QStandardPaths::GenericDataLocation), QCoreApplication::applicationFilePath()),
       ports_{files_,
+             previews_,
              asker_,
              settings_,
              opener_,
@@ -44,7 +46,7 @@ DesktopProgram::DesktopProgram(const std::string& programFolder)
              fromHostPath(absoluteHostPath(stateFolder()))},
       main_(ports_, fromHostPath(programFolder)),
       view_(main_) {
-  BrowserView::setReadableFolder(QString::fromStdString(programFolder));
+  BrowserView::setPages(&pages_);
   asker_.setMainWindow(&view_);
   asker_.setHelp(&help_);
   asker_.onModalChange([this](bool isOpen) { view_.setModalOpen(isOpen); });
@@ -64,7 +66,10 @@ DesktopProgram::DesktopProgram(const std::string& programFolder)
 }
 
 /// What fails from now on goes to the log: message boxes need the windows, which are about to be destroyed.
-DesktopProgram::~DesktopProgram() { setErrorReporter(nullptr); }
+DesktopProgram::~DesktopProgram() {
+  setErrorReporter(nullptr);
+  BrowserView::setPages(nullptr);
+}
 
 void DesktopProgram::start(const std::string& commandLine) {
   runAction([this] { fileTypes_.publish(); });

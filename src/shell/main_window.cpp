@@ -97,7 +97,7 @@ int nameRow(Kind sheet) {
 frmMain::frmMain(Ports& p, std::string programFolder)
     : ports(p),
       liveExamples(state),
-      browser(ports.files, ports.asker, state, [this] { CreatePreviewFile(); }),
+      browser(ports.previews, ports.asker, state, [this] { CreatePreviewFile(); }),
       prctlMenu(menuTable(), ports, state, liveExamples),
       prctlSubmenu(submenuTable(), ports, state, liveExamples),
       prctlItem(itemTable(), ports, state, liveExamples) {

@@ -10,17 +10,13 @@
 #include <QListWidget>
 #include <QLockFile>
 #include <QMessageBox>
-#include <QPushButton>
 #include <QTabBar>
 #include <QTest>
 #include <QTextBrowser>
 #include <QToolBar>
-#include <QWebEngineHistory>
-#include <QWebEngineView>
 #include <csignal>
 #include <gmock/gmock.h>
 
-#include "desktop/browser_view.h"
 #include "desktop/display_text.h"
 #include "desktop/folder_view.h"
 #include "editing/editor.h"
@@ -122,16 +118,10 @@ TEST_F(Desktop, FromAnEmptyStartToALinkedMenu) {
   EXPECT_EQ(view.tree().currentIndex().data().toString(), QString::fromUtf8("Über меню - Item4 - Item4"));
   EXPECT_TRUE(run.main().state.IsDirty);
 
-  // The preview shows it in the embedded browser, and its files are removed.
+  // The preview shows it in the embedded browser, and leaves nothing on the disk.
   press(view, Qt::Key_F12);
   ASSERT_TRUE(view.preview().isVisible() && showsItems(view.preview(), 4));
-  EXPECT_TRUE(waitFor([&] { return !QFile::exists(run.programFolder() + "/preview/preview.html"); }));
-
-  // After a crash of the browser the preview can be made again.
-  auto& browser = find<BrowserView>(view.preview());
-  emit browser.view()->renderProcessTerminated(QWebEnginePage::CrashedTerminationStatus, 1);
-  click(*browser.currentWidget()->findChild<QPushButton*>());
-  EXPECT_TRUE(showsItems(view.preview(), 4));
+  EXPECT_FALSE(QFile::exists(run.programFolder() + "/preview"));
 
   // It is compiled and linked, with every window in between.
   const QByteArray page = "<html><body><p>Page</p></body></html>";
@@ -391,34 +381,10 @@ TEST_F(Desktop, TheGalleryShowsEachStyleAndAppliesOne) {
     click(find(window, "btnApply"));
   });
   run.run("mnuStyleOpenStyleLibrary");
-  // The window was closed before its timer could remove the page.
-  EXPECT_FALSE(QFile::exists(run.programFolder() + "/gallery/stylepreview.html"));
+  for (const auto* made : {"stylepreview.html", "stylepreview.js"}) {
+    EXPECT_FALSE(QFile::exists(run.programFolder() + "/gallery/" + made));
+  }
   EXPECT_TRUE(run.main().state.IsDirty);
-}
-
-TEST_F(Desktop, TheBrowserReadsOnlyTheProgramsFiles) {
-  run.start();
-  run.write("secret.txt", "secret");
-  run.write("program/preview/probe.html", "<title>probe</title>");
-  run.write("program/preview/next.html", "<title>next</title>");
-  auto& window = run.view().preview();
-  auto& browser = find<BrowserView>(window);
-  const auto opens = [&](const char* page) {
-    return waitFor([&] {  // again if a refused page cancels this one
-      browser.navigate(run.programFolder() + "/preview/" + page + ".html");
-      return waitFor([&] { return run.evaluate(window, "document.title").toString() == page; }, 3000);
-    });
-  };
-  ASSERT_TRUE(opens("probe"));
-  const auto read =
-      "(function(){try{var x=new XMLHttpRequest();x.open('GET','../../secret.txt',false);x.send();return "
-      "x.responseText}catch(e){return 'refused'}})()";
-  QVariant result;
-  EXPECT_TRUE(waitFor([&] { return (result = run.evaluate(window, read)).isValid(); }));
-  EXPECT_EQ(result.toString(), "refused");
-  browser.navigate(run.path("secret.txt"));
-  ASSERT_TRUE(opens("next"));
-  EXPECT_EQ(browser.view()->history()->count(), 2);
 }
 
 TEST_F(Desktop, ErrorsAreReportedAfterTheWindowsAreUpToDate) {

@@ -15,7 +15,6 @@
 #include <memory>
 #include <optional>
 #include <stdexcept>
-#include <unistd.h>
 
 #include "desktop/browser_view.h"
 #include "desktop/display_text.h"
@@ -47,9 +46,8 @@ std::unique_ptr<QApplication> offscreenApplication(int& argc, char** argv) {
     screen.close();
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screen.fileName().toUtf8());
   }
-  if (geteuid() == 0) qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
   qputenv("QTWEBENGINE_CHROMIUM_FLAGS", "--disable-gpu");
-  QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+  prepareBrowser();
   QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
   auto application = std::make_unique<QApplication>(argc, argv);
   setUpApplication();

@@ -35,6 +35,7 @@ class ClassesRoot {
 /// All ports together. Borrowed; they must outlive the users of this struct.
 struct Ports {
   FileSystem& files;
+  FileSystem& previews;  ///< where previews are made; may be the same as `files`
   Asker& asker;
   SettingsStore& settings;
   Opener& opener;
