@@ -33,8 +33,11 @@ TextKind kindOfText(const Property<E>& property) {
                                                                                    : TextKind::Names;
 }
 
-auto searchText(std::string_view text, std::string_view wanted) {
-  return std::ranges::search(text, wanted, {}, foldedCase, foldedCase);
+/// Returns where `wanted` begins in `text`, or npos.
+std::size_t searchText(std::string_view text, std::string_view wanted) {
+  const auto same = [](char a, char b) { return foldedCase(a) == foldedCase(b); };
+  const auto* found = std::search(text.begin(), text.end(), wanted.begin(), wanted.end(), same);
+  return found == text.end() ? std::string_view::npos : static_cast<std::size_t>(found - text.begin());
 }
 
 /// Returns how many were replaced in `text`.
@@ -42,10 +45,10 @@ std::size_t replaceIn(std::string& text, std::string_view wanted, std::string_vi
   std::size_t count = 0;
   std::string result;
   std::string_view rest = text;
-  for (auto found = searchText(rest, wanted); !found.empty(); found = searchText(rest, wanted)) {
-    const auto before = static_cast<std::size_t>(found.begin() - rest.begin());
-    result.append(rest.substr(0, before)).append(by);
-    rest.remove_prefix(before + wanted.size());
+  for (auto found = searchText(rest, wanted); found != std::string_view::npos;
+       found = searchText(rest, wanted)) {
+    result.append(rest.substr(0, found)).append(by);
+    rest.remove_prefix(found + wanted.size());
     ++count;
   }
   text = result.append(rest);
@@ -88,7 +91,7 @@ bool elementContains(const Element& element, std::string_view wanted) {
 
 bool containsText(std::string_view text, std::string_view wanted) {
   if (wanted.empty()) return false;
-  return !searchText(text, wanted).empty();
+  return searchText(text, wanted) != std::string_view::npos;
 }
 
 std::vector<const Node*> nodesWith(const Document& document, std::string_view wanted) {
