@@ -146,7 +146,7 @@ class Session {
     files_.files["C:\\m\\cut.nbr"] = text.substr(0, text.size() * 3 / 4);
     files_.files["C:\\m\\foreign"] = "no menu";
     files_.files["C:\\p\\TIPOFDAY.TXT"] = "that\r\nthis";
-    window_.Activate();
+    window_.Activate({}, StartWindows::None);  // commands open the same windows
     clean_ = window_.document;
   }
 
