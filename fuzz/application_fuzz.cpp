@@ -49,7 +49,7 @@ class FuzzedAuthor : public Asker {
 
   BoxButton MsgBox(const MessageBox& box) override {
     const auto answer = choices_.one(box.buttons);
-    if (box.buttons.size() == 3) savePrompt = answer;
+    if (box.buttons.size() == 3 && box.buttons.front() == BoxButton::Yes) savePrompt = answer;
     return answer;
   }
   std::optional<std::string> chooseFile(const FileDialog&) override {

@@ -257,6 +257,14 @@ void Transcript::help(std::string_view page) { printEntry(out_, "help", page); }
 void Transcript::refused(std::string_view command) { printEntry(out_, "refused", toUtf8(command)); }
 void Transcript::closed(bool isClosed) { printEntry(out_, "closed", isClosed); }
 
+void Transcript::found(const std::vector<const Node*>& nodes) {
+  Json keys = Json::array();
+  for (const auto* node : nodes) keys.push_back(jsonOf(node->Key));
+  printEntry(out_, "found", std::move(keys));
+}
+
+void Transcript::replaced(std::size_t count) { printEntry(out_, "replaced", count); }
+
 void Transcript::error(std::string_view text) {
   hadErrors_ = true;
   printEntry(out_, "error", toUtf8(text));

@@ -65,9 +65,9 @@ class LineReader {
 
 }  // namespace
 
-std::vector<MacroLine> parseMacro(std::string_view text) {
+std::vector<MacroLine> parseMacro(std::string_view text, std::size_t first) {
   std::vector<MacroLine> lines;
-  for (std::size_t number = 1; !text.empty(); ++number) {
+  for (std::size_t number = first; !text.empty(); ++number) {
     const auto end = text.find('\n');
     LineReader reader(text.substr(0, end));
     MacroLine line{number, {}};

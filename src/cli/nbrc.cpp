@@ -113,6 +113,8 @@ void declarePlay(CLI::App& app, Call& call, const Console& console, FileSystem& 
   play->add_option("MACRO", call.play.macro, "the macro, - for standard input")->required()->type_name("");
   play->add_option("--settings", call.play.settings, "settings to start with, written back at the end")
       ->type_name("FILE");
+  play->add_option("--state", call.play.state, "keep unsaved changes there, and offer those of a crash")
+      ->type_name("DIR");
 }
 
 std::string wrongCallText(const std::string& reason) {

@@ -1,7 +1,6 @@
 #include <array>
 #include <charconv>
 #include <istream>
-#include <iterator>
 #include <ostream>
 #include <random>
 
@@ -24,17 +23,27 @@ class Player {
  public:
   /// `macroFolder` is the folder of the macro, in which statements may write files.
   Player(const Console& console, FileSystem& files, const std::string& home, std::string macroFolder,
-         MemorySettings& settings)
+         MemorySettings& settings, std::string stateFolder)
       : files_(files),
         macroFolder_(std::move(macroFolder)),
         transcript_(console.out()),
         system_(transcript_),
         asker_(transcript_, system_),
         settings_(settings),
-        ports_{files, asker_, settings, system_, system_, system_, {}, [this] { return random_(); }},
-        window_(ports_, home) {
-    window_.Activate({}, StartWindows::None);
-  }
+        ports_{files,
+               files,
+               asker_,
+               settings,
+               system_,
+               system_,
+               system_,
+               {},
+               [this] { return random_(); },
+               std::move(stateFolder)},
+        window_(ports_, home) {}
+
+  /// Activates the window, the first time. What is queued before answers the questions of the start.
+  void start() { window_.Activate({}, StartWindows::None); }
 
   /// Runs a statement. Throws `MacroFault`; other exceptions are printed, and the macro continues.
   void play(const Words& words);
@@ -49,7 +58,9 @@ class Player {
   void edit(const Words& words);
   void press(const Words& words);
   void replicate(const Words& words);
+  void replace(const Words& words);
   void touch(const Words& words);
+  const Node& node(const std::string& key) const;
   void close();
   void print(const Words& words);
   PropertySheet& sheet();
@@ -72,6 +83,7 @@ struct Statement {
   std::string_view name;
   std::size_t words;  ///< the minimum, without the name
   void (*play)(Player&, const Words&);
+  bool onlyQueues = false;  ///< answers for later statements
 
   static const Statement* find(std::string_view name);
 };
@@ -94,13 +106,17 @@ const Statement* Statement::find(std::string_view name) {
       {"leave", 0, [](Player& p, const Words&) { p.window_.LeaveCells(); }},
       {"press", 1, [](Player& p, const Words& w) { p.press(w); }},
       {"replicate", 1, [](Player& p, const Words& w) { p.replicate(w); }},
-      {"answer", 1, [](Player& p, const Words& w) { p.asker_.queueAnswer(w[1]); }},
-      {"choose", 1, [](Player& p, const Words& w) { p.asker_.queueFile(w[1]); }},
-      {"colour", 1, [](Player& p, const Words& w) { p.asker_.queueColour(w[1]); }},
+      {"answer", 1, [](Player& p, const Words& w) { p.asker_.queueAnswer(w[1]); }, true},
+      {"choose", 1, [](Player& p, const Words& w) { p.asker_.queueFile(w[1]); }, true},
+      {"colour", 1, [](Player& p, const Words& w) { p.asker_.queueColour(w[1]); }, true},
       {"form", 1,
        [](Player& p, const Words& w) {
          p.asker_.queueForm(w[1], {w.begin() + 2, w.end()});
-       }},
+       },
+       true},
+      {"rename", 2, [](Player& p, const Words& w) { p.window_.rename(p.node(w[1]), w[2]); }},
+      {"find", 1, [](Player& p, const Words& w) { p.transcript_.found(p.window_.find(w[1])); }},
+      {"replace", 3, [](Player& p, const Words& w) { p.replace(w); }},
       {"touch", 2, [](Player& p, const Words& w) { p.touch(w); }},
       {"close", 0, [](Player& p, const Words&) { p.close(); }},
       {"print", 1, [](Player& p, const Words& w) { p.print(w); }},
@@ -115,6 +131,7 @@ void Player::play(const Words& words) {
   if (words.size() - 1 < statement->words) throw MacroFault(words.front() + " needs more words");
   if (isClosed_ && words.front() != "print") throw MacroFault("the window is closed");
   try {
+    if (!statement->onlyQueues) start();
     statement->play(*this, words);
   } catch (const MacroFault&) {
     throw;
@@ -144,10 +161,12 @@ void Player::force(const Words& words) {
   }
 }
 
-void Player::select(const Words& words) {
-  const Node* node = window_.document.tvTreeView.find(words[1]);
-  if (node == nullptr) throw MacroFault("no node " + words[1]);
-  window_.tvTreeView_NodeClick(node);
+void Player::select(const Words& words) { window_.tvTreeView_NodeClick(&node(words[1])); }
+
+const Node& Player::node(const std::string& key) const {
+  const auto* found = window_.document.tvTreeView.find(key);
+  if (found == nullptr) throw MacroFault("no node " + key);
+  return *found;
 }
 
 void Player::key(const Words& words) { window_.tvTreeView_KeyUp(words[1] == "Delete" ? keys::Delete : 0); }
@@ -182,6 +201,12 @@ void Player::replicate(const Words& words) {
   current.LeaveCell();
   current.EnterCell(row, column::Normal);
   current.click(current.btnReplicate);
+}
+
+void Player::replace(const Words& words) {
+  const auto kind = textKindNamed(words[1]);
+  if (!kind) throw MacroFault("no kind of text: " + words[1]);
+  transcript_.replaced(window_.replace(words[2], words[3], *kind));
 }
 
 /// Does as another program would that the author goes to, and comes back from.
@@ -222,9 +247,9 @@ void Player::print(const Words& words) {
   }
 }
 
-std::string macroText(FileSystem& files, const PlayCall& call, std::istream& in) {
-  if (call.macro == "-") return {std::istreambuf_iterator<char>(in), {}};
-  return files.read(fromHostPath(absoluteHostPath(call.macro)));
+/// A host path in document form; an empty one stays empty.
+std::string documentPath(const std::string& hostPath) {
+  return hostPath.empty() ? hostPath : fromHostPath(absoluteHostPath(hostPath));
 }
 
 /// Of a macro from standard input, the current folder.
@@ -238,20 +263,32 @@ std::string folderOf(const PlayCall& call) {
 ExitStatus playCommand(const Console& console, FileSystem& files, const std::optional<std::string>& home,
                        const PlayCall& call) {
   MemorySettings settings;
-  const auto settingsPath = call.settings.empty() ? "" : fromHostPath(absoluteHostPath(call.settings));
+  const auto settingsPath = documentPath(call.settings);
   std::size_t line = 0;
   ExitStatus status = done;
   try {
     if (!settingsPath.empty() && files.isFile(settingsPath)) {
       readSettings(settings, files.read(settingsPath), call.settings);
     }
-    const auto macro = parseMacro(macroText(files, call, console.in()));
-    Player player(console, files, fromHostPath(absoluteHostPath(programFolder(home))), folderOf(call),
-                  settings);
-    for (const auto& statement : macro) {
-      line = statement.number;
-      player.play(statement.words);
+    const bool isPiped = call.macro == "-";
+    auto macro = isPiped ? std::vector<MacroLine>() : parseMacro(files.read(documentPath(call.macro)));
+    Player player(console, files, documentPath(programFolder(home)), folderOf(call), settings,
+                  documentPath(call.state));
+    const auto playAll = [&] {
+      for (const auto& statement : macro) {
+        line = statement.number;
+        player.play(statement.words);
+      }
+    };
+    playAll();
+    // Each statement is done before the next one is read, so that another program can wait for its result.
+    std::size_t number = 0;
+    for (std::string text; isPiped && std::getline(console.in(), text);) {
+      macro = parseMacro(text, ++number);
+      playAll();
+      console.out().flush();
     }
+    player.start();
     if (player.hadErrors()) status = notAllDone;
   } catch (const MacroFault& fault) {
     console.err() << "nbrc: " << call.macro << ": "

@@ -75,6 +75,10 @@ void CommandActions::makeMenuBar() {
     action->setShortcuts(QKeySequence::listFromString(toDisplay(entry.shortcut)));
     // Also works from the preview window, to refresh it.
     if (entry.name == "mnuToolsPreview") action->setShortcutContext(Qt::ApplicationShortcut);
+    if ((entry.state & InTree) != 0) {
+      action->setShortcutContext(Qt::WidgetShortcut);
+      treeActions_ += action;
+    }
     action->setCheckable((entry.state & Checked) != 0);
     action->setProperty(topicProperty, entry.helpTopic);
     deepest->addAction(action);

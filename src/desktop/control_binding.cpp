@@ -266,7 +266,7 @@ class BrowserBinding : public Binding<BrowserView> {
       if (control_.reload) {
         run_(control_.reload);
       } else {
-        widget_.navigate(toDisplayPath(control_.text));
+        widget_.navigate(control_.text);
       }
     });
   }
@@ -275,7 +275,7 @@ class BrowserBinding : public Binding<BrowserView> {
   void refreshContent() override {
     if (visits_ == control_.visits) return;
     visits_ = control_.visits;
-    widget_.navigate(toDisplayPath(control_.text));
+    widget_.navigate(control_.text);
   }
 
   std::size_t visits_ = 0;

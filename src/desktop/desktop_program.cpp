@@ -10,6 +10,7 @@
 #include "desktop/display_text.h"
 #include "desktop/run_action.h"
 #include "platform/posix/host_paths.h"
+#include "platform/posix/program_folder.h"
 #include "text/ascii.h"
 #include "text/product.h"
 
@@ -29,15 +30,23 @@ std::vector<std::string> installedFonts() {
 }  // namespace
 
 DesktopProgram::DesktopProgram(const std::string& programFolder)
-    : help_(QString::fromStdString(programFolder) + "/nbrhelp.hlp",
+    : pages_(previews_, fromHostPath(programFolder)),
+      help_(QString::fromStdString(programFolder) + "/nbrhelp.hlp",
             userFolder(QStandardPaths::CacheLocation)),
       fileTypes_(userFolder(QStandardPaths::GenericDataLocation), QCoreApplication::applicationFilePath()),
-      ports_{
-          files_, asker_,     settings_,        opener_,
-          help_,  fileTypes_, installedFonts(), [] { return QRandomGenerator::global()->generateDouble(); }},
+      ports_{files_,
+             previews_,
+             asker_,
+             settings_,
+             opener_,
+             help_,
+             fileTypes_,
+             installedFonts(),
+             [] { return QRandomGenerator::global()->generateDouble(); },
+             fromHostPath(absoluteHostPath(stateFolder()))},
       main_(ports_, fromHostPath(programFolder)),
       view_(main_) {
-  BrowserView::setReadableFolder(QString::fromStdString(programFolder));
+  BrowserView::setPages(&pages_);
   asker_.setMainWindow(&view_);
   asker_.setHelp(&help_);
   asker_.onModalChange([this](bool isOpen) { view_.setModalOpen(isOpen); });
@@ -57,7 +66,10 @@ DesktopProgram::DesktopProgram(const std::string& programFolder)
 }
 
 /// What fails from now on goes to the log: message boxes need the windows, which are about to be destroyed.
-DesktopProgram::~DesktopProgram() { setErrorReporter(nullptr); }
+DesktopProgram::~DesktopProgram() {
+  setErrorReporter(nullptr);
+  BrowserView::setPages(nullptr);
+}
 
 void DesktopProgram::start(const std::string& commandLine) {
   runAction([this] { fileTypes_.publish(); });

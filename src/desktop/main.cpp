@@ -5,7 +5,6 @@
 #include <QPixmap>
 #include <QTimer>
 #include <optional>
-#include <unistd.h>
 
 #include "desktop/application.h"
 #include "desktop/desktop_program.h"
@@ -17,11 +16,6 @@
 #include "shell/small_forms.h"
 
 namespace {
-
-/// The embedded browser does not start as root unless its sandbox is off.
-void allowAdministrator() {
-  if (geteuid() == 0) qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
-}
 
 /// The whole command line is one file name, which may contain spaces.
 std::string commandLine(const QStringList& arguments) {
@@ -44,8 +38,7 @@ void showAtOnce(nimbrel::frmSplash& splash, nimbrel::FormWindow& window) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  allowAdministrator();
-  QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+  nimbrel::prepareBrowser();
   QApplication application(argc, argv);
   nimbrel::setUpApplication();
 

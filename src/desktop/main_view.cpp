@@ -6,6 +6,7 @@
 #include <QScreen>
 #include <QStatusBar>
 #include <QTimer>
+#include <QVBoxLayout>
 #include <algorithm>
 #include <array>
 #include <utility>
@@ -26,7 +27,7 @@ MainView::MainView(frmMain& main)
       menuSheet_(main.prctlMenu, icons()),
       submenuSheet_(main.prctlSubmenu, icons()),
       itemSheet_(main.prctlItem, icons()),
-      area_(new MainArea(tree_, {&menuSheet_, &submenuSheet_, &itemSheet_}, this)),
+      area_(new MainArea(treePane_, {&menuSheet_, &submenuSheet_, &itemSheet_}, this)),
       commands_(*this),
       preview_(main.browser),
       liveExamples_(main.liveExamples) {
@@ -39,7 +40,11 @@ MainView::MainView(frmMain& main)
   for (auto* view : {&menuSheet_, &submenuSheet_, &itemSheet_}) view->hide();
   drawIcons();
   connectAll();
-  expandNewDocuments_ = main.editor.documentReplaced.connect([this] { tree_.expandInitially(); });
+  connections_.push_back(main.editor.documentReplaced.connect([this] {
+    tree_.expandInitially();
+    find();
+  }));
+  connections_.push_back(main.editor.edited.connect([this](const Edit&) { find(); }));
 }
 
 IconSource MainView::icons() const {
@@ -52,6 +57,28 @@ SheetView& MainView::sheet(Kind kind) {
 
 void MainView::connectAll() {
   connect(&tree_, &TreeView::nodeChosen, this, &MainView::showNode);
+  auto* pane = new QVBoxLayout(&treePane_);
+  pane->setContentsMargins({});
+  pane->setSpacing(0);
+  pane->addWidget(&findBar_);
+  pane->addWidget(&tree_);
+  treePane_.setFocusProxy(&tree_);
+  connect(&findBar_, &FindBar::textChanged, this, &MainView::find);
+  connect(&findBar_, &FindBar::nextRequested, this,
+          [this](bool forward) { run(forward ? "mnuEditFindNext" : "mnuEditFindPrevious"); });
+  connect(&findBar_, &FindBar::replaceRequested, this, [this](const QString& by, TextKind kind) {
+    std::size_t count = 0;
+    runAction([&] { count = main_.replace(fromDisplay(findBar_.text()), fromDisplay(by), kind); });
+    findBar_.setReplaced(count);
+  });
+  connect(&findBar_, &FindBar::closed, this, [this] {
+    find();
+    tree_.setFocus();
+  });
+  tree_.addActions(commands_.treeActions());
+  connect(&model_, &TreeModel::renamed, this, [this](const Node* node, const QString& name) {
+    runAction([&] { main_.rename(*node, fromDisplay(name)); });
+  });
   connect(&tree_, &TreeView::deletePressed, this, &MainView::deleteNode);
   connect(&tree_, &TreeView::contextMenuRequested, this, &MainView::showContextMenu);
   connect(&commands_, &CommandActions::commandTriggered, this, &MainView::run);
@@ -59,6 +86,9 @@ void MainView::connectAll() {
   for (auto* sheet : {&menuSheet_, &submenuSheet_, &itemSheet_}) {
     connect(sheet, &SheetView::actionFinished, this, [this] { nimbrel::runAction([this] { refresh(); }); });
     connect(sheet, &SheetView::helpRequested, this, &MainView::openHelp);
+    connect(sheet, &SheetView::menuRequested, this, [this](const QPoint& place) {
+      QMenu::exec({commands_.action("mnuEditResetProperty"), commands_.action("mnuEditResetElement")}, place);
+    });
   }
   for (auto* window : {&preview_, &liveExamples_}) {
     connect(window, &FormWindow::actionFinished, this, [this] { nimbrel::runAction([this] { refresh(); }); });
@@ -136,6 +166,8 @@ void MainView::refresh() {
   tree_.showSelected(main_.selected());
   showSheets();
   for (auto* window : {&preview_, &liveExamples_}) refreshSideWindow(*window);
+  if (std::exchange(main_.isFinding, false)) findBar_.open();
+  if (std::exchange(main_.isRenaming, false)) tree_.edit(tree_.currentIndex());
 }
 
 void MainView::showSheets() {
@@ -238,6 +270,21 @@ void MainView::changeEvent(QEvent* event) {
 void MainView::lookForOtherChanges() {
   if (!isStarted_ || isStarting_ || isClosed_ || isModalOpen_ || !isActiveWindow()) return;
   nimbrel::runAction([this] { main_.offerReload(); }, {[this] { refresh(); }});
+}
+
+/// Shows in the tree what the find bar asks for. Everything while it is closed or empty.
+void MainView::find() {
+  nimbrel::runAction([this] {
+    const auto wanted = fromDisplay(findBar_.text());
+    if (findBar_.isHidden() || wanted.empty()) {
+      tree_.filter(nullptr);
+      findBar_.setCount(0);
+      return;
+    }
+    const auto found = main_.find(wanted);
+    tree_.filter(&found);
+    findBar_.setCount(found.size());
+  });
 }
 
 void MainView::drawIcons() {

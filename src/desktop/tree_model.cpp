@@ -99,10 +99,25 @@ int TreeModel::rowCount(const QModelIndex& parent) const {
 
 int TreeModel::columnCount(const QModelIndex&) const { return 1; }
 
+Qt::ItemFlags TreeModel::flags(const QModelIndex& index) const {
+  const bool isEditable = index.isValid() && editor_.document().element(*node(index)) != nullptr;
+  return QAbstractItemModel::flags(index) | (isEditable ? Qt::ItemIsEditable : Qt::NoItemFlags);
+}
+
+bool TreeModel::setData(const QModelIndex& index, const QVariant& value, int role) {
+  if (role != Qt::EditRole || !index.isValid()) return false;
+  emit renamed(node(index), value.toString());
+  return true;
+}
+
 QVariant TreeModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid()) return {};
   const auto kind = kindOf(node(index)->Key);
   switch (role) {
+    case Qt::EditRole: {
+      const auto* element = editor_.document().element(*node(index));
+      return element == nullptr ? QVariant() : toDisplay(nameOf(*element));
+    }
     case Qt::DisplayRole: return toDisplay(node(index)->Text);
     case Qt::DecorationRole: return kind == Kind::Menu ? menu_ : kind == Kind::Submenu ? submenu_ : item_;
     case Qt::AccessibleDescriptionRole:

@@ -3,6 +3,7 @@
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
+#include <unordered_set>
 
 namespace nimbrel {
 
@@ -10,7 +11,7 @@ TreeView::TreeView(TreeModel& model, QWidget* parent) : QTreeView(parent), tree_
   setModel(&model);
   setHeaderHidden(true);
   setUniformRowHeights(true);
-  setEditTriggers(NoEditTriggers);
+  setEditTriggers(SelectedClicked);  // F2 is a command
   setExpandsOnDoubleClick(true);
   setAccessibleName("Menu structure");
 }
@@ -21,6 +22,24 @@ void TreeView::showSelected(const Node* node) {
   const QScopedValueRollback rollback(isSettingCurrent_, true);
   setCurrentIndex(index);
   if (index.isValid()) scrollTo(index);
+}
+
+void TreeView::filter(const std::vector<const Node*>* nodes) {
+  if (nodes == nullptr && !isFiltered_) return;
+  isFiltered_ = nodes != nullptr;
+  std::unordered_set<const Node*> shown;
+  if (nodes != nullptr) {
+    for (const Node* node : *nodes) {
+      while (node != nullptr && shown.insert(node).second) node = node->Parent();
+    }
+  }
+  const auto* first = TreeModel::node(tree_.index(0, 0));
+  for (const Node* node = first; node != nullptr; node = following(node)) {
+    const auto index = tree_.indexOf(node);
+    const bool isShown = nodes == nullptr || shown.contains(node);
+    setRowHidden(index.row(), index.parent(), !isShown);
+    if (nodes != nullptr && isShown && node->Child() != nullptr) setExpanded(index, true);
+  }
 }
 
 void TreeView::expandInitially() {
@@ -43,10 +62,12 @@ void TreeView::currentChanged(const QModelIndex& current, const QModelIndex& pre
     emit nodeChosen(TreeModel::node(current));
 }
 
-/// The right button does not select: its menu is for the current node.
 void TreeView::mousePressEvent(QMouseEvent* event) {
-  if (event->button() == Qt::RightButton) return;
   const auto index = indexAt(event->pos());
+  if (event->button() == Qt::RightButton) {  // its menu, which opens on release, is for the node under it
+    if (index.isValid() && index != currentIndex()) setCurrentIndex(index);
+    return;
+  }
   const bool isCurrentAgain = index.isValid() && index == currentIndex() && event->button() == Qt::LeftButton;
   QTreeView::mousePressEvent(event);
   if (isCurrentAgain) emit nodeChosen(TreeModel::node(currentIndex()));

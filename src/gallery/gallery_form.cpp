@@ -1,5 +1,6 @@
 #include "gallery/gallery_form.h"
 
+#include <array>
 #include <utility>
 
 #include "compiler/script_assembly.h"
@@ -104,11 +105,12 @@ void frmGallery::noteFailures(const StepReport& report) {
 }
 
 void frmGallery::CreatePreviewFile() {
-  StepReport report;
-  FileSteps steps(ports_.files, report);
   const auto folder = galleryFolder(state_.programFolder);
+  StepReport report;
+  FileSteps steps(ports_.previews, report, folder);
+  const auto lock = ports_.previews.lock(std::array{folder});
   const auto data = folder + "\\nbrData";
-  for (const auto& file : ports_.files.filesIn(data)) {
+  for (const auto& file : ports_.previews.filesIn(data)) {
     if (isOldPicture(file)) steps.remove(joinPath(data, file));
   }
   steps.makeFolder(data);
@@ -126,11 +128,11 @@ void frmGallery::WebBrowser_DocumentComplete() { Timer1.value = true; }
 /// The timer runs until the next style is selected. Later ticks find no files to remove.
 void frmGallery::Timer1_Timer() {
   StepReport report;
-  FileSteps steps(ports_.files, report);
+  FileSteps steps(ports_.previews, report);
   for (const auto* file : {"\\stylepreview.html", "\\stylepreview.js"}) {
     auto path = galleryFolder(state_.programFolder);
     path += file;
-    if (ports_.files.isFile(path)) steps.remove(path);
+    if (ports_.previews.isFile(path)) steps.remove(path);
   }
   noteFailures(report);
 }

@@ -142,7 +142,7 @@ void SaveStyle(FileSystem& files, const std::string& programFolder, const std::s
   steps.makeFolder(gallery);
   steps.makeFolder(wholeFolder);
   for (auto* image : lookImages(style)) {
-    if (*image == notSet) continue;
+    if (*image == notSet || image->empty()) continue;
     const auto source = image->str();
     if (const auto refusal = refusalOfPicture(files, source, "this style"); refusal && files.isFile(source)) {
       steps.note(*refusal);

@@ -140,6 +140,22 @@ void setNames(ItemObj& item, const SharedText& name) {
   item.ItemName1 = item.ItemName2 = item.ItemName3 = name;
 }
 
+const SharedText& nameOf(const Element& element) {
+  if (const auto* item = std::get_if<ItemObj>(&element)) return item->ItemName1;
+  if (const auto* submenu = std::get_if<SubmenuObj>(&element)) return submenu->SubmenuName;
+  return std::get<MenuObj>(element).menuname;
+}
+
+void setName(Element& element, const SharedText& name) {
+  if (auto* item = std::get_if<ItemObj>(&element)) {
+    setNames(*item, name);
+  } else if (auto* submenu = std::get_if<SubmenuObj>(&element)) {
+    submenu->SubmenuName = name;
+  } else {
+    std::get<MenuObj>(element).menuname = name;
+  }
+}
+
 void clearSubmenuImages(ItemObj& item) {
   item.HasSubmenuImage1 = item.HasSubmenuImage2 = item.HasSubmenuImage3 = notSet;
 }

@@ -35,14 +35,24 @@ void WriteNode(std::string& out, const Document& document, const Node& node) {
 
 }  // namespace
 
-std::string menuFileText(const Document& document) {
+std::string menuFileHead(const CompileSettings& settings) {
   std::string out(currentFormat.menuMagic);
   out += lineEnd;
   for (const CompileSetting& setting : compileSettings) {
-    std::visit([&](auto field) { out.append(lineOf(document.settings.*field)).append(lineEnd); },
-               setting.field);
+    std::visit([&](auto field) { out.append(lineOf(settings.*field)).append(lineEnd); }, setting.field);
   }
   out.append(treeMark).append(lineEnd);
+  return out;
+}
+
+std::string menuFileRecord(const Document& document, const Node& node) {
+  std::string out;
+  WriteNode(out, document, node);
+  return out;
+}
+
+std::string menuFileText(const Document& document) {
+  auto out = menuFileHead(document.settings);
   // Quirk: further roots, which only a file can bring, are not written.
   const Node* root = document.tvTreeView.root();
   for (const Node* node = root; node != nullptr; node = following(node, root))

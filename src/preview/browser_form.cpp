@@ -2,9 +2,7 @@
 
 #include <utility>
 
-#include "compiler/file_steps.h"
 #include "preview/preview_page.h"
-#include "text/paths.h"
 
 namespace nimbrel {
 
@@ -34,7 +32,9 @@ void frmBrowser::Show() {
 /// Only hides the window; the main window closes it when the program ends.
 void frmBrowser::QueryClose() { Close(); }
 
+/// The timer of an earlier page would remove the files of this one.
 void frmBrowser::RefreshPreview() {
+  Timer1.value = false;
   navigate(brwWebBrowser, previewPagePath(state_.programFolder));
   SetUpdated();
 }
@@ -67,7 +67,7 @@ void frmBrowser::brwWebBrowser_DocumentComplete() { Timer1.value = true; }
 void frmBrowser::Timer1_Timer() {
   Timer1.value = false;
   StepReport report;
-  FileSteps(files_, report).removeFilesIn(folderName(previewPagePath(state_.programFolder)));
+  RemovePreviewPage(files_, state_.programFolder, report);
   for (const auto& finding : report.findings) asker_.noteFailure(finding);
 }
 

@@ -58,4 +58,12 @@ void GetValueFromPropertyControl(ItemObj& element, const PropertySheet& sheet, i
   getValue<ItemObj>(rows, element, sheet, PropertyOrdinal);
 }
 
+void PutStandardsToPropertyControl(const ItemObj& standard, PropertySheet& sheet) {
+  putStandards<ItemObj>(rows, standard, sheet, cellOf<ItemObj>(&ItemObj::ItemName1).row);
+}
+
+void ResetToStandards(ItemObj& element, const PropertySheet& sheet, int PropertyOrdinal) {
+  resetToStandards<ItemObj>(rows, element, sheet, PropertyOrdinal);
+}
+
 }  // namespace nimbrel

@@ -80,4 +80,12 @@ void GetValueFromPropertyControl(MenuObj& element, const PropertySheet& sheet, i
   getValue<MenuObj>(rows, element, sheet, PropertyOrdinal);
 }
 
+void PutStandardsToPropertyControl(const MenuObj& standard, PropertySheet& sheet) {
+  putStandards<MenuObj>(rows, standard, sheet, cellOf<MenuObj>(&MenuObj::menuname).row);
+}
+
+void ResetToStandards(MenuObj& element, const PropertySheet& sheet, int PropertyOrdinal) {
+  resetToStandards<MenuObj>(rows, element, sheet, PropertyOrdinal);
+}
+
 }  // namespace nimbrel

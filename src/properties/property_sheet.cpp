@@ -144,10 +144,28 @@ void PropertySheet::EnterCell(int PropertyOrdinal, int col) {
   showHelp();
 }
 
-void PropertySheet::ShowCell(int PropertyOrdinal, int col) {
+void PropertySheet::SetStandard(int PropertyOrdinal, int col, PropertyValue Value) {
+  cell(PropertyOrdinal, col).standard = std::move(Value);
+}
+
+const std::optional<PropertyValue>& PropertySheet::Standard(int PropertyOrdinal, int col) const {
+  return cell(PropertyOrdinal, col).standard;
+}
+
+bool PropertySheet::IsChanged(int PropertyOrdinal, int col) const {
+  const auto& standard = Standard(PropertyOrdinal, col);
+  return standard && !sameValue(*standard, ValueToStore(PropertyOrdinal, col));
+}
+
+void PropertySheet::SetCursor(int PropertyOrdinal, int col) {
   if (editing_ || PropertyOrdinal < 0 || PropertyOrdinal >= RowCount()) return;
   cursorRow_ = PropertyOrdinal;
   cursorColumn_ = col;
+}
+
+void PropertySheet::ShowCell(int PropertyOrdinal, int col) {
+  SetCursor(PropertyOrdinal, col);
+  ++shownCells_;
 }
 
 void PropertySheet::LeaveCell() {
@@ -295,7 +313,9 @@ void PropertySheet::btnReplicate_Click() {
   if (!table_.hasStates || row(ordinal).OnlyColumn != 0) return;
   LeaveCell();
   for (const int col : {column::MouseOver, column::MouseClick}) {
+    auto standard = std::move(cell(ordinal, col).standard);
     cell(ordinal, col) = cell(ordinal, column::Normal);
+    cell(ordinal, col).standard = std::move(standard);
   }
   if (Change) Change(ordinal);
   EnterCell(ordinal, column::Normal);

@@ -74,4 +74,12 @@ void GetValueFromPropertyControl(SubmenuObj& element, const PropertySheet& sheet
   getValue<SubmenuObj>(rows, element, sheet, PropertyOrdinal);
 }
 
+void PutStandardsToPropertyControl(const SubmenuObj& standard, PropertySheet& sheet) {
+  putStandards<SubmenuObj>(rows, standard, sheet, cellOf<SubmenuObj>(&SubmenuObj::SubmenuName).row);
+}
+
+void ResetToStandards(SubmenuObj& element, const PropertySheet& sheet, int PropertyOrdinal) {
+  resetToStandards<SubmenuObj>(rows, element, sheet, PropertyOrdinal);
+}
+
 }  // namespace nimbrel

@@ -2,8 +2,11 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
+#include <unordered_map>
 #include <utility>
 
+#include "editing/find.h"
 #include "platform/keys.h"
 #include "properties/element_values.h"
 #include "shell/addresses.h"
@@ -35,6 +38,13 @@ const CommandHandler* CommandHandler::find(std::string_view command) {
       {"mnuEditCut", [](frmMain& w) { w.mnuEditCut(); }},
       {"mnuEditCopy", [](frmMain& w) { w.mnuEditCopy(); }},
       {"mnuEditPaste", [](frmMain& w) { w.mnuEditPaste(); }},
+      {"mnuEditDuplicate", [](frmMain& w) { w.mnuEditDuplicate(); }},
+      {"mnuEditRename", [](frmMain& w) { w.isRenaming = w.selected() != nullptr; }},
+      {"mnuEditFind", [](frmMain& w) { w.isFinding = true; }},
+      {"mnuEditFindNext", [](frmMain& w) { w.findNext(true); }},
+      {"mnuEditFindPrevious", [](frmMain& w) { w.findNext(false); }},
+      {"mnuEditResetProperty", [](frmMain& w) { w.mnuEditReset(true); }},
+      {"mnuEditResetElement", [](frmMain& w) { w.mnuEditReset(false); }},
       {"mnuItemAddItem", [](frmMain& w) { w.mnuItemAddItem(); }},
       {"mnuItemDeleteItem", [](frmMain& w) { w.mnuItemDeleteItem(); }},
       {"mnuItemMoveItemUp", [](frmMain& w) { w.mnuItemMove(true); }},
@@ -87,18 +97,29 @@ int nameRow(Kind sheet) {
 frmMain::frmMain(Ports& p, std::string programFolder)
     : ports(p),
       liveExamples(state),
-      browser(ports.files, ports.asker, state, [this] { CreatePreviewFile(); }),
+      browser(ports.previews, ports.asker, state, [this] { CreatePreviewFile(); }),
       prctlMenu(menuTable(), ports, state, liveExamples),
       prctlSubmenu(submenuTable(), ports, state, liveExamples),
       prctlItem(itemTable(), ports, state, liveExamples) {
   state.programFolder = std::move(programFolder);
   bindSheets();
   listen();
+  if (!ports.stateFolder.empty()) keepForRecovery();
   RegisterFileAssociations();
   readGeometry();
 }
 
+template <class E>
+void putStandards(PropertySheet& sheet) {
+  E standard;
+  SetDefaultValues(standard);
+  PutStandardsToPropertyControl(standard, sheet);
+}
+
 void frmMain::bindSheets() {
+  putStandards<MenuObj>(prctlMenu);
+  putStandards<SubmenuObj>(prctlSubmenu);
+  putStandards<ItemObj>(prctlItem);
   prctlMenu.Change = [this](int ordinal) { sheetChanged(Kind::Menu, ordinal); };
   prctlSubmenu.Change = [this](int ordinal) { sheetChanged(Kind::Submenu, ordinal); };
   prctlItem.Change = [this](int ordinal) { sheetChanged(Kind::Item, ordinal); };
@@ -213,6 +234,7 @@ void frmMain::EnableCommands(Kind kind) {
   const bool isSubmenu = kind == Kind::Submenu;
   commands.enable("mnuEditCut", isItem || isSubmenu);
   commands.enable("mnuEditCopy", isItem || isSubmenu);
+  commands.enable("mnuEditDuplicate", isItem);
   commands.enable("mnuItemDeleteItem", isItem);
   if (isItem) {
     enableMoves();
@@ -256,6 +278,59 @@ void frmMain::sheetChanged(Kind kind, int ordinal) {
   auto text = ordinal == nameRow(kind) ? NodeText(element) : node.Text;
   edit.set(document, node, std::move(element), std::move(text));
   apply(std::move(edit));
+}
+
+std::vector<const Node*> frmMain::find(std::string text) {
+  findText_ = std::move(text);
+  return nodesWith(document, findText_);
+}
+
+std::size_t frmMain::replace(std::string_view text, std::string by, TextKind kind) {
+  LeaveCells();
+  std::ranges::replace_if(
+      by, [](char c) { return c == '\r' || c == '\n'; }, ' ');
+  auto [edit, count] = replacing(document, text, by, kind);
+  if (edit.steps.empty()) return 0;
+  apply(std::move(edit));
+  SelectNode(selected());
+  return count;
+}
+
+/// Selects the next of the nodes found, in tree order and round the end.
+void frmMain::findNext(bool forward) {
+  LeaveCells();
+  const auto found = nodesWith(document, findText_);
+  if (found.empty()) return;
+  std::unordered_map<const Node*, std::size_t> order;
+  for (const Node* node = document.tvTreeView.root(); node != nullptr; node = following(node)) {
+    order.emplace(node, order.size());
+  }
+  const auto place = [&](const Node* node) { return order.at(node); };
+  const auto here = selected() == nullptr ? 0 : order.at(selected());
+  if (forward) {
+    const auto next = std::ranges::upper_bound(found, here, {}, place);
+    SelectNode(next == found.end() ? found.front() : *next);
+  } else {
+    const auto next = std::ranges::lower_bound(found, here, {}, place);
+    SelectNode(next == found.begin() ? found.back() : *std::prev(next));
+  }
+}
+
+/// Sets the current row of the sheet, or the whole element but its name, to the defaults.
+void frmMain::mnuEditReset(bool onlyRow) {
+  LeaveCells();
+  const auto* sheet = visibleSheet();
+  if (sheet == nullptr) return;
+  const int ordinal = onlyRow ? sheet->cursorRow() : -1;
+  Element element = *selectedElement();
+  std::visit([&](auto& object) { ResetToStandards(object, *sheet, ordinal); }, element);
+  Edit edit("Reset" + (onlyRow ? " " + std::string(sheet->row(ordinal).Caption) : " to Defaults"));
+  edit.before = {selectedKey_, ordinal, sheet->cursorColumn()};
+  edit.set(document, *selected(), std::move(element));
+  if (edit.steps.empty()) return;
+  const auto spot = edit.before;
+  apply(std::move(edit));
+  show(spot);
 }
 
 void frmMain::tvTreeView_NodeClick(const Node* node) {

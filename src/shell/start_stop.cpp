@@ -89,6 +89,7 @@ void frmMain::Activate(std::string_view commandLine, StartWindows windows) {
   state.BlackPreview = false;
   mnuFileNew();
   openCommandLine(commandLine);
+  offerRecovery();
   const bool showsWindows = windows == StartWindows::Wanted;
   if (settings::ShowTips.readFlag(ports.settings)) {
     if (showsWindows) mnuHelpTipOfTheDay();
@@ -122,6 +123,7 @@ bool frmMain::QueryClose() {
   state.isPreviewWindowLoaded = false;
   state.isLiveExamplesWindowLoaded = false;
   if (fault) std::rethrow_exception(fault);
+  if (mayClose && recovery_) recovery_->discard();
   return mayClose;
 }
 

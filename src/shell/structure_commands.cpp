@@ -1,4 +1,6 @@
 // The commands that change the structure of the tree.
+#include <algorithm>
+
 #include "model/structure.h"
 #include "shell/main_window.h"
 
@@ -69,6 +71,34 @@ void frmMain::mnuEditPaste() {
     apply(std::move(edit));
   }
   if (lacksNumbers) throwUsedUp();
+}
+
+/// A copy of the selected item after it. The clipboard stays.
+void frmMain::mnuEditDuplicate() {
+  if (selectedKind() != Kind::Item) return;
+  LeaveCells();
+  Clipboard copied;
+  CopySubtree(document, *selected(), copied);
+  auto duplicate = pastedSubtree(document, *selected(), copied);
+  if (isCut(duplicate, copied)) throwUsedUp();
+  if (!duplicate.subtree.empty()) add("Duplicate", std::move(duplicate));
+}
+
+void frmMain::rename(const Node& node, std::string name) {
+  LeaveCells();
+  const auto* old = document.element(node);
+  if (old == nullptr) return;
+  std::ranges::replace_if(
+      name, [](char c) { return c == '\r' || c == '\n'; }, ' ');
+  Element element = *old;
+  setName(element, name);
+  Edit edit("Rename");
+  edit.before.key = node.Key;
+  auto text = NodeText(element);
+  edit.set(document, node, std::move(element), std::move(text));
+  if (edit.steps.empty()) return;
+  apply(std::move(edit));
+  SelectNode(&node);
 }
 
 /// Adds new nodes and selects the first.

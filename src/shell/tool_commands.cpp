@@ -41,7 +41,7 @@ void frmMain::CreatePreviewFile() {
   state.WebPageName = "preview.html";
   state.altURL.clear();
   StepReport report;
-  nimbrel::CreatePreviewFile(ports.files, state.programFolder, state.BlackPreview, editor.forCompile(),
+  nimbrel::CreatePreviewFile(ports.previews, state.programFolder, state.BlackPreview, editor.forCompile(),
                              report);
   noteFailures(report.findings);
   browser.Show();

@@ -1,3 +1,4 @@
+#include <future>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -160,6 +161,20 @@ TEST_F(OutputCommands, CompileReportsWhatFailedAndMakesTheRest) {
 TEST_F(OutputCommands, PreviewPrintsThePathOfThePage) {
   EXPECT_EQ(run({"preview", "m.nbr", "--home", "home"}), (Outcome{0, "home/preview/preview.html\n", ""}));
   EXPECT_EQ(run({"preview", "m.nbr", "--home", "nowhere"}).status, 1);
+}
+
+TEST_F(OutputCommands, PreviewsAtTheSameTimeWaitForEachOther) {
+  const Outcome made{0, "home/preview/preview.html\n", ""};
+  const auto preview = [this] { return run({"preview", "m.nbr", "--home", "home"}); };
+  preview();
+  const auto page = read("home/preview/preview.html");
+  for (int round = 0; round < 5; ++round) {
+    std::vector<std::future<Outcome>> runs;
+    for (int i = 0; i < 6; ++i) runs.push_back(std::async(std::launch::async, preview));
+    for (auto& one : runs) EXPECT_EQ(one.get(), made);
+  }
+  EXPECT_EQ(read("home/preview/preview.html"), page);
+  EXPECT_TRUE(std::filesystem::exists("home/preview/nbrData/nbrlib5.js"));
 }
 
 class LinkCommand : public OutputCommands {

@@ -32,9 +32,11 @@ class Play : public NbrcTest {
     return replaced(replaced(text, inJson, "HERE"), here.string(), "HERE");
   }
 
-  Outcome play(const std::string& macro) {
+  Outcome play(const std::string& macro, const std::vector<std::string>& options = {}) {
     write("test.macro", macro);
-    return run({"--home", "home", "play", "test.macro"});
+    std::vector<std::string> words{"--home", "home", "play", "test.macro"};
+    words.insert(words.end(), options.begin(), options.end());
+    return run(words);
   }
 };
 
@@ -53,6 +55,21 @@ TEST_F(Play, EachMacroPrintsItsTranscript) {
     EXPECT_EQ(withoutFolder(outcome.out), read(expected.replace_extension(".jsonl")));
   }
   EXPECT_GT(macros, 4);
+}
+
+/// Each is a start of the program. One that ends without closing its window leaves what a crash would.
+TEST_F(Play, UnsavedChangesAreOfferedAtTheNextStart) {
+  const fs::path folder = fs::path(NIMBREL_TEST_DATA) / "golden/macros/recovery";
+  int starts = 0;
+  for (; fs::exists(folder / (std::to_string(starts + 1) + ".macro")); ++starts) {
+    const auto name = std::to_string(starts + 1);
+    SCOPED_TRACE(name);
+    const auto outcome = play(read(folder / (name + ".macro")), {"--state", "state"});
+    EXPECT_EQ(outcome.err, "");
+    EXPECT_EQ(withoutFolder(outcome.out), read(folder / (name + ".jsonl")));
+  }
+  EXPECT_GT(starts, 4);
+  EXPECT_TRUE(fs::is_empty("state/recovery"));
 }
 
 TEST_F(Play, AFaultOfAMacroEndsItAndNamesTheLine) {

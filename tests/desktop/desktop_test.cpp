@@ -2,6 +2,7 @@
 #include <QAccessible>
 #include <QClipboard>
 #include <QComboBox>
+#include <QDir>
 #include <QHelpSearchQueryWidget>
 #include <QHelpSearchResultWidget>
 #include <QLabel>
@@ -9,23 +10,20 @@
 #include <QListWidget>
 #include <QLockFile>
 #include <QMessageBox>
-#include <QPushButton>
 #include <QTabBar>
 #include <QTest>
 #include <QTextBrowser>
 #include <QToolBar>
-#include <QWebEngineHistory>
-#include <QWebEngineView>
 #include <csignal>
 #include <gmock/gmock.h>
 
-#include "desktop/browser_view.h"
 #include "desktop/display_text.h"
 #include "desktop/folder_view.h"
 #include "editing/editor.h"
 #include "model/structure.h"
 #include "persistence/menu_file.h"
 #include "platform/file_error.h"
+#include "recovery/recovery_file.h"
 #include "support/desktop_run.h"
 
 namespace nimbrel {
@@ -120,16 +118,10 @@ TEST_F(Desktop, FromAnEmptyStartToALinkedMenu) {
   EXPECT_EQ(view.tree().currentIndex().data().toString(), QString::fromUtf8("Über меню - Item4 - Item4"));
   EXPECT_TRUE(run.main().state.IsDirty);
 
-  // The preview shows it in the embedded browser, and its files are removed.
+  // The preview shows it in the embedded browser, and leaves nothing on the disk.
   press(view, Qt::Key_F12);
   ASSERT_TRUE(view.preview().isVisible() && showsItems(view.preview(), 4));
-  EXPECT_TRUE(waitFor([&] { return !QFile::exists(run.programFolder() + "/preview/preview.html"); }));
-
-  // After a crash of the browser the preview can be made again.
-  auto& browser = find<BrowserView>(view.preview());
-  emit browser.view()->renderProcessTerminated(QWebEnginePage::CrashedTerminationStatus, 1);
-  click(*browser.currentWidget()->findChild<QPushButton*>());
-  EXPECT_TRUE(showsItems(view.preview(), 4));
+  EXPECT_FALSE(QFile::exists(run.programFolder() + "/preview"));
 
   // It is compiled and linked, with every window in between.
   const QByteArray page = "<html><body><p>Page</p></body></html>";
@@ -190,6 +182,57 @@ TEST_F(Desktop, AsksBeforeUnsavedWorkIsLostAndSavesUnderTheTypedName) {
   const auto file = run.path(QString::fromUtf8("меню ä.nbr"));
   EXPECT_TRUE(QFile::exists(file));
   EXPECT_TRUE(action("mnuFileMRU1").text().endsWith(file.right(12)));
+}
+
+TEST_F(Desktop, TheTreeRenamesAddsAndMovesByKeys) {
+  run.start();
+  run.select("I3");
+  auto& tree = run.view().tree();
+  press(tree, Qt::Key_F2);
+  auto& editor = find<QLineEdit>(tree);
+  EXPECT_EQ(editor.text(), "Item3");
+  editor.setText("About");
+  press(editor, Qt::Key_Return);
+  EXPECT_TRUE(waitFor([&] { return tree.currentIndex().data() == "About"; }));
+  press(tree, Qt::Key_Insert);
+  EXPECT_EQ(selected(), "I4");
+  QTest::keyClick(&tree, Qt::Key_Up, Qt::ControlModifier);
+  EXPECT_EQ(tree.currentIndex().row(), 2);
+  QTest::mouseClick(tree.viewport(), Qt::RightButton, {},
+                    tree.visualRect(tree.model()->index(0, 0, tree.currentIndex().parent())).center());
+  EXPECT_EQ(selected(), "I1");
+  QApplication::activePopupWidget()->close();
+  for (int i = 0; i < 3; ++i) QTest::keyClick(&tree, Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_FALSE(run.main().state.IsDirty);
+  EXPECT_EQ(selected(), "I3");
+}
+
+TEST_F(Desktop, TheFindBarFiltersTheTree) {
+  run.start(run.programFolder() + "/Examples/thistlewick/thistlewick.nbr");
+  auto& tree = run.view().tree();
+  const auto visible = [&] {
+    int rows = 0;
+    for (auto index = tree.model()->index(0, 0); index.isValid(); index = tree.indexBelow(index)) ++rows;
+    return rows;
+  };
+  run.select("M0");
+  const int all = visible();
+  run.run("mnuEditFind");
+  auto& text = find<QLineEdit>(run.view(), "txtFind");
+  EXPECT_EQ(QApplication::focusWidget(), &text);
+  QTest::keyClicks(&text, "ORCHID");
+  EXPECT_EQ(visible(), 4);  // with the menus above it
+  EXPECT_EQ(find<QLabel>(run.view(), "lblFound").text(), "1 found");
+  press(text, Qt::Key_Return);
+  EXPECT_EQ(selected(), "I5");
+  find<QLineEdit>(run.view(), "txtReplace").setText("Orchard");
+  find<QComboBox>(run.view(), "cboReplaceIn").setCurrentText("in names");
+  click(find(run.view(), "cmdReplace"));
+  EXPECT_EQ(find<QLabel>(run.view(), "lblFound").text(), "3 replaced");
+  EXPECT_EQ(tree.currentIndex().data().toString(), "Orchard Room");
+  press(text, Qt::Key_Escape);
+  EXPECT_EQ(visible(), all);
+  EXPECT_TRUE(tree.hasFocus());
 }
 
 TEST_F(Desktop, ALockedSettingsFileHoldsNothingUp) {
@@ -338,34 +381,10 @@ TEST_F(Desktop, TheGalleryShowsEachStyleAndAppliesOne) {
     click(find(window, "btnApply"));
   });
   run.run("mnuStyleOpenStyleLibrary");
-  // The window was closed before its timer could remove the page.
-  EXPECT_FALSE(QFile::exists(run.programFolder() + "/gallery/stylepreview.html"));
+  for (const auto* made : {"stylepreview.html", "stylepreview.js"}) {
+    EXPECT_FALSE(QFile::exists(run.programFolder() + "/gallery/" + made));
+  }
   EXPECT_TRUE(run.main().state.IsDirty);
-}
-
-TEST_F(Desktop, TheBrowserReadsOnlyTheProgramsFiles) {
-  run.start();
-  run.write("secret.txt", "secret");
-  run.write("program/preview/probe.html", "<title>probe</title>");
-  run.write("program/preview/next.html", "<title>next</title>");
-  auto& window = run.view().preview();
-  auto& browser = find<BrowserView>(window);
-  const auto opens = [&](const char* page) {
-    return waitFor([&] {  // again if a refused page cancels this one
-      browser.navigate(run.programFolder() + "/preview/" + page + ".html");
-      return waitFor([&] { return run.evaluate(window, "document.title").toString() == page; }, 3000);
-    });
-  };
-  ASSERT_TRUE(opens("probe"));
-  const auto read =
-      "(function(){try{var x=new XMLHttpRequest();x.open('GET','../../secret.txt',false);x.send();return "
-      "x.responseText}catch(e){return 'refused'}})()";
-  QVariant result;
-  EXPECT_TRUE(waitFor([&] { return (result = run.evaluate(window, read)).isValid(); }));
-  EXPECT_EQ(result.toString(), "refused");
-  browser.navigate(run.path("secret.txt"));
-  ASSERT_TRUE(opens("next"));
-  EXPECT_EQ(browser.view()->history()->count(), 2);
 }
 
 TEST_F(Desktop, ErrorsAreReportedAfterTheWindowsAreUpToDate) {
@@ -520,6 +539,38 @@ TEST(TreeModelTest, FollowsEachChangeAndKeepsIndexesValid) {
   EXPECT_EQ(kept.row(), 1);
   editor.open({});
   EXPECT_EQ(model.rowCount(), 0);
+}
+
+TEST_F(Desktop, OffersWhatACrashHasLeft) {
+  Document lost;
+  BuildDefaultDocument(lost);
+  for (const char* name : {"1", "2"}) {
+    const auto folder = "state/nimbrel/recovery/" + QString(name);
+    ASSERT_TRUE(QDir().mkpath(run.path(folder)));
+    const RecoveryHead head{.folder = "\\site", .name = name + std::string(".nbr")};
+    run.write(folder + "/document", QByteArray::fromStdString(recoveryHeadText(head) + menuFileText(lost)));
+  }
+  run.answer([this](QWidget& window) {
+    EXPECT_EQ(flawedControls(window), "");
+    auto& list = find<QListWidget>(window, "List1");
+    EXPECT_TRUE(list.hasFocus());
+    EXPECT_EQ(list.item(0)->text(), "/site/1.nbr, " + list.item(1)->text().section(", ", 1));
+    EXPECT_THAT(find<QLabel>(window, "lblTree").text().toStdString(), HasSubstr("Item2"));
+    press(list, Qt::Key_Down);
+    press(list, Qt::Key_Return);
+  });
+  run.start();
+  EXPECT_EQ(run.view().windowTitle(), "Nimbrel ver 2.0 - 2.nbr");
+  EXPECT_TRUE(run.main().state.IsDirty);
+  EXPECT_EQ(run.main().document, lost);
+  // The other one is there for the next start, and this one is kept until it is saved or given up.
+  const auto kept = [this] {
+    return QDir(run.path("state/nimbrel/recovery")).entryList(QDir::Dirs | QDir::NoDotAndDotDot).join(' ');
+  };
+  EXPECT_EQ(kept(), "1 2");
+  run.answerWith("No");
+  EXPECT_TRUE(run.view().close());
+  EXPECT_EQ(kept(), "1");
 }
 
 TEST(DisplayText, FiltersAreWrittenAsQtReadsThem) {

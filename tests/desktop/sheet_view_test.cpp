@@ -83,8 +83,15 @@ class SheetOnScreen : public testing::Test {
 
   ScriptedPorts system;
   PaintingAuthor author;
-  Ports ports{
-      system.files, author, system.settings, system, system, system, {"Zapf Chancery Medium Italic"}, {}};
+  Ports ports{system.files,
+              system.files,
+              author,
+              system.settings,
+              system,
+              system,
+              system,
+              {"Zapf Chancery Medium Italic"},
+              {}};
   ProgramState state;
   frmLiveExamples viewer{state};
   Element element;

@@ -83,7 +83,9 @@ TEST_F(StyleFile, TakesOnlyPicturesOfTheGallery) {
 TEST_F(StyleFile, AreSavedWithPicturesOnly) {
   files.files["C:\\home\\.bashrc"] = "secret";
   style.submenu.BGImage = "C:\\home\\.bashrc";
+  style.item.BGImage1 = "";  // no picture either
   save();
+  EXPECT_THAT(text(), StartsWith("nbs200\r\n 0 \r\n"));
   EXPECT_EQ(report.findings.size(), 1U);
   EXPECT_FALSE(files.isFile("C:\\p\\gallery\\Blue-images\\.bashrc"));
 }

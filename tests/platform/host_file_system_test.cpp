@@ -130,8 +130,11 @@ TEST_F(HostFiles, AreLockedWithTheirFolder) {
   auto mine = files_.lock(folder);
   auto other = std::async(std::launch::async, [&] { return files_.lock(folder); });
   EXPECT_EQ(other.wait_for(std::chrono::milliseconds(50)), std::future_status::timeout);
+  EXPECT_EQ(files_.tryLock(path(".")), nullptr);
   mine.reset();
   EXPECT_NE(other.get(), nullptr);
+  EXPECT_NE(files_.tryLock(path(".")), nullptr);
+  EXPECT_EQ(files_.tryLock(path("missing")), nullptr);
 }
 
 TEST(MemoryFiles, AreInsideAFolderAsOnADisk) {

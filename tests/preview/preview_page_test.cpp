@@ -58,18 +58,24 @@ TEST_F(PreviewPage, MakesOneScriptWithTheFolderOfTheLastCompile) {
   }
 }
 
-TEST_F(PreviewPage, ReplacesOnlyThePreview) {
+TEST_F(PreviewPage, RemovesOnlyWhatAPreviewMade) {
   page();
   const auto made = files.files.size();
-  files.files["C:\\program\\preview\\nbrData\\old.gif"] = "old";
-  files.files["C:\\program\\preview\\old.html"] = "old";
-  files.files["C:\\program\\preview\\nbrData\\deeper\\mine.gif"] = "mine";
+  files.files["C:\\program\\preview\\mine.html"] = "mine";
+  files.files["C:\\program\\preview\\nbrData\\mine.gif"] = "mine";
   files.files["C:\\pictures\\a.gif"] = "GIF";
+  files.files["C:\\program\\preview\\preview-files.txt"] += "..\\dot.gif\n";
   menu().TitleImage = "C:\\pictures\\a.gif";
   page();
-  EXPECT_EQ(files.files.size(), made + 3);
-  EXPECT_TRUE(files.isFile("C:\\program\\preview\\nbrData\\deeper\\mine.gif"));
+  EXPECT_EQ(files.files.size(), made + 4);
   EXPECT_TRUE(files.isFile("C:\\program\\preview\\nbrData\\a.gif"));
+  menu().TitleImage = "";
+  page();
+  EXPECT_EQ(files.files.size(), made + 3);
+  RemovePreviewPage(files, "C:\\program", report);
+  EXPECT_EQ(files.files.size(), made);
+  EXPECT_THAT(files.filesIn("C:\\program\\preview"), testing::ElementsAre("mine.html", "preview-files.txt"));
+  EXPECT_TRUE(files.isFile("C:\\program\\dot.gif"));
 }
 
 }  // namespace

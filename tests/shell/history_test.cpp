@@ -2,7 +2,9 @@
 #include <gmock/gmock.h>
 #include <random>
 
+#include "persistence/menu_file.h"
 #include "properties/element_values.h"
+#include "recovery/menu_mirror.h"
 #include "shell/main_window.h"
 #include "support/scripted_ports.h"
 
@@ -88,6 +90,9 @@ class History : public testing::Test {
     constexpr std::array commands{"mnuEditCut",
                                   "mnuEditCopy",
                                   "mnuEditPaste",
+                                  "mnuEditDuplicate",
+                                  "mnuEditResetProperty",
+                                  "mnuEditResetElement",
                                   "mnuItemAddItem",
                                   "mnuItemAddItem",
                                   "mnuItemDeleteItem",
@@ -121,6 +126,9 @@ class History : public testing::Test {
 
   void requireListenersAgree() {
     EXPECT_TRUE(rows.isRight());
+    std::string kept;
+    mirror.appendTo(kept);
+    EXPECT_EQ(kept, menuFileText(main.document));
     EXPECT_EQ(main.state.IsDirty, main.editor.isDirty());
     EXPECT_EQ(main.canRun("mnuEditUndo"), main.editor.undoName().has_value());
     EXPECT_EQ(main.canRun("mnuEditRedo"), main.editor.redoName().has_value());
@@ -132,6 +140,11 @@ class History : public testing::Test {
   ScriptedPorts system;
   frmMain main{system.ports, "C:\\p"};
   RowListener rows{main.editor};
+  MenuMirror mirror;  ///< as recovery keeps it
+  Connection opened =
+      main.editor.documentReplaced.connect([this] { mirror.apply(wholeMenu(main.document)); });
+  Connection edited =
+      main.editor.edited.connect([this](const Edit& edit) { mirror.apply(changeBy(edit, main.document)); });
 };
 
 TEST_F(History, UndoingAllGivesTheFirstDocumentAndRedoingAllTheLast) {

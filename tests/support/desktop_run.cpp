@@ -15,7 +15,6 @@
 #include <memory>
 #include <optional>
 #include <stdexcept>
-#include <unistd.h>
 
 #include "desktop/browser_view.h"
 #include "desktop/display_text.h"
@@ -47,9 +46,8 @@ std::unique_ptr<QApplication> offscreenApplication(int& argc, char** argv) {
     screen.close();
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screen.fileName().toUtf8());
   }
-  if (geteuid() == 0) qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
   qputenv("QTWEBENGINE_CHROMIUM_FLAGS", "--disable-gpu");
-  QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+  prepareBrowser();
   QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
   auto application = std::make_unique<QApplication>(argc, argv);
   setUpApplication();
@@ -65,6 +63,7 @@ DesktopRun::DesktopRun(const QString& folder) : folder_(folder.isEmpty() ? tempo
            fs::copy_options::recursive | fs::copy_options::create_hard_links);
   QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, path("config"));
   qputenv("XDG_DATA_HOME", path("data").toLocal8Bit());
+  qputenv("XDG_STATE_HOME", path("state").toLocal8Bit());
   qputenv("XDG_CACHE_HOME", path("cache").toLocal8Bit());
   UserSettings settings;
   settings.SaveSetting("Settings", "Show Tips at Startup", "0");

@@ -99,7 +99,8 @@ void CellPainter::paintText(QPainter& painter, const QStyleOptionViewItem& optio
   const auto text = index.data().toString().left(maxLength).replace('\n', ' ');
   if (text.isEmpty()) return;
   const bool isCaption = index.column() == column::Caption;
-  const auto font = isCaption ? captionFont(model_.sheet().row(index.row()), option.font) : option.font;
+  auto font = isCaption ? captionFont(model_.sheet().row(index.row()), option.font) : option.font;
+  if (model_.isChanged(index.row(), index.column())) font.setBold(true);
   if (font != painter.font()) painter.setFont(font);
   painter.setPen(ink);
   const auto place = textPlace(option.rect, index);

@@ -1,5 +1,6 @@
 #include "desktop/sheet/sheet_grid.h"
 
+#include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <algorithm>
@@ -56,6 +57,16 @@ void SheetGrid::mousePressEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
   const auto index = indexAt(event->position().toPoint());
   emit cellPressed(index.row(), index.column());
+}
+
+/// For the cell under the mouse, or for the current one.
+void SheetGrid::contextMenuEvent(QContextMenuEvent* event) {
+  const bool isByMouse = event->reason() == QContextMenuEvent::Mouse;
+  const auto index = isByMouse ? indexAt(event->pos()) : currentIndex();
+  if (!index.isValid()) return;
+  if (isByMouse && (index.flags() & Qt::ItemIsSelectable) != 0) setCurrentIndex(index);
+  emit menuRequested(isByMouse ? event->globalPos()
+                               : viewport()->mapToGlobal(visualRect(index).bottomLeft()));
 }
 
 /// Dragging does not change the current cell.

@@ -23,8 +23,13 @@ bool SheetModel::isOpen(int row, int col) const {
   return sheet_.Editing() && sheet_.cursorRow() == row && sheet_.cursorColumn() == col;
 }
 
+bool SheetModel::isChanged(int row, int col) const {
+  return col != column::Caption && col != column::Replicate && sheet_.row(row).takes(col) &&
+         sheet_.IsChanged(row, col);
+}
+
 SheetModel::Appearance SheetModel::appearanceOf(int row, int col) const {
-  Appearance appearance{sheet_.Shown(row, col), {}, isOpen(row, col)};
+  Appearance appearance{sheet_.Shown(row, col), {}, isOpen(row, col), isChanged(row, col)};
   if (sheet_.row(row).Kind() == KindColour) appearance.swatch = sheet_.swatch(row, col);
   return appearance;
 }
@@ -79,6 +84,8 @@ QString SheetModel::nameOf(int row, int col) const {
 QVariant SheetModel::data(const QModelIndex& index, int role) const {
   const int row = index.row();
   const int col = index.column();
+  if (role == Qt::AccessibleDescriptionRole && index.isValid() && isChanged(row, col))
+    return "not the default";
   if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::AccessibleTextRole)) return {};
   if (col == column::Caption) return role == Qt::DisplayRole ? caption(row) : caption(row).trimmed();
   if (role == Qt::DisplayRole) return isOpen(row, col) ? QString() : text(row, col);

@@ -40,6 +40,12 @@ void SheetView::connectAll() {
   connect(&grid_, &SheetGrid::textComposed, this, &SheetView::compose);
   connect(&grid_, &SheetGrid::focusedByKeyboard, this, [this] { open(grid_.current()); });
   connect(&grid_, &SheetGrid::scrolled, this, &SheetView::scrolled);
+  connect(&grid_, &SheetGrid::menuRequested, this, [this](const QPoint& place) {
+    leaveCell();
+    emit menuRequested(place);
+  });
+  connect(grid_.selectionModel(), &QItemSelectionModel::currentChanged, this,
+          [this](const QModelIndex& current) { sheet_.SetCursor(current.row(), current.column()); });
   connect(&grid_, &SheetGrid::resized, this, &SheetView::setColumns);
   connect(&editors_.entry(), &EntryEdit::commandRequested, this, &SheetView::command);
   connect(&editors_.list(), &ListPopup::helpRequested, this, &SheetView::help);
@@ -67,6 +73,8 @@ void SheetView::refresh() {
     grid_.scrollToTop();
     caret_.reset();
   }
+  if (std::exchange(shownCells_, sheet_.shownCells()) != sheet_.shownCells() && !sheet_.Editing())
+    grid_.goTo(lastCell());
   // The links are hidden when the cell is closed.
   if (!sheet_.Editing() && help_.isAncestorOf(window()->focusWidget())) grid_.setFocus(Qt::OtherFocusReason);
   help_.refresh();

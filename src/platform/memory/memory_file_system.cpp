@@ -69,6 +69,11 @@ std::unique_ptr<FolderLock> MemoryFileSystem::lock(std::span<const std::string>)
   return std::make_unique<FolderLock>();
 }
 
+/// One program alone uses a file system in memory, and it locks a folder once.
+std::unique_ptr<FolderLock> MemoryFileSystem::tryLock(std::string_view folder) {
+  return isFolder(folder) ? std::make_unique<FolderLock>() : nullptr;
+}
+
 void MemoryFileSystem::replace(std::string_view path, std::string_view bytes) {
   failIfAsked(path);
   const auto folder = folderName(path);
@@ -104,6 +109,14 @@ std::vector<std::string> MemoryFileSystem::filesIn(std::string_view folder) cons
   std::vector<std::string> names;
   for (const auto& entry : files) {
     if (folderName(entry.first) == folder) names.emplace_back(fileName(entry.first));
+  }
+  return names;
+}
+
+std::vector<std::string> MemoryFileSystem::foldersIn(std::string_view folder) const {
+  std::vector<std::string> names;
+  for (const auto& path : folders) {
+    if (folderName(path) == folder) names.emplace_back(fileName(path));
   }
   return names;
 }

@@ -1,5 +1,6 @@
 #include "platform/posix/folder_locks.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <chrono>
 #include <fcntl.h>
@@ -26,7 +27,7 @@ bool lockUntil(int descriptor, Clock::time_point end) {
 
 }  // namespace
 
-FolderLocks::FolderLocks(const std::vector<std::filesystem::path>& folders) {
+FolderLocks::FolderLocks(const std::vector<std::filesystem::path>& folders, std::chrono::seconds patience) {
   std::map<std::pair<dev_t, ino_t>, Handle> inOrder;  // one folder may have several paths
   for (const auto& folder : folders) {
     Handle handle(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
@@ -38,6 +39,16 @@ FolderLocks::FolderLocks(const std::vector<std::filesystem::path>& folders) {
   for (auto& [identity, handle] : inOrder) {
     if (lockUntil(handle.get(), end)) locked_.push_back(std::move(handle));
   }
+}
+
+bool FolderLocks::holds(const std::filesystem::path& folder) const {
+  struct stat named {};
+  if (::stat(folder.c_str(), &named) != 0) return false;
+  return std::ranges::any_of(locked_, [&](const Handle& handle) {
+    struct stat locked {};
+    return ::fstat(handle.get(), &locked) == 0 && locked.st_dev == named.st_dev &&
+           locked.st_ino == named.st_ino;
+  });
 }
 
 }  // namespace nimbrel

@@ -53,6 +53,20 @@ std::string readFrom(const Handle& file, std::string_view path, off_t offset, st
   return bytes;
 }
 
+/// The names of the entries for which `isWanted` returns true, in byte order.
+std::vector<std::string> namesIn(std::string_view folder,
+                                 bool (*isWanted)(const fs::directory_entry&, std::error_code&)) {
+  std::vector<std::string> names;
+  std::error_code error;
+  for (fs::directory_iterator entry(toHostPath(folder), error), end; !error && entry != end;
+       entry.increment(error)) {
+    std::error_code ignored;
+    if (isWanted(*entry, ignored)) names.push_back(fromHostPath(entry->path().filename().string()));
+  }
+  std::ranges::sort(names);
+  return names;
+}
+
 }  // namespace
 
 bool HostFileSystem::isFile(std::string_view path) const {
@@ -105,6 +119,14 @@ std::unique_ptr<FolderLock> HostFileSystem::lock(std::span<const std::string> fo
   std::vector<fs::path> paths;
   for (const auto& folder : folders) paths.emplace_back(folder.empty() ? "." : toHostPath(folder));
   return std::make_unique<FolderLocks>(paths);
+}
+
+std::unique_ptr<FolderLock> HostFileSystem::tryLock(std::string_view folder) {
+  requireUsable(folder);
+  const fs::path path = toHostPath(folder);
+  auto lock = std::make_unique<FolderLocks>(std::vector{path}, std::chrono::seconds::zero());
+  // Another program may have removed the folder before the lock.
+  return lock->holds(path) ? std::move(lock) : nullptr;
 }
 
 void HostFileSystem::replace(std::string_view path, std::string_view bytes) {
@@ -163,15 +185,15 @@ void HostFileSystem::removeFolder(std::string_view path) {
 }
 
 std::vector<std::string> HostFileSystem::filesIn(std::string_view folder) const {
-  std::vector<std::string> names;
-  std::error_code error;
-  for (fs::directory_iterator entry(toHostPath(folder), error), end; !error && entry != end;
-       entry.increment(error)) {
-    std::error_code ignored;
-    if (entry->is_regular_file(ignored)) names.push_back(fromHostPath(entry->path().filename().string()));
-  }
-  std::ranges::sort(names);
-  return names;
+  return namesIn(folder, [](const fs::directory_entry& entry, std::error_code& error) {
+    return entry.is_regular_file(error);
+  });
+}
+
+std::vector<std::string> HostFileSystem::foldersIn(std::string_view folder) const {
+  return namesIn(folder, [](const fs::directory_entry& entry, std::error_code& error) {
+    return entry.is_directory(error);
+  });
 }
 
 }  // namespace nimbrel

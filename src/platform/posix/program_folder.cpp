@@ -22,9 +22,10 @@ std::optional<std::string> environment(const char* name) {
   return value;
 }
 
-fs::path perUserFolder() {
-  if (const auto data = environment("XDG_DATA_HOME")) return fs::path(*data) / "nimbrel";
-  return fs::path(environment("HOME").value_or(".")) / ".local" / "share" / "nimbrel";
+/// `variable` names the folder of the programs' folders, which is `standard` in the user's `.local` without it.
+fs::path perUserFolder(const char* variable, const char* standard) {
+  if (const auto folder = environment(variable)) return fs::path(*folder) / "nimbrel";
+  return fs::path(environment("HOME").value_or(".")) / ".local" / standard / "nimbrel";
 }
 
 bool holdsLibraries(const fs::path& folder) {
@@ -40,7 +41,7 @@ std::string programFolder(const std::optional<std::string>& asked) {
   const fs::path beside = folderOfExecutable();
   if (holdsLibraries(beside)) return beside.string();
 
-  const fs::path folder = perUserFolder();
+  const fs::path folder = perUserFolder("XDG_DATA_HOME", "share");
   const fs::path product = beside.parent_path() / "share" / "nimbrel";
   if (!holdsLibraries(product)) return folder.string();
   if (holdsLibraries(folder)) {
@@ -48,6 +49,14 @@ std::string programFolder(const std::optional<std::string>& asked) {
   } else {
     makeProductCopy(product, folder);
   }
+  return folder.string();
+}
+
+std::string stateFolder() {
+  const auto folder = perUserFolder("XDG_STATE_HOME", "state");
+  std::error_code error;
+  // The menus of one user are nobody else's business.
+  if (fs::create_directories(folder, error)) fs::permissions(folder, fs::perms::owner_all, error);
   return folder.string();
 }
 

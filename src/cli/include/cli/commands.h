@@ -35,6 +35,7 @@ ExitStatus previewCommand(const Console& console, FileSystem& files, const std::
 struct PlayCall {
   std::string macro;     ///< a path, or "-" for standard input
   std::string settings;  ///< a path; empty: start with empty settings and write none
+  std::string state;     ///< the folder for recovery files; empty: there is no recovery
 };
 ExitStatus playCommand(const Console& console, FileSystem& files, const std::optional<std::string>& home,
                        const PlayCall& call);

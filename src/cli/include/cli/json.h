@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "model/document.h"
 #include "platform/asker.h"
@@ -38,6 +39,8 @@ class Transcript {
   void help(std::string_view page);
   void refused(std::string_view command);
   void closed(bool isClosed);
+  void found(const std::vector<const Node*>& nodes);
+  void replaced(std::size_t count);
   void error(std::string_view text);
   bool hadErrors() const { return hadErrors_; }
 

@@ -23,8 +23,8 @@ struct MacroLine {
 
 /// Parses a macro, which is UTF-8. Words are separated by blanks; a word that contains a blank is quoted, with the
 /// escapes \" \\ \n \r \t inside the quotes; "#" at the start of a word begins a comment. Throws `MacroFault` with the
-/// number of the line.
-std::vector<MacroLine> parseMacro(std::string_view text);
+/// number of the line, the first of which has the number `first`.
+std::vector<MacroLine> parseMacro(std::string_view text, std::size_t first = 1);
 
 /// The button's name in macros and transcripts.
 const char* nameOf(BoxButton button);

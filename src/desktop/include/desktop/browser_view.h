@@ -1,37 +1,65 @@
 #pragma once
 
-#include <QStackedWidget>
+#include <QTimer>
+#include <QWidget>
+#include <memory>
 
+class QLabel;
+class QPushButton;
+class QStackedWidget;
 class QWebEngineView;
 
 namespace nimbrel {
 
-/// A browser for the program's own pages. It loads files from the program's folder only: nothing from the network
-/// and no other files. It follows no links. The browser process starts with the first page.
-class BrowserView : public QStackedWidget {
+class PageBar;
+class PageGuard;
+class ServedPages;
+
+/// A browser for the program's own pages, whose scripts can be those of a stranger: they reach nothing but their page.
+/// What a page says in dialogs appears in a bar above it. A page that does not answer can be stopped, one that takes
+/// more than 1 GiB of memory is ended, and both can be loaded again. Each visit has a fresh page and process; the
+/// first one starts the browser.
+class BrowserView : public QWidget {
   Q_OBJECT
 
  public:
   explicit BrowserView(QWidget* parent = nullptr);
+  ~BrowserView() override;
 
-  /// The folder that all browsers may read. Must be set before the first page.
-  static void setReadableFolder(const QString& folder);
+  /// Where all browsers get their pages. Must be set before the first page, and live as long as the pages.
+  static void setPages(ServedPages* pages);
 
-  void navigate(const QString& path);
+  /// Shows a page of the program's folder. `path` is in document form.
+  void navigate(const std::string& path);
   /// nullptr before the first page.
   QWebEngineView* view() const { return view_; }
 
  signals:
   void documentComplete();
-  /// The browser process has crashed, and the user wants to load the page again.
+  /// The page is gone, and the user wants to load it again.
   void reloadRequested();
 
  private:
   void createView();
-  void showCrash();
+  void createEnd();
+  void hear(const QString& text);
+  void showSaid();
+  void showAnswering(bool isAnswering);
+  void showEnd(const QString& reason);
+  void leavePage();
 
+  QStackedWidget* stack_;
+  PageBar* said_;
+  PageBar* hangs_;
   QWebEngineView* view_ = nullptr;
-  QWidget* crashed_ = nullptr;
+  QWidget* end_ = nullptr;
+  QLabel* reason_ = nullptr;
+  QPushButton* reload_ = nullptr;
+  std::unique_ptr<PageGuard> guard_;
+  bool isStopped_ = false;  ///< by the user
+  QString lastSaid_;
+  int timesSaid_ = 0;
+  QTimer saidTimer_;
 };
 
 }  // namespace nimbrel

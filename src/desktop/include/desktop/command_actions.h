@@ -27,6 +27,8 @@ class CommandActions : public QObject {
   QMenu* contextMenu(std::string_view name) const;
   QAction* action(std::string_view name) const;
   QAction* button(std::string_view key) const;
+  /// Those whose shortcuts work only in the tree, which must add them.
+  const QList<QAction*>& treeActions() const { return treeActions_; }
 
  signals:
   /// `name` is the name of a menu entry or the key of a toolbar button.
@@ -47,6 +49,7 @@ class CommandActions : public QObject {
   std::map<std::string, QAction*, std::less<>> entries_;
   std::map<std::string, QAction*, std::less<>> buttons_;
   std::map<std::string, QMenu*, std::less<>> contextMenus_;
+  QList<QAction*> treeActions_;
 };
 
 }  // namespace nimbrel

@@ -8,6 +8,7 @@
 #include "desktop/help_window.h"
 #include "desktop/main_view.h"
 #include "desktop/qt_asker.h"
+#include "desktop/served_pages.h"
 #include "desktop/termination.h"
 #include "desktop/user_settings.h"
 #include "platform/posix/host_file_system.h"
@@ -32,6 +33,8 @@ class DesktopProgram {
 
  private:
   HostFileSystem files_;
+  OverlayFileSystem previews_{files_};
+  ServedPages pages_;
   QtAsker asker_;
   UserSettings settings_;
   DesktopOpener opener_;

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "desktop/command_actions.h"
+#include "desktop/find_bar.h"
 #include "desktop/form_window.h"
 #include "desktop/sheet/sheet_view.h"
 #include "desktop/tree_model.h"
@@ -61,11 +62,14 @@ class MainView : public QMainWindow {
   QPoint placeBeside(const QSize& size) const;
   void recordGeometry();
   void lookForOtherChanges();
+  void find();
   void drawIcons();
 
   frmMain& main_;
   TreeModel model_;
+  QWidget treePane_;  ///< the find bar above the tree; before them, since it would delete its children
   TreeView tree_;
+  FindBar findBar_;
   SheetView menuSheet_, submenuSheet_, itemSheet_;
   MainArea* area_;
   CommandActions commands_;
@@ -73,7 +77,7 @@ class MainView : public QMainWindow {
   FormWindow liveExamples_;
   std::map<const FormWindow*, std::size_t>
       lastShows_;  ///< `Form::shows` of the side windows at the last refresh
-  Connection expandNewDocuments_;
+  std::vector<Connection> connections_;
   bool isStarted_ = false;
   bool isStarting_ = false;
   bool isModalOpen_ = false;

@@ -32,6 +32,12 @@ class TreeModel : public QAbstractItemModel {
   int rowCount(const QModelIndex& parent = {}) const override;
   int columnCount(const QModelIndex& parent = {}) const override;
   QVariant data(const QModelIndex& index, int role) const override;
+  Qt::ItemFlags flags(const QModelIndex& index) const override;
+  /// Only says what the user wants: the document, and with it this model, changes through the editor.
+  bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+
+ signals:
+  void renamed(const nimbrel::Node* node, const QString& name);
 
  private:
   /// The children of a node in order. The tree links siblings only to their neighbours, and views ask by row.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QTreeView>
+#include <vector>
 
 #include "desktop/tree_model.h"
 
@@ -15,6 +16,8 @@ class TreeView : public QTreeView {
 
   /// Makes a node the current one and scrolls to it, without a signal.
   void showSelected(const Node* node);
+  /// Hides all rows but those of these nodes and the nodes above them. nullptr shows all rows.
+  void filter(const std::vector<const Node*>* nodes);
   /// Expands all of a small tree, or the first levels of a large one.
   void expandInitially();
 
@@ -33,6 +36,7 @@ class TreeView : public QTreeView {
  private:
   TreeModel& tree_;
   bool isSettingCurrent_ = false;
+  bool isFiltered_ = false;
 };
 
 }  // namespace nimbrel

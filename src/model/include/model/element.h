@@ -69,6 +69,11 @@ void eachImage(Element& element, F&& f) {
 /// Gives an item one name for all of its states.
 void setNames(ItemObj& item, const SharedText& name);
 
+/// The name that an author types for an element: of an item, that of the state Normal.
+const SharedText& nameOf(const Element& element);
+/// Sets it, for an item in all states.
+void setName(Element& element, const SharedText& name);
+
 /// Removes the images that mark an item with a submenu.
 void clearSubmenuImages(ItemObj& item);
 

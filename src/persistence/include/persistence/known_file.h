@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "platform/file_system.h"
 
@@ -17,6 +18,12 @@ class KnownFile {
 
   /// A file with these bytes.
   KnownFile(std::string path, std::string_view bytes);
+
+  /// A file as another start of the program knew it; `hash` is that program's `hash()`.
+  KnownFile(std::string path, std::size_t hash) : path_(std::move(path)), hash_(hash) {}
+
+  /// Identifies the bytes.
+  std::size_t hash() const { return hash_; }
 
   /// Empty if there is no file.
   const std::string& path() const { return path_; }

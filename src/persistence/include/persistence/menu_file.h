@@ -38,4 +38,9 @@ void SaveMenuFile(FileSystem& files, std::string_view path, const Document& docu
 /// The bytes that `SaveMenuFile` writes.
 std::string menuFileText(const Document& document);
 
+/// The parts of these bytes: the head with the settings, then for each node, in tree order from the first root, its
+/// record. A record depends on the node, its parent's key and its element alone.
+std::string menuFileHead(const CompileSettings& settings);
+std::string menuFileRecord(const Document& document, const Node& node);
+
 }  // namespace nimbrel

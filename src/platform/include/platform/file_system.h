@@ -63,6 +63,9 @@ class FileSystem {
   /// cannot be locked are left out: reading and writing need no lock.
   virtual std::unique_ptr<FolderLock> lock(std::span<const std::string> folders) = 0;
 
+  /// Locks one folder without waiting. Returns nullptr if it is locked already, also by this program, or gone.
+  virtual std::unique_ptr<FolderLock> tryLock(std::string_view folder) = 0;
+
   /// Creates the file or replaces it atomically: after a crash or power failure it has either its old bytes
   /// or all of the new ones. Keeps the mode of an old file and follows links. Fails if the file is read-only.
   virtual void replace(std::string_view path, std::string_view bytes) = 0;
@@ -88,6 +91,9 @@ class FileSystem {
 
   /// Returns the names of the files in a folder, in byte order. Empty if there is no such folder.
   virtual std::vector<std::string> filesIn(std::string_view folder) const = 0;
+
+  /// The same for the names of folders.
+  virtual std::vector<std::string> foldersIn(std::string_view folder) const = 0;
 
   /// In bytes. Far more than any file of ours, but not enough to exhaust the memory.
   static constexpr std::size_t largestFile = std::size_t{1} << 30;

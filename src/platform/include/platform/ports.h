@@ -35,6 +35,7 @@ class ClassesRoot {
 /// All ports together. Borrowed; they must outlive the users of this struct.
 struct Ports {
   FileSystem& files;
+  FileSystem& previews;  ///< where previews are made; may be the same as `files`
   Asker& asker;
   SettingsStore& settings;
   Opener& opener;
@@ -42,6 +43,7 @@ struct Ports {
   ClassesRoot& classes;
   std::vector<std::string> fonts;  ///< installed font families
   std::function<double()> random;  ///< returns a number from 0 to below 1
+  std::string stateFolder{};       ///< for the recovery of unsaved changes; empty: there is none
 };
 
 }  // namespace nimbrel

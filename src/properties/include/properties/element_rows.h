@@ -107,6 +107,15 @@ void putValues(std::span<const ElementRow<E>> rows, const E& element, PropertySh
   sheet.RefreshPropertyValues();
 }
 
+template <class E>
+void putStandards(std::span<const ElementRow<E>> rows, const E& standard, PropertySheet& sheet, int nameRow) {
+  for (int ordinal = 0; std::cmp_less(ordinal, rows.size()); ++ordinal) {
+    if (ordinal == nameRow) continue;
+    eachField(rows[static_cast<std::size_t>(ordinal)],
+              [&](int col, auto field) { sheet.SetStandard(ordinal, col, standard.*field); });
+  }
+}
+
 /// A text in a number property counts as 0.
 inline void assign(std::uint8_t& to, const PropertyValue& value) {
   const auto* number = std::get_if<float>(&value);
@@ -124,6 +133,17 @@ void getValue(std::span<const ElementRow<E>> rows, E& element, const PropertyShe
   if (std::cmp_less(ordinal, 0) || std::cmp_greater_equal(ordinal, rows.size())) return;
   eachField(rows[static_cast<std::size_t>(ordinal)],
             [&](int col, auto field) { assign(element.*field, sheet.ValueToStore(ordinal, col)); });
+}
+
+template <class E>
+void resetToStandards(std::span<const ElementRow<E>> rows, E& element, const PropertySheet& sheet,
+                      int wanted) {
+  for (int ordinal = 0; std::cmp_less(ordinal, rows.size()); ++ordinal) {
+    if (wanted >= 0 && ordinal != wanted) continue;
+    eachField(rows[static_cast<std::size_t>(ordinal)], [&](int col, auto field) {
+      if (sheet.IsChanged(ordinal, col)) assign(element.*field, *sheet.Standard(ordinal, col));
+    });
+  }
 }
 
 }  // namespace nimbrel

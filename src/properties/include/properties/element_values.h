@@ -42,4 +42,14 @@ void GetValueFromPropertyControl(MenuObj& element, const PropertySheet& sheet, i
 void GetValueFromPropertyControl(SubmenuObj& element, const PropertySheet& sheet, int PropertyOrdinal);
 void GetValueFromPropertyControl(ItemObj& element, const PropertySheet& sheet, int PropertyOrdinal);
 
+/// Tells the sheet the default of each property but the names, which have none.
+void PutStandardsToPropertyControl(const MenuObj& standard, PropertySheet& sheet);
+void PutStandardsToPropertyControl(const SubmenuObj& standard, PropertySheet& sheet);
+void PutStandardsToPropertyControl(const ItemObj& standard, PropertySheet& sheet);
+
+/// Sets the properties of one row, or with -1 of all rows, to the defaults that the sheet knows.
+void ResetToStandards(MenuObj& element, const PropertySheet& sheet, int PropertyOrdinal);
+void ResetToStandards(SubmenuObj& element, const PropertySheet& sheet, int PropertyOrdinal);
+void ResetToStandards(ItemObj& element, const PropertySheet& sheet, int PropertyOrdinal);
+
 }  // namespace nimbrel

@@ -48,8 +48,16 @@ class PropertySheet : public Form {
   /// Opens a cell. A heading opens the row below, and an unusable cell the usable one of its row. Does nothing while
   /// a cell is open, or outside the table.
   void EnterCell(int PropertyOrdinal, int col);
-  /// Makes a cell the current one without opening it. Does nothing while a cell is open.
+  /// The value that a cell has by default, and whether it has another one now. A name has no default.
+  void SetStandard(int PropertyOrdinal, int col, PropertyValue Value);
+  const std::optional<PropertyValue>& Standard(int PropertyOrdinal, int col) const;
+  bool IsChanged(int PropertyOrdinal, int col) const;
+
+  /// Make a cell the current one without opening it. Do nothing while a cell is open. After `ShowCell` the view also
+  /// scrolls to it, each time `shownCells` changes.
+  void SetCursor(int PropertyOrdinal, int col);
   void ShowCell(int PropertyOrdinal, int col);
+  std::size_t shownCells() const { return shownCells_; }
   /// Commits the entry and closes the cell. Does nothing if no cell is open.
   void LeaveCell();
   /// Closes the cell and discards the entry.
@@ -99,6 +107,7 @@ class PropertySheet : public Form {
     PropertyValue value;
     SharedText text;
     std::optional<PropertyValue> original = {};  ///< the value that was set, if its list does not contain it
+    std::optional<PropertyValue> standard = {};  ///< the default
   };
 
   void bind();
@@ -137,6 +146,7 @@ class PropertySheet : public Form {
   int cursorColumn_ = column::Normal;
   int helpContextID_ = 0;
   std::size_t fillings_ = 0;
+  std::size_t shownCells_ = 0;
   Swatch pickedColour_;  ///< chosen for the open cell and painted there, but not yet committed
 };
 

@@ -9,8 +9,8 @@
 /// caption "&" precedes the access key. The tables are in this header so that names are checked when compiling.
 namespace nimbrel {
 
-/// The state of a menu entry at the start.
-enum EntryState : unsigned { Plain = 0, Hidden = 1, Checked = 2 };
+/// The state of a menu entry at the start, and where its shortcut works.
+enum EntryState : unsigned { Plain = 0, Hidden = 1, Checked = 2, InTree = 4 };
 
 struct MenuEntry {
   std::string_view name;
@@ -59,15 +59,24 @@ inline constexpr auto bar = std::to_array<MenuEntry>({
     {"mnuEditUndo", "&Undo", "Ctrl+Z", 1560},
     {"mnuEditRedo", "&Redo", "Ctrl+Shift+Z; Ctrl+Y", 1560},
     {"mnuEditBar0", "-"},
-    {"mnuEditCut", "Cu&t Item/Submenu", {}, 1560},
-    {"mnuEditCopy", "&Copy Item/Submenu", {}, 1560},
-    {"mnuEditPaste", "&Paste Item/Submenu", {}, 1560},
+    {"mnuEditCut", "Cu&t Item/Submenu", "Ctrl+X", 1560},
+    {"mnuEditCopy", "&Copy Item/Submenu", "Ctrl+C", 1560},
+    {"mnuEditPaste", "&Paste Item/Submenu", "Ctrl+V", 1560},
+    {"mnuEditDuplicate", "&Duplicate Item", "Ctrl+D", 1560},
+    {"mnuEditRename", "Re&name", "F2", 1560, InTree},
+    {"mnuEditBar1", "-"},
+    {"mnuEditFind", "&Find...", "Ctrl+F", 1560},
+    {"mnuEditFindNext", "Find Ne&xt", "F3", 1560},
+    {"mnuEditFindPrevious", "Find Pre&vious", "Shift+F3", 1560},
+    {"mnuEditBar2", "-"},
+    {"mnuEditResetProperty", "Reset &Property to Default", "Ctrl+Backspace", 1560},
+    {"mnuEditResetElement", "Reset &Element to Defaults", {}, 1560},
     {"mnuItem", "&Item", {}, 1590, Plain, 0},
-    {"mnuItemAddItem", "&Add Item", {}, 1590},
+    {"mnuItemAddItem", "&Add Item", "Ins", 1590, InTree},
     {"mnuItemDeleteItem", "&Delete Item", {}, 1600},
     {"mnuItemBar0", "-"},
-    {"mnuItemMoveItemUp", "Move Item &Up", {}, 1610},
-    {"mnuItemMoveItemDown", "Move Item D&own", {}, 1620},
+    {"mnuItemMoveItemUp", "Move Item &Up", "Ctrl+Up", 1610, InTree},
+    {"mnuItemMoveItemDown", "Move Item D&own", "Ctrl+Down", 1620, InTree},
     {"mnuSubmenu", "Su&bmenu", {}, 1630, Plain, 0},
     {"mnuSubmenuAddSubmenu", "&Add Submenu", {}, 1630},
     {"mnuSubmenuDeleteSubmenu", "&Delete Submenu", {}, 1640},
@@ -125,6 +134,8 @@ inline constexpr auto onItem = std::to_array<ContextEntry>({
     {"mnuItemPopupCut", "Cut", "mnuEditCut"},
     {"mnuItemPopupCopy", "Copy", "mnuEditCopy"},
     {"mnuItemPopupPaste", "Paste", "mnuEditPaste"},
+    {"mnuItemPopupDuplicate", "Duplicate", "mnuEditDuplicate"},
+    {"mnuItemPopupRename", "Rename", "mnuEditRename"},
     {"", "-", ""},
     {"mnuItemPopupPickStyle", "Pick Style", "mnuStylePickStyle"},
     {"mnuItemPopupApplyStyle", "Apply Style", "mnuStyleApplyStyle"},

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "editing/editor.h"
+#include "editing/find.h"
 #include "gallery/style_picking.h"
 #include "model/structure_editing.h"
 #include "persistence/known_file.h"
@@ -16,11 +17,14 @@
 #include "preview/browser_form.h"
 #include "properties/live_examples.h"
 #include "properties/property_sheet.h"
+#include "recovery/recovery_writer.h"
 #include "shell/command_states.h"
 #include "shell/recent_files.h"
 #include "shell/window_layout.h"
 
 namespace nimbrel {
+
+struct Orphan;
 
 /// The place of the main window on the screen, in twips.
 struct Geometry {
@@ -74,6 +78,14 @@ class frmMain {
   void CreatePreviewFile();
   void UpdateMRUList(const std::string& path, const std::string& name);
 
+  /// Gives a node another name: an item in all of its states. Line breaks become blanks.
+  void rename(const Node& node, std::string name);
+
+  /// The nodes with a text (`nodesWith`), which Find Next and Find Previous go through from now on.
+  std::vector<const Node*> find(std::string text);
+  /// Replaces a text in the whole document. Returns how many were replaced. Line breaks become blanks.
+  std::size_t replace(std::string_view text, std::string by, TextKind kind);
+
   PropertySheet& sheetOf(Kind kind);
   /// The visible sheet, or nullptr if the tree is empty.
   PropertySheet* visibleSheet();
@@ -86,6 +98,8 @@ class frmMain {
   std::string title;
   Geometry geometry;
   bool isMinimised = false;
+  bool isFinding = false;   ///< the author wants to type what to find; the view resets it
+  bool isRenaming = false;  ///< the author wants to rename the selected node in the tree; the view resets it
 
   frmLiveExamples liveExamples;
   frmBrowser browser;
@@ -106,6 +120,8 @@ class frmMain {
   void RefreshCurrentSheet();
   void refill(const Node& node);
   void sheetChanged(Kind sheet, int ordinal);
+  void mnuEditReset(bool onlyRow);
+  void findNext(bool forward);
   void select(const Node* node);
   Kind selectedKind() const;
   /// The element of the selected node, or nullptr.
@@ -135,6 +151,7 @@ class frmMain {
   void mnuEditCut();
   void mnuEditCopy();
   void mnuEditPaste();
+  void mnuEditDuplicate();
   void mnuItemAddItem();
   void mnuItemDeleteItem();
   void mnuItemMove(bool up);
@@ -161,6 +178,11 @@ class frmMain {
   void mnuHelpAbout();
   void noteFailures(const Findings& findings);
 
+  // recovery_commands.cpp
+  void keepForRecovery();
+  void offerRecovery();
+  void recover(Orphan orphan);
+
   // start_stop.cpp
   void RegisterFileAssociations();
   void readGeometry();
@@ -168,6 +190,7 @@ class frmMain {
   void saveGeometry();
 
   friend struct CommandHandler;
+  std::string findText_;
   std::string selectedKey_;  ///< empty: nothing is selected
   bool FirstActivation_ = true;
   /// The file of the document was not read whole, so that Save must not replace it without a question.
@@ -176,6 +199,8 @@ class frmMain {
   KnownFile ownFile_;
   std::optional<FileStatus> declinedReload_;  ///< of a changed file that the author did not want to load
   RecentFiles recent_;
+  std::optional<RecoveryWriter> recovery_;  ///< none without a state folder
+  bool hasWholeCopy_ = false;               ///< of this document, so that it needs the changes alone
   std::vector<Connection> connections_;
 };
 

@@ -32,6 +32,7 @@ class SheetGrid : public QTableView {
   /// Text from an input method, which opens the current cell as a key does.
   void textComposed(QInputMethodEvent* event);
   void focusedByKeyboard();
+  void menuRequested(const QPoint& globalPosition);
   void scrolled();
   void resized();
 
@@ -39,6 +40,7 @@ class SheetGrid : public QTableView {
   void mousePressEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
   void mouseMoveEvent(QMouseEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void inputMethodEvent(QInputMethodEvent* event) override;
   QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;

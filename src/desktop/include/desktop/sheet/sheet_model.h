@@ -22,6 +22,8 @@ class SheetModel : public QAbstractTableModel {
 
   const PropertySheet& sheet() const { return sheet_; }
   bool isOpen(int row, int col) const;
+  /// Whether a cell has another value than the default.
+  bool isChanged(int row, int col) const;
   /// The accessible name of a cell.
   QString nameOf(int row, int col) const;
 
@@ -37,6 +39,7 @@ class SheetModel : public QAbstractTableModel {
     SharedText text;
     Swatch swatch;
     bool isOpen = false;
+    bool isChanged = false;
 
     bool operator==(const Appearance&) const = default;
   };

@@ -34,6 +34,8 @@ class SheetView : public QWidget {
  signals:
   /// The sheet has run an action of the user, and the view has been refreshed.
   void actionFinished();
+  /// For the current cell.
+  void menuRequested(const QPoint& globalPosition);
   void helpRequested(int topic);
 
  protected:
@@ -79,6 +81,7 @@ class SheetView : public QWidget {
   std::optional<int> helpHeight_;  ///< twips, set when the user has moved the splitter
   int column_ = column::Normal;    ///< that Enter, Up and Down stay in
   std::size_t fillings_ = 0;
+  std::size_t shownCells_ = 0;             ///< `shownCells` of the sheet at the last refresh
   std::optional<CellPlace> lastOpenCell_;  ///< the open cell at the last refresh
   bool isRunning_ = false;                 ///< an action
   /// The cursor position when a command such as Save closed the cell.

@@ -18,6 +18,7 @@ class MemoryFileSystem : public FileSystem {
   std::optional<FileStatus> status(std::string_view path) const override;
   bool isInside(std::string_view path, std::string_view folder) const override;
   std::unique_ptr<FolderLock> lock(std::span<const std::string> folders) override;
+  std::unique_ptr<FolderLock> tryLock(std::string_view folder) override;
   void replace(std::string_view path, std::string_view bytes) override;
   void generate(std::string_view path, std::string_view bytes) override { replace(path, bytes); }
   void copy(std::string_view from, std::string_view to) override;
@@ -25,6 +26,7 @@ class MemoryFileSystem : public FileSystem {
   void makeFolder(std::string_view path) override;
   void removeFolder(std::string_view path) override;
   std::vector<std::string> filesIn(std::string_view folder) const override;
+  std::vector<std::string> foldersIn(std::string_view folder) const override;
 
   /// All files by path. Tests fill and check it.
   std::map<std::string, std::string, std::less<>> files;

@@ -80,7 +80,7 @@ struct ScriptedSystem : Opener, HelpSystem, ClassesRoot {
   std::vector<std::string> opened;
   std::vector<int> topics;
   std::map<std::string, std::string> classes;  ///< values by key; a value needs its key first
-  Ports ports{files, asker, settings, *this, *this, *this, {}, [] { return 0.0; }};
+  Ports ports{files, files, asker, settings, *this, *this, *this, {}, [] { return 0.0; }};
 };
 
 }  // namespace nimbrel

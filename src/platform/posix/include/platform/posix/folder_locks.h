@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <filesystem>
 #include <vector>
 
@@ -13,9 +14,13 @@ namespace nimbrel {
 /// another program keeps locked for longer than `patience`, is left out.
 class FolderLocks : public FolderLock {
  public:
-  explicit FolderLocks(const std::vector<std::filesystem::path>& folders);
+  explicit FolderLocks(const std::vector<std::filesystem::path>& folders,
+                       std::chrono::seconds patience = usualPatience);
 
-  static constexpr std::chrono::seconds patience{10};
+  /// Whether the folder that has this path now is locked.
+  bool holds(const std::filesystem::path& folder) const;
+
+  static constexpr std::chrono::seconds usualPatience{10};
 
  private:
   std::vector<Handle> locked_;

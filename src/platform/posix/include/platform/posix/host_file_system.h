@@ -14,6 +14,7 @@ class HostFileSystem : public FileSystem {
   std::optional<FileStatus> status(std::string_view path) const override;
   bool isInside(std::string_view path, std::string_view folder) const override;
   std::unique_ptr<FolderLock> lock(std::span<const std::string> folders) override;
+  std::unique_ptr<FolderLock> tryLock(std::string_view folder) override;
   void replace(std::string_view path, std::string_view bytes) override;
   Findings replaceAll(std::span<const NewFile> newFiles) override;
   void generate(std::string_view path, std::string_view bytes) override;
@@ -22,6 +23,7 @@ class HostFileSystem : public FileSystem {
   void makeFolder(std::string_view path) override;
   void removeFolder(std::string_view path) override;
   std::vector<std::string> filesIn(std::string_view folder) const override;
+  std::vector<std::string> foldersIn(std::string_view folder) const override;
 };
 
 }  // namespace nimbrel

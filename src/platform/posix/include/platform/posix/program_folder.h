@@ -11,4 +11,8 @@ namespace nimbrel {
 /// Throws `FileError` if it cannot be created.
 std::string programFolder(const std::optional<std::string>& asked);
 
+/// Returns the folder of what the user's programs keep between two starts, as a host path, and creates it if possible:
+/// `nimbrel` in XDG_STATE_HOME, or in `.local/state` of the home folder.
+std::string stateFolder();
+
 }  // namespace nimbrel
