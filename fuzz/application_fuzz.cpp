@@ -138,8 +138,15 @@ class Session {
   explicit Session(Choices& choices)
       : choices_(choices),
         author_(choices),
-        ports_{files_,  author_, settings_,           system_,
-               system_, system_, {"Liberation Sans"}, [] { return 0.5; }},
+        ports_{files_,
+               files_,
+               author_,
+               settings_,
+               system_,
+               system_,
+               system_,
+               {"Liberation Sans"},
+               [] { return 0.5; }},
         window_(ports_, "C:\\p") {
     const auto& text = newMenuFile();
     files_.files["C:\\m\\a.nbr"] = text;
