@@ -120,8 +120,6 @@ class frmMain {
   void RefreshCurrentSheet();
   void refill(const Node& node);
   void sheetChanged(Kind sheet, int ordinal);
-  void mnuEditReset(bool onlyRow);
-  void findNext(bool forward);
   void select(const Node* node);
   Kind selectedKind() const;
   /// The element of the selected node, or nullptr.
@@ -160,6 +158,10 @@ class frmMain {
   void add(std::string_view editName, Insertion insertion);
   bool askToDelete(const Message& message);
   void removeSelected(std::string_view editName);
+
+  // find_commands.cpp
+  void mnuEditReset(bool onlyRow);
+  void findNext(bool forward);
 
   // tool_commands.cpp
   void mnuToolsPreview();
