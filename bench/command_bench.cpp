@@ -1,9 +1,9 @@
 #include <benchmark/benchmark.h>
 #include <iterator>
 
+#include "forms/scripted_system.h"
 #include "large_document.h"
 #include "model/structure.h"
-#include "platform/memory/scripted_system.h"
 #include "shell/main_window.h"
 
 /// Single commands as the author feels them, in a document about as large as the key counter allows.

@@ -111,9 +111,9 @@ Json publicState(const frmMain& window) {
                      {"bcSubmenusHow", window.carryOver.bcSubmenusHow},
                      {"bcSubmenusWhere", jsonOf(window.carryOver.bcSubmenusWhere)},
                      {"bcSubmenusWhen", window.carryOver.bcSubmenusWhen},
-                     {"BlackPreview", state.BlackPreview},
-                     {"isPreviewWindowLoaded", state.isPreviewWindowLoaded},
-                     {"isLiveExamplesWindowLoaded", state.isLiveExamplesWindowLoaded},
+                     {"BlackPreview", window.browser.BlackPreview},
+                     {"isPreviewWindowLoaded", window.browser.isPreviewWindowLoaded},
+                     {"isLiveExamplesWindowLoaded", window.liveExamples.isLiveExamplesWindowLoaded},
                      {"tmpFontSize", jsonOf(state.tmpFontSize)},
                      {"LastWebPageDir", jsonOf(state.LastWebPageDir)}};
   fields.update(rest);

@@ -7,9 +7,9 @@
 #include "cli/commands.h"
 #include "cli/macro.h"
 #include "cli/play_asker.h"
-#include "platform/keys.h"
 #include "platform/posix/host_paths.h"
 #include "platform/posix/program_folder.h"
+#include "shell/keys.h"
 #include "text/paths.h"
 #include "text/windows1252.h"
 

@@ -11,9 +11,9 @@
 #include "desktop/display_text.h"
 #include "desktop/form_window.h"
 #include "desktop/run_action.h"
+#include "forms/small_forms.h"
 #include "platform/posix/host_paths.h"
 #include "platform/posix/program_folder.h"
-#include "shell/small_forms.h"
 
 namespace {
 

@@ -17,7 +17,7 @@
 #include "desktop/run_action.h"
 #include "desktop/sheet/entry_edit.h"
 #include "desktop/twips.h"
-#include "platform/keys.h"
+#include "shell/keys.h"
 
 namespace nimbrel {
 MainView::MainView(frmMain& main)

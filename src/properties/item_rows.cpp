@@ -50,19 +50,19 @@ SheetCell cellOf<ItemObj>(PropertyField<ItemObj> field) {
   return cellIn<ItemObj>(rows, field);
 }
 
-void PutValuesToPropertyControl(const ItemObj& element, PropertySheet& sheet) {
+void PutValuesToPropertyControl(const ItemObj& element, SheetValues& sheet) {
   putValues<ItemObj>(rows, element, sheet);
 }
 
-void GetValueFromPropertyControl(ItemObj& element, const PropertySheet& sheet, int PropertyOrdinal) {
+void GetValueFromPropertyControl(ItemObj& element, const SheetValues& sheet, int PropertyOrdinal) {
   getValue<ItemObj>(rows, element, sheet, PropertyOrdinal);
 }
 
-void PutStandardsToPropertyControl(const ItemObj& standard, PropertySheet& sheet) {
+void PutStandardsToPropertyControl(const ItemObj& standard, SheetValues& sheet) {
   putStandards<ItemObj>(rows, standard, sheet, cellOf<ItemObj>(&ItemObj::ItemName1).row);
 }
 
-void ResetToStandards(ItemObj& element, const PropertySheet& sheet, int PropertyOrdinal) {
+void ResetToStandards(ItemObj& element, const SheetValues& sheet, int PropertyOrdinal) {
   resetToStandards<ItemObj>(rows, element, sheet, PropertyOrdinal);
 }
 

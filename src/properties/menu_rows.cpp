@@ -72,19 +72,19 @@ SheetCell cellOf<MenuObj>(PropertyField<MenuObj> field) {
   return cellIn<MenuObj>(rows, field);
 }
 
-void PutValuesToPropertyControl(const MenuObj& element, PropertySheet& sheet) {
+void PutValuesToPropertyControl(const MenuObj& element, SheetValues& sheet) {
   putValues<MenuObj>(rows, element, sheet);
 }
 
-void GetValueFromPropertyControl(MenuObj& element, const PropertySheet& sheet, int PropertyOrdinal) {
+void GetValueFromPropertyControl(MenuObj& element, const SheetValues& sheet, int PropertyOrdinal) {
   getValue<MenuObj>(rows, element, sheet, PropertyOrdinal);
 }
 
-void PutStandardsToPropertyControl(const MenuObj& standard, PropertySheet& sheet) {
+void PutStandardsToPropertyControl(const MenuObj& standard, SheetValues& sheet) {
   putStandards<MenuObj>(rows, standard, sheet, cellOf<MenuObj>(&MenuObj::menuname).row);
 }
 
-void ResetToStandards(MenuObj& element, const PropertySheet& sheet, int PropertyOrdinal) {
+void ResetToStandards(MenuObj& element, const SheetValues& sheet, int PropertyOrdinal) {
   resetToStandards<MenuObj>(rows, element, sheet, PropertyOrdinal);
 }
 

@@ -66,19 +66,19 @@ SheetCell cellOf<SubmenuObj>(PropertyField<SubmenuObj> field) {
   return cellIn<SubmenuObj>(rows, field);
 }
 
-void PutValuesToPropertyControl(const SubmenuObj& element, PropertySheet& sheet) {
+void PutValuesToPropertyControl(const SubmenuObj& element, SheetValues& sheet) {
   putValues<SubmenuObj>(rows, element, sheet);
 }
 
-void GetValueFromPropertyControl(SubmenuObj& element, const PropertySheet& sheet, int PropertyOrdinal) {
+void GetValueFromPropertyControl(SubmenuObj& element, const SheetValues& sheet, int PropertyOrdinal) {
   getValue<SubmenuObj>(rows, element, sheet, PropertyOrdinal);
 }
 
-void PutStandardsToPropertyControl(const SubmenuObj& standard, PropertySheet& sheet) {
+void PutStandardsToPropertyControl(const SubmenuObj& standard, SheetValues& sheet) {
   putStandards<SubmenuObj>(rows, standard, sheet, cellOf<SubmenuObj>(&SubmenuObj::SubmenuName).row);
 }
 
-void ResetToStandards(SubmenuObj& element, const PropertySheet& sheet, int PropertyOrdinal) {
+void ResetToStandards(SubmenuObj& element, const SheetValues& sheet, int PropertyOrdinal) {
   resetToStandards<SubmenuObj>(rows, element, sheet, PropertyOrdinal);
 }
 

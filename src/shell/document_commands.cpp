@@ -52,7 +52,7 @@ bool frmMain::PromptToSave() {
 }
 
 void frmMain::outdatePreview() {
-  if (state.isPreviewWindowLoaded) browser.SetOutdated();
+  if (browser.isPreviewWindowLoaded) browser.SetOutdated();
 }
 
 /// Quirk: the setting for shared borders is taken over from the previous document.

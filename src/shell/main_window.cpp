@@ -4,9 +4,9 @@
 #include <array>
 #include <utility>
 
-#include "platform/keys.h"
+#include "forms/addresses.h"
 #include "properties/element_values.h"
-#include "shell/addresses.h"
+#include "shell/keys.h"
 #include "text/product.h"
 
 namespace nimbrel {
@@ -93,17 +93,21 @@ int nameRow(Kind sheet) {
 
 frmMain::frmMain(Ports& p, std::string programFolder)
     : ports(p),
-      liveExamples(state),
-      browser(ports.previews, ports.asker, state, [this] { CreatePreviewFile(); }),
-      prctlMenu(menuTable(), ports, state, liveExamples),
-      prctlSubmenu(submenuTable(), ports, state, liveExamples),
-      prctlItem(itemTable(), ports, state, liveExamples) {
-  state.programFolder = std::move(programFolder);
+      state{.programFolder = std::move(programFolder)},
+      liveExamples(state.programFolder),
+      browser(ports.previews, ports.asker, state.programFolder, [this] { CreatePreviewFile(); }),
+      prctlMenu(menuTable(), sheetPorts(), liveExamples),
+      prctlSubmenu(submenuTable(), sheetPorts(), liveExamples),
+      prctlItem(itemTable(), sheetPorts(), liveExamples) {
   bindSheets();
   listen();
   if (!ports.stateFolder.empty()) keepForRecovery();
   RegisterFileAssociations();
   readGeometry();
+}
+
+SheetPorts frmMain::sheetPorts() {
+  return {ports.asker, ports.help, ports.fonts, state.FilePath, state.tmpFontSize};
 }
 
 template <class E>

@@ -1,6 +1,6 @@
 // Unsaved changes are kept for the time after a crash, and offered then.
+#include "forms/recovery_form.h"
 #include "shell/main_window.h"
-#include "shell/recovery_form.h"
 
 namespace nimbrel {
 

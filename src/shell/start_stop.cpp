@@ -86,7 +86,7 @@ void frmMain::Activate(std::string_view commandLine, StartWindows windows) {
   FirstActivation_ = false;
   commands.entry("mnuHelpOnlineSupportCenter").visible = true;
   state.LastWebPageDir.clear();
-  state.BlackPreview = false;
+  browser.BlackPreview = false;
   mnuFileNew();
   openCommandLine(commandLine);
   offerRecovery();
@@ -120,8 +120,8 @@ bool frmMain::QueryClose() {
   } catch (...) {
     fault = std::current_exception();  // the rest must be done even if the save fails
   }
-  state.isPreviewWindowLoaded = false;
-  state.isLiveExamplesWindowLoaded = false;
+  browser.isPreviewWindowLoaded = false;
+  liveExamples.isLiveExamplesWindowLoaded = false;
   if (fault) std::rethrow_exception(fault);
   if (mayClose && recovery_) recovery_->discard();
   return mayClose;

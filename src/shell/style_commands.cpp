@@ -1,6 +1,6 @@
 // The commands of the Style menu.
-#include "gallery/gallery_form.h"
-#include "gallery/style_forms.h"
+#include "forms/gallery_form.h"
+#include "forms/style_forms.h"
 #include "platform/settings.h"
 #include "shell/main_window.h"
 
@@ -19,7 +19,7 @@ void frmMain::mnuStylePickStyle() {
   commands.enable("mnuSubmenuPopupApplyStyle", !isItem);
   commands.enable("mnuItemPopupApplyStyle", isItem);
   if (settings::DontShowPickDialog.readFlag(ports.settings)) return;
-  PickStyleHint hint(ports, kind);
+  PickStyleHint hint(ports.settings, ports.help, kind);
   ports.asker.ShowModal(hint);
 }
 
@@ -40,9 +40,9 @@ void frmMain::mnuStyleApplyStyle() {
 
 /// Quirk: reports success even if a step has failed.
 void frmMain::mnuStyleSaveStyle() {
-  state.StyleName.clear();
-  frmSaveStyle form(ports, state);
+  frmSaveStyle form(ports.files, ports.asker, state.programFolder);
   ports.asker.ShowModal(form);
+  state.StyleName = form.StyleName;
   if (state.StyleName.empty()) return;
   LeaveCells();
   const Node* root = document.tvTreeView.root();
@@ -61,15 +61,17 @@ void frmMain::mnuStyleSaveStyle() {
 
 void frmMain::mnuStyleOpenStyleLibrary() {
   LeaveCells();
-  frmGallery form(ports, state, carryOver, selectedKind(), [this](StyleScope scope, const MenuStyle& style) {
-    const auto* node = selected();
-    if (node == nullptr) return;
-    Edit edit("Apply Style");
-    eachStyled(document, *node, scope, style,
-               [&](const Node& styled, Element element) { edit.set(document, styled, std::move(element)); });
-    apply(std::move(edit));
-    refill(*node);
-  });
+  frmGallery form({ports.files, ports.previews, ports.asker, ports.opener}, state.programFolder, carryOver,
+                  selectedKind(), [this](StyleScope scope, const MenuStyle& style) {
+                    const auto* node = selected();
+                    if (node == nullptr) return;
+                    Edit edit("Apply Style");
+                    eachStyled(document, *node, scope, style, [&](const Node& styled, Element element) {
+                      edit.set(document, styled, std::move(element));
+                    });
+                    apply(std::move(edit));
+                    refill(*node);
+                  });
   form.Form_Activate();
   ports.asker.ShowModal(form);
 }

@@ -1,12 +1,12 @@
 // The commands of the Tools and Help menus.
 #include "compiler/compile.h"
-#include "compiler/compile_forms.h"
-#include "compiler/compile_properties.h"
-#include "linking/link_forms.h"
+#include "forms/compile_forms.h"
+#include "forms/compile_properties.h"
+#include "forms/link_forms.h"
+#include "forms/small_forms.h"
 #include "platform/settings.h"
 #include "preview/preview_page.h"
 #include "shell/main_window.h"
-#include "shell/small_forms.h"
 #include "text/paths.h"
 #include "text/product.h"
 
@@ -41,7 +41,7 @@ void frmMain::CreatePreviewFile() {
   state.WebPageName = "preview.html";
   state.altURL.clear();
   StepReport report;
-  nimbrel::CreatePreviewFile(ports.previews, state.programFolder, state.BlackPreview, editor.forCompile(),
+  nimbrel::CreatePreviewFile(ports.previews, state.programFolder, browser.BlackPreview, editor.forCompile(),
                              report);
   noteFailures(report.findings);
   browser.Show();
@@ -108,15 +108,17 @@ void frmMain::mnuToolsCompileMenu() {
   }
 }
 
+LinkPorts frmMain::linkPorts() { return {ports.files, ports.asker, ports.help, ports.opener}; }
+
 void frmMain::startLinking(std::string_view menu, std::string_view submenus) {
-  frmInsertIntoWebPage1 form(ports, state.LastWebPageDir, menu, submenus);
+  frmInsertIntoWebPage1 form(linkPorts(), state.LastWebPageDir, menu, submenus);
   ports.asker.ShowModal(form);
 }
 
 void frmMain::mnuToolsInsertMenuIntoWebpage() {
   const auto& settings = document.settings;
   frmInsertIntoWebPage0 form(
-      ports, state.LastWebPageDir,
+      linkPorts(), state.LastWebPageDir,
       settings.CompiledName.empty() ? "" : settings.CompiledPath + '\\' + settings.CompiledName);
   ports.asker.ShowModal(form);
 }
@@ -143,7 +145,7 @@ void frmMain::mnuToolsShowPreviewOnStartup() {
 }
 
 void frmMain::mnuHelpTipOfTheDay() {
-  frmTip form(ports, state.programFolder,
+  frmTip form(ports.files, ports.settings, ports.random, state.programFolder,
               [this](bool on) { commands.entry("mnuToolsShowTipOnStartup").checked = on; });
   ports.asker.ShowModal(form);
 }

@@ -32,7 +32,8 @@ template <class Element>
 class SheetOnScreen : public testing::Test {
  protected:
   explicit SheetOnScreen(const SheetTable& table)
-      : sheet(table, ports, state, viewer), view(sheet, [this](const char*) {
+      : sheet(table, {author, system, fonts, menuFolder, tmpFontSize}, viewer),
+        view(sheet, [this](const char*) {
           if (drawIcon) drawIcon();
           return QIcon();
         }) {
@@ -83,17 +84,10 @@ class SheetOnScreen : public testing::Test {
 
   ScriptedPorts system;
   PaintingAuthor author;
-  Ports ports{system.files,
-              system.files,
-              author,
-              system.settings,
-              system,
-              system,
-              system,
-              {"Zapf Chancery Medium Italic"},
-              {}};
-  ProgramState state;
-  frmLiveExamples viewer{state};
+  const std::vector<std::string> fonts{"Zapf Chancery Medium Italic"};
+  const std::string menuFolder;
+  std::string tmpFontSize;
+  frmLiveExamples viewer{{}};
   Element element;
   PropertySheet sheet;
   std::function<void()> drawIcon;

@@ -38,7 +38,7 @@ class MainWindow : public testing::Test {
 TEST_F(MainWindow, FirstStartShowsATipThenThePreview) {
   bool previewCameFirst = true;
   system.asker.inForm = [&](Form& form) {
-    previewCameFirst = window->state.isPreviewWindowLoaded;
+    previewCameFirst = window->browser.isPreviewWindowLoaded;
     form.Close();
   };
   auto& main = start();
@@ -146,7 +146,7 @@ TEST_F(MainWindow, ClosingStoresItsPlaceAndCancelUndoesNothing) {
   main.run("mnuItemAddItem");
   system.asker.answers = {BoxButton::Cancel, BoxButton::No};
   EXPECT_FALSE(main.QueryClose());
-  EXPECT_FALSE(main.browser.isOpen || main.state.isPreviewWindowLoaded);
+  EXPECT_FALSE(main.browser.isOpen || main.browser.isPreviewWindowLoaded);
   EXPECT_EQ(get("Settings2", "MainTop"), "2.5");
   main.isMinimised = true;
   main.geometry.top = 99;

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/memory/scripted_system.h"
+#include "forms/scripted_system.h"
 
 namespace nimbrel {
 

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "cli/json.h"
-#include "platform/memory/scripted_system.h"
+#include "forms/scripted_system.h"
 
 namespace nimbrel {
 

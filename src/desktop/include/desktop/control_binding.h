@@ -4,7 +4,7 @@
 #include <memory>
 
 #include "desktop/run_action.h"
-#include "platform/form.h"
+#include "forms/form.h"
 
 namespace nimbrel {
 

@@ -6,7 +6,7 @@
 
 #include "desktop/control_binding.h"
 #include "desktop/run_action.h"
-#include "platform/form.h"
+#include "forms/form.h"
 
 namespace nimbrel {
 

@@ -7,10 +7,11 @@
 #include <vector>
 
 #include "platform/file_error.h"
-#include "platform/form.h"
 #include "text/message.h"
 
 namespace nimbrel {
+
+class Form;
 
 enum class BoxIcon : std::uint8_t { Exclamation, Critical, Question, Information };
 enum class BoxButton : std::uint8_t { OK, Yes, No, Cancel, Help, Overwrite, SaveAs, Reload };

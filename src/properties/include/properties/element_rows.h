@@ -11,7 +11,7 @@
 #include "model/properties.h"
 #include "properties/element_values.h"
 #include "properties/property_row.h"
-#include "properties/property_sheet.h"
+#include "properties/sheet_values.h"
 
 /// The building blocks of the three tables of rows, and the loops over them.
 namespace nimbrel {
@@ -98,7 +98,7 @@ SheetCell cellIn(std::span<const ElementRow<E>> rows, const PropertyField<E>& wa
 }
 
 template <class E>
-void putValues(std::span<const ElementRow<E>> rows, const E& element, PropertySheet& sheet) {
+void putValues(std::span<const ElementRow<E>> rows, const E& element, SheetValues& sheet) {
   for (std::size_t ordinal = 0; ordinal < rows.size(); ++ordinal) {
     eachField(rows[ordinal], [&](int col, auto field) {
       sheet.SetProperty(static_cast<int>(ordinal), col, element.*field);
@@ -108,7 +108,7 @@ void putValues(std::span<const ElementRow<E>> rows, const E& element, PropertySh
 }
 
 template <class E>
-void putStandards(std::span<const ElementRow<E>> rows, const E& standard, PropertySheet& sheet, int nameRow) {
+void putStandards(std::span<const ElementRow<E>> rows, const E& standard, SheetValues& sheet, int nameRow) {
   for (int ordinal = 0; std::cmp_less(ordinal, rows.size()); ++ordinal) {
     if (ordinal == nameRow) continue;
     eachField(rows[static_cast<std::size_t>(ordinal)],
@@ -129,15 +129,14 @@ inline void assign(float& to, const PropertyValue& value) {
 inline void assign(SharedText& to, const PropertyValue& value) { to = std::get<SharedText>(value); }
 
 template <class E>
-void getValue(std::span<const ElementRow<E>> rows, E& element, const PropertySheet& sheet, int ordinal) {
+void getValue(std::span<const ElementRow<E>> rows, E& element, const SheetValues& sheet, int ordinal) {
   if (std::cmp_less(ordinal, 0) || std::cmp_greater_equal(ordinal, rows.size())) return;
   eachField(rows[static_cast<std::size_t>(ordinal)],
             [&](int col, auto field) { assign(element.*field, sheet.ValueToStore(ordinal, col)); });
 }
 
 template <class E>
-void resetToStandards(std::span<const ElementRow<E>> rows, E& element, const PropertySheet& sheet,
-                      int wanted) {
+void resetToStandards(std::span<const ElementRow<E>> rows, E& element, const SheetValues& sheet, int wanted) {
   for (int ordinal = 0; std::cmp_less(ordinal, rows.size()); ++ordinal) {
     if (wanted >= 0 && ordinal != wanted) continue;
     eachField(rows[static_cast<std::size_t>(ordinal)], [&](int col, auto field) {

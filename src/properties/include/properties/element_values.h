@@ -10,7 +10,7 @@
 /// Moves the properties of an element to its sheet and back.
 namespace nimbrel {
 
-class PropertySheet;
+class SheetValues;
 
 /// A cell that shows a property: the `PropertyOrdinal` of its row and its column.
 struct SheetCell {
@@ -32,24 +32,24 @@ template <>
 SheetCell cellOf<ItemObj>(PropertyField<ItemObj> field);
 
 /// Fills the sheet with all properties, in the order of its rows.
-void PutValuesToPropertyControl(const MenuObj& element, PropertySheet& sheet);
-void PutValuesToPropertyControl(const SubmenuObj& element, PropertySheet& sheet);
-void PutValuesToPropertyControl(const ItemObj& element, PropertySheet& sheet);
+void PutValuesToPropertyControl(const MenuObj& element, SheetValues& sheet);
+void PutValuesToPropertyControl(const SubmenuObj& element, SheetValues& sheet);
+void PutValuesToPropertyControl(const ItemObj& element, SheetValues& sheet);
 
 /// Stores the values of one row, in all its columns, in the element. Does nothing for a heading or a row outside the
 /// table. A byte property stores a number rounded, ties to even.
-void GetValueFromPropertyControl(MenuObj& element, const PropertySheet& sheet, int PropertyOrdinal);
-void GetValueFromPropertyControl(SubmenuObj& element, const PropertySheet& sheet, int PropertyOrdinal);
-void GetValueFromPropertyControl(ItemObj& element, const PropertySheet& sheet, int PropertyOrdinal);
+void GetValueFromPropertyControl(MenuObj& element, const SheetValues& sheet, int PropertyOrdinal);
+void GetValueFromPropertyControl(SubmenuObj& element, const SheetValues& sheet, int PropertyOrdinal);
+void GetValueFromPropertyControl(ItemObj& element, const SheetValues& sheet, int PropertyOrdinal);
 
 /// Tells the sheet the default of each property but the names, which have none.
-void PutStandardsToPropertyControl(const MenuObj& standard, PropertySheet& sheet);
-void PutStandardsToPropertyControl(const SubmenuObj& standard, PropertySheet& sheet);
-void PutStandardsToPropertyControl(const ItemObj& standard, PropertySheet& sheet);
+void PutStandardsToPropertyControl(const MenuObj& standard, SheetValues& sheet);
+void PutStandardsToPropertyControl(const SubmenuObj& standard, SheetValues& sheet);
+void PutStandardsToPropertyControl(const ItemObj& standard, SheetValues& sheet);
 
 /// Sets the properties of one row, or with -1 of all rows, to the defaults that the sheet knows.
-void ResetToStandards(MenuObj& element, const PropertySheet& sheet, int PropertyOrdinal);
-void ResetToStandards(SubmenuObj& element, const PropertySheet& sheet, int PropertyOrdinal);
-void ResetToStandards(ItemObj& element, const PropertySheet& sheet, int PropertyOrdinal);
+void ResetToStandards(MenuObj& element, const SheetValues& sheet, int PropertyOrdinal);
+void ResetToStandards(SubmenuObj& element, const SheetValues& sheet, int PropertyOrdinal);
+void ResetToStandards(ItemObj& element, const SheetValues& sheet, int PropertyOrdinal);
 
 }  // namespace nimbrel

@@ -8,17 +8,18 @@
 
 #include "editing/editor.h"
 #include "editing/find.h"
+#include "forms/browser_form.h"
+#include "forms/link_forms.h"
+#include "forms/live_examples.h"
+#include "forms/property_sheet.h"
 #include "gallery/style_picking.h"
 #include "model/structure_editing.h"
 #include "persistence/known_file.h"
 #include "persistence/menu_file.h"
 #include "platform/ports.h"
-#include "platform/program_state.h"
-#include "preview/browser_form.h"
-#include "properties/live_examples.h"
-#include "properties/property_sheet.h"
 #include "recovery/recovery_writer.h"
 #include "shell/command_states.h"
+#include "shell/program_state.h"
 #include "shell/recent_files.h"
 #include "shell/window_layout.h"
 
@@ -62,7 +63,7 @@ class frmMain {
   bool canRun(std::string_view name) const;
 
   void tvTreeView_NodeClick(const Node* node);
-  /// `key` is a code of platform/keys.h. Called after the tree has moved its selection.
+  /// `key` is a code of shell/keys.h. Called after the tree has moved its selection.
   void tvTreeView_KeyUp(int key);
   /// The name of the context menu for the current node.
   std::string_view contextMenu() const;
@@ -112,6 +113,7 @@ class frmMain {
 
  private:
   // main_window.cpp
+  SheetPorts sheetPorts();
   void bindSheets();
   void listen();
   void EnableCommands(Kind kind);
@@ -167,6 +169,7 @@ class frmMain {
   void mnuToolsPreview();
   void mnuToolsCompileMenu();
   std::optional<std::string> chooseCompiledFile();
+  LinkPorts linkPorts();
   void startLinking(std::string_view menu, std::string_view submenus);
   void mnuToolsInsertMenuIntoWebpage();
   void mnuToolsCompileProperties();

@@ -8,7 +8,7 @@
 #include "desktop/run_action.h"
 #include "desktop/sheet/entry_edit.h"
 #include "desktop/sheet/list_popup.h"
-#include "properties/property_sheet.h"
+#include "forms/property_sheet.h"
 #include "properties/sheet_geometry.h"
 
 namespace nimbrel {

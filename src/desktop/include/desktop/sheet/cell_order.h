@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "properties/property_sheet.h"
+#include "forms/property_sheet.h"
 
 /// The order in which the keyboard moves through the cells.
 namespace nimbrel {

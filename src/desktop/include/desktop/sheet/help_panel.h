@@ -4,7 +4,7 @@
 #include <QWidget>
 
 #include "desktop/run_action.h"
-#include "properties/property_sheet.h"
+#include "forms/property_sheet.h"
 #include "properties/sheet_geometry.h"
 
 namespace nimbrel {

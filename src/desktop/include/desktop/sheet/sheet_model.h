@@ -4,7 +4,7 @@
 #include <array>
 #include <vector>
 
-#include "properties/property_sheet.h"
+#include "forms/property_sheet.h"
 
 namespace nimbrel {
 

@@ -9,7 +9,7 @@
 #include "desktop/sheet/help_splitter.h"
 #include "desktop/sheet/sheet_grid.h"
 #include "desktop/sheet/sheet_model.h"
-#include "properties/property_sheet.h"
+#include "forms/property_sheet.h"
 #include "properties/sheet_geometry.h"
 
 namespace nimbrel {
