@@ -78,9 +78,14 @@ find_program(QHELPGENERATOR qhelpgenerator PATHS /usr/lib/qt6/libexec NO_DEFAULT
 file(GLOB help_sources CONFIGURE_DEPENDS help/*.py help/*.css help/*.txt help/pages/*.md)
 set(help_pages ${CMAKE_CURRENT_BINARY_DIR}/help)
 set(help_file ${NIMBREL_STAGE}/nbrhelp.hlp)
+set(shortcuts ${CMAKE_CURRENT_BINARY_DIR}/shortcuts.txt)
+add_executable(list_shortcuts help/list_shortcuts.cpp)
+target_link_libraries(list_shortcuts PRIVATE nimbrel_shell)
 add_custom_command(OUTPUT ${help_file}
-  COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/help/make_help.py ${help_pages} --qch ${help_file} --generator ${QHELPGENERATOR}
-  DEPENDS ${help_sources} VERBATIM)
+  COMMAND list_shortcuts > ${shortcuts}
+  COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/help/make_help.py ${help_pages} --shortcuts ${shortcuts} --qch ${help_file}
+          --generator ${QHELPGENERATOR}
+  DEPENDS ${help_sources} list_shortcuts VERBATIM)
 set(staged ${staged} ${help_file})
 
 install(FILES ${help_file} DESTINATION ${CMAKE_INSTALL_DATADIR}/nimbrel)

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Makes the help from its pages: make_help.py OUT_DIR [--qch FILE --generator PATH]
+"""Makes the help from its pages: make_help.py OUT_DIR --shortcuts FILE [--qch FILE --generator PATH]
 
 Writes to OUT_DIR an HTML page for each page in `pages`, `index.html`, the style sheet and the Qt help project
 `nimbrel.qhp`; with --qch it also runs Qt's generator to compile the project. A page begins with
@@ -8,6 +8,7 @@ Writes to OUT_DIR an HTML page for each page in `pages`, `index.html`, the style
     topics: NUMBER ANCHOR, one per line: the topics that the program opens by number
     keywords: WORDS [#ANCHOR], one per line: index entries besides the headings
 
+A line `{shortcuts PLACE}` in a table stands for the rows of the program's own shortcuts that work there, from FILE.
 Links are written `page.md`, `page.md#anchor` or `topic:NUMBER`; a dead link is an error. `contents.txt` has the order
 of the pages: the titles of the parts, each followed by the indented names of its pages.
 """
@@ -76,9 +77,22 @@ def keyword(line):
     return words.strip(), anchor
 
 
-def read_page(path):
+def with_shortcuts(text, lines):
+    """Replaces `{shortcuts PLACE}` by rows of a table."""
+    def rows(place):
+        for line in lines:
+            where, keys, caption, topic = line.split("\t")
+            if where != place:
+                continue
+            keys = ", ".join(f"<kbd>{key.strip()}</kbd>" for key in keys.split(";"))
+            caption = caption.removesuffix("...")
+            yield f"| {keys} | " + (f"[{caption}](topic:{topic})" if topic != "0" else caption) + " |"
+    return re.sub(r"^\{shortcuts (\w+)\}$", lambda found: "\n".join(rows(found[1])), text, flags=re.MULTILINE)
+
+
+def read_page(path, shortcuts):
     converter = markdown.Markdown(extensions=["meta", "toc", "attr_list", "tables", "def_list", "fenced_code"])
-    body = converter.convert(path.read_text(encoding="utf-8"))
+    body = converter.convert(with_shortcuts(path.read_text(encoding="utf-8"), shortcuts))
     topics = dict(line.split() for line in converter.Meta.get("topics", []))
     headings = list(flattened(converter.toc_tokens))
     if len(dict(headings)) < len(headings):
@@ -109,10 +123,10 @@ def read_contents(path):
 
 
 class Help:
-    def __init__(self, source):
+    def __init__(self, source, shortcuts):
         self.parts = read_contents(source / "contents.txt")
         self.order = [name for _, names in self.parts for name in names]
-        self.pages = {path.stem: read_page(path) for path in sorted((source / "pages").glob("*.md"))}
+        self.pages = {path.stem: read_page(path, shortcuts) for path in sorted((source / "pages").glob("*.md"))}
         if sorted(self.order) != sorted(self.pages):
             raise Fault(f"contents.txt and pages differ in {set(self.order) ^ set(self.pages)}")
         if len({page.title for page in self.pages.values()}) < len(self.pages):
@@ -216,11 +230,12 @@ def project_text(manual):
 def main():
     words = argparse.ArgumentParser(description="Makes the help from its pages.")
     words.add_argument("out", type=Path)
+    words.add_argument("--shortcuts", type=Path, required=True, help="what list_shortcuts prints")
     words.add_argument("--qch", type=Path, help="the compiled help file to make")
     words.add_argument("--generator", default="qhelpgenerator", help="Qt's help generator")
     given = words.parse_args()
     try:
-        manual = Help(HERE)
+        manual = Help(HERE, given.shortcuts.read_text(encoding="utf-8").splitlines())
         made = {page.file: page_text(manual, page) for page in manual.pages.values()}
     except Fault as fault:
         sys.exit(f"make_help: {fault}")

@@ -136,8 +136,8 @@ Json commandState(const frmMain& window) {
   }
   Json buttons = Json::object();
   for (const auto& button : toolbar()) {
-    if (!button.key.empty())
-      buttons.emplace(button.key, Json{{"enabled", window.commands.button(button.key)}});
+    if (button.key.empty()) continue;
+    buttons.emplace(button.key, Json{{"enabled", window.commands.entry(button.command).enabled}});
   }
   return {{"commands", std::move(entries)}, {"toolbar", std::move(buttons)}};
 }

@@ -111,10 +111,9 @@ void CommandActions::makeToolbar() {
       bar->addSeparator();
       continue;
     }
-    auto* action = new QAction(toDisplay(described.toolTip), this);
+    auto* action = entries_.find(described.command)->second;
+    action->setToolTip(toDisplay(described.toolTip));
     buttons_.emplace(described.key, action);
-    connect(action, &QAction::triggered, this,
-            [this, key = toDisplay(described.key)] { emit commandTriggered(key); });
     bar->addAction(action);
   }
 }
@@ -123,8 +122,6 @@ void CommandActions::drawIcons() {
   const auto ink = window_.palette().color(QPalette::WindowText);
   for (const auto& [key, action] : buttons_) {
     action->setIcon(drawnIcon(iconName(key), ink));
-    const auto entry = entries_.find(commandOfKey(key));
-    if (entry != entries_.end()) entry->second->setIcon(action->icon());
   }
 }
 
@@ -139,7 +136,6 @@ void CommandActions::refresh(const CommandStates& states) {
     action->setVisible(state->visible);
     if (action->isCheckable()) action->setChecked(state->checked);
   }
-  for (const auto& [key, action] : buttons_) action->setEnabled(states.button(key));
 }
 
 QMenu* CommandActions::contextMenu(std::string_view name) const {

@@ -10,7 +10,7 @@
 namespace nimbrel {
 namespace {
 
-constexpr std::array<EntryName, std::tuple_size_v<RecentFiles>> recentFileEntries{
+constexpr std::array<std::string_view, std::tuple_size_v<RecentFiles>> recentFileEntries{
     "mnuFileMRU1", "mnuFileMRU2", "mnuFileMRU3", "mnuFileMRU4"};
 
 std::string filter() { return std::string(productTitle) + " Files (*.nbr)|*.nbr"; }

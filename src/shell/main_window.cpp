@@ -4,79 +4,12 @@
 #include <array>
 #include <utility>
 
-#include "forms/addresses.h"
 #include "properties/element_values.h"
+#include "shell/command_table.h"
 #include "shell/keys.h"
 #include "text/product.h"
 
 namespace nimbrel {
-
-/// What each command does.
-struct CommandHandler {
-  std::string_view name;
-  void (*run)(frmMain&);
-
-  static const CommandHandler* find(std::string_view command);
-};
-
-const CommandHandler* CommandHandler::find(std::string_view command) {
-  static constexpr auto handlers = std::to_array<CommandHandler>({
-      {"mnuFileNew", [](frmMain& w) { w.mnuFileNew(); }},
-      {"mnuFileOpen", [](frmMain& w) { w.mnuFileOpen(); }},
-      {"mnuFileSave", [](frmMain& w) { w.mnuFileSave(); }},
-      {"mnuFileSaveAs", [](frmMain& w) { w.mnuFileSaveAs(); }},
-      {"mnuFileMRU1", [](frmMain& w) { w.mnuFileMRU(0); }},
-      {"mnuFileMRU2", [](frmMain& w) { w.mnuFileMRU(1); }},
-      {"mnuFileMRU3", [](frmMain& w) { w.mnuFileMRU(2); }},
-      {"mnuFileMRU4", [](frmMain& w) { w.mnuFileMRU(3); }},
-      {"mnuFileExit", [](frmMain& w) { w.QueryClose(); }},
-      {"mnuEditUndo", [](frmMain& w) { w.mnuEditUndo(); }},
-      {"mnuEditRedo", [](frmMain& w) { w.mnuEditRedo(); }},
-      {"mnuEditCut", [](frmMain& w) { w.mnuEditCut(); }},
-      {"mnuEditCopy", [](frmMain& w) { w.mnuEditCopy(); }},
-      {"mnuEditPaste", [](frmMain& w) { w.mnuEditPaste(); }},
-      {"mnuEditDuplicate", [](frmMain& w) { w.mnuEditDuplicate(); }},
-      {"mnuEditRename", [](frmMain& w) { w.isRenaming = w.selected() != nullptr; }},
-      {"mnuEditFind", [](frmMain& w) { w.isFinding = true; }},
-      {"mnuEditFindNext", [](frmMain& w) { w.findNext(true); }},
-      {"mnuEditFindPrevious", [](frmMain& w) { w.findNext(false); }},
-      {"mnuEditResetProperty", [](frmMain& w) { w.mnuEditReset(true); }},
-      {"mnuEditResetElement", [](frmMain& w) { w.mnuEditReset(false); }},
-      {"mnuItemAddItem", [](frmMain& w) { w.mnuItemAddItem(); }},
-      {"mnuItemDeleteItem", [](frmMain& w) { w.mnuItemDeleteItem(); }},
-      {"mnuItemMoveItemUp", [](frmMain& w) { w.mnuItemMove(true); }},
-      {"mnuItemMoveItemDown", [](frmMain& w) { w.mnuItemMove(false); }},
-      {"mnuSubmenuAddSubmenu", [](frmMain& w) { w.mnuSubmenuAddSubmenu(); }},
-      {"mnuSubmenuDeleteSubmenu", [](frmMain& w) { w.mnuSubmenuDeleteSubmenu(); }},
-      {"mnuStylePickStyle", [](frmMain& w) { w.mnuStylePickStyle(); }},
-      {"mnuStyleApplyStyle", [](frmMain& w) { w.mnuStyleApplyStyle(); }},
-      {"mnuStyleSaveStyle", [](frmMain& w) { w.mnuStyleSaveStyle(); }},
-      {"mnuStyleOpenStyleLibrary", [](frmMain& w) { w.mnuStyleOpenStyleLibrary(); }},
-      {"mnuToolsPreview", [](frmMain& w) { w.mnuToolsPreview(); }},
-      {"mnuToolsCompileMenu", [](frmMain& w) { w.mnuToolsCompileMenu(); }},
-      {"mnuToolsInsertMenuIntoWebpage", [](frmMain& w) { w.mnuToolsInsertMenuIntoWebpage(); }},
-      {"mnuToolsCompileProperties", [](frmMain& w) { w.mnuToolsCompileProperties(); }},
-      {"mnuToolsOptions", [](frmMain&) {}},
-      {"mnuToolsShowTipOnStartup", [](frmMain& w) { w.mnuToolsShowTipOnStartup(); }},
-      {"mnuToolsShowPreviewOnStartup", [](frmMain& w) { w.mnuToolsShowPreviewOnStartup(); }},
-      {"mnuHelpContents", [](frmMain& w) { w.ports.help.openContents(); }},
-      {"mnuHelpSearchForHelpOn", [](frmMain& w) { w.ports.help.openSearch(); }},
-      {"mnuHelpHowDoI", [](frmMain& w) { w.ports.help.openTopic(2280); }},
-      {"mnuHelpTipOfTheDay", [](frmMain& w) { w.mnuHelpTipOfTheDay(); }},
-      {"mnuHelpPerformanceIssues", [](frmMain& w) { w.ports.help.openTopic(2300); }},
-      {"mnuHelpVisitTolvaneOnTheWeb", [](frmMain& w) { OpenWithShell(w.ports.opener, addresses::home); }},
-      {"mnuHelpOnlineSupportCenter", [](frmMain& w) { OpenWithShell(w.ports.opener, addresses::support); }},
-      {"mnuHelpAbout", [](frmMain& w) { w.mnuHelpAbout(); }},
-  });
-  constexpr auto handles = [](std::string_view entry) {
-    return std::ranges::find(handlers, entry, &CommandHandler::name) != handlers.end();
-  };
-  static_assert(std::ranges::all_of(menuBar(), [handles](const MenuEntry& entry) {
-    return entry.level == 0 || entry.caption == "-" || handles(entry.name);
-  }));
-  const auto* found = std::ranges::find(handlers, command, &CommandHandler::name);
-  return found == handlers.end() ? nullptr : found;
-}
 
 namespace {
 
@@ -140,7 +73,7 @@ void frmMain::listen() {
 
 /// The entries for undo and redo name what they would change.
 void frmMain::showHistory() {
-  const auto show = [this](EntryName entry, std::string_view verb,
+  const auto show = [this](std::string_view entry, std::string_view verb,
                            const std::optional<std::string_view>& name) {
     commands.enable(entry, name.has_value());
     auto& caption = commands.entry(entry).caption;
@@ -152,16 +85,16 @@ void frmMain::showHistory() {
 }
 
 bool frmMain::run(std::string_view name) {
-  const auto command = commandOfEntry(name).empty() ? commandOfKey(name) : commandOfEntry(name);
-  const auto* handler = CommandHandler::find(command);
-  if (handler == nullptr) return false;
-  handler->run(*this);
+  const auto* command = commandOfEntry(name);
+  if (command == nullptr) command = commandOfKey(name);
+  if (command == nullptr) return false;
+  command->run(*this);
   return true;
 }
 
 bool frmMain::canRun(std::string_view name) const {
   const auto* entry = commands.find(name);
-  return entry != nullptr && entry->enabled && entry->visible && !commandOfEntry(name).empty();
+  return entry != nullptr && entry->enabled && entry->visible && commandOfEntry(name) != nullptr;
 }
 
 PropertySheet& frmMain::sheetOf(Kind kind) {
@@ -229,39 +162,29 @@ void frmMain::RefreshCurrentSheet() {
   }
 }
 
+/// Quirk: the entries of the context menus for other kinds keep their states, but for Paste.
 void frmMain::EnableCommands(Kind kind) {
-  commands.enablePaste(!clipboard.tvCopyTree.empty());
-  const bool isItem = kind == Kind::Item;
-  const bool isSubmenu = kind == Kind::Submenu;
-  commands.enable("mnuEditCut", isItem || isSubmenu);
-  commands.enable("mnuEditCopy", isItem || isSubmenu);
-  commands.enable("mnuEditDuplicate", isItem);
-  commands.enable("mnuItemDeleteItem", isItem);
-  if (isItem) {
-    enableMoves();
-    commands.enable("mnuItemPopupMoveItemUp", canMoveUp(*selected()));
-    commands.enable("mnuItemPopupMoveItemDown", canMoveDown(*selected()));
-  } else {
-    commands.enable("mnuItemMoveItemUp", false);
-    commands.enable("mnuItemMoveItemDown", false);
+  for (const auto& command : menuBar()) {
+    if (command.enabledWhen != nullptr) commands.enable(command.name, command.enabledWhen(*this));
   }
-  commands.enable("mnuSubmenuAddSubmenu", isItem);
-  commands.enable("mnuSubmenuDeleteSubmenu", isSubmenu);
-  enableApply(kind);
+  for (const auto& menu : contextMenus()) {
+    for (const auto& entry : menu.entries) {
+      const auto* command = commandOfEntry(entry.command);
+      if (command == nullptr || command->enabledWhen == nullptr) continue;
+      if (menu.kind == kind || command->name == "mnuEditPaste") {
+        commands.enable(entry.name, command->enabledWhen(*this));
+      }
+    }
+  }
 }
 
-void frmMain::enableMoves() {
-  commands.enable("mnuItemMoveItemUp", canMoveUp(*selected()));
-  commands.enable("mnuItemMoveItemDown", canMoveDown(*selected()));
-}
-
-void frmMain::enableApply(Kind kind) {
-  const bool on = picking.PickedStyleKind == (kind == Kind::Item ? itemStyle : containerStyle);
-  commands.enable("mnuStyleApplyStyle", on);
-  switch (kind) {
-    case Kind::Menu: commands.enable("mnuMenuPopupApplyStyle", on); break;
-    case Kind::Submenu: commands.enable("mnuSubmenuPopupApplyStyle", on); break;
-    default: commands.enable("mnuItemPopupApplyStyle", on); break;
+/// Enables or disables Paste wherever it is.
+void frmMain::enablePaste(bool enabled) {
+  commands.enable("mnuEditPaste", enabled);
+  for (const auto& menu : contextMenus()) {
+    for (const auto& entry : menu.entries) {
+      if (entry.command == "mnuEditPaste") commands.enable(entry.name, enabled);
+    }
   }
 }
 
@@ -298,12 +221,9 @@ void frmMain::tvTreeView_KeyUp(int key) {
 }
 
 std::string_view frmMain::contextMenu() const {
-  switch (selectedKind()) {
-    case Kind::Menu: return "mnuMenuPopup";
-    case Kind::Submenu: return "mnuSubmenuPopup";
-    case Kind::Item: return "mnuItemPopup";
-    default: return {};
-  }
+  const auto menus = contextMenus();
+  const auto found = std::ranges::find(menus, selectedKind(), &ContextMenu::kind);
+  return found == menus.end() ? std::string_view() : found->name;
 }
 
 bool frmMain::Form_Resize(Geometry& window, bool minimised) const {

@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "model/structure.h"
+#include "shell/command_table.h"
 #include "shell/main_window.h"
 
 namespace nimbrel {
@@ -38,7 +39,7 @@ void frmMain::mnuEditCopy() {
   } else {
     CopySubtree(document, *selected(), clipboard);
   }
-  commands.enablePaste(true);
+  enablePaste(true);
 }
 
 void frmMain::mnuEditCut() {
@@ -52,7 +53,7 @@ void frmMain::mnuEditCut() {
   removeSelected("Cut");
   SelectNode(selected());
   RefreshCurrentSheet();
-  commands.enablePaste(true);
+  enablePaste(true);
 }
 
 /// Commits no cell and keeps the selection. A paste that fails halfway is a change too.
@@ -175,7 +176,9 @@ void frmMain::mnuItemMove(bool up) {
     apply(std::move(edit));
     SelectNode(&item);
   }
-  enableMoves();
+  for (const std::string_view name : {"mnuItemMoveItemUp", "mnuItemMoveItemDown"}) {
+    commands.enable(name, commandOfEntry(name)->enabledWhen(*this));
+  }
 }
 
 }  // namespace nimbrel

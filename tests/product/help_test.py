@@ -75,9 +75,9 @@ def rows_of(sheet):
 def opened_topics():
     """Every topic number in the sources, with the file that contains it."""
     found = {}
-    commands = (SOURCE / "src/shell/include/shell/command_table.h").read_text(encoding="utf-8")
+    commands = (SOURCE / "src/shell/command_table.cpp").read_text(encoding="utf-8")
     for number in re.findall(rf"^ *\{{{STRING}, {STRING}, (?:{STRING}|\{{\}}), (\d+)", commands, re.MULTILINE):
-        found[number[-1]] = "command_table.h"
+        found[number[-1]] = "command_table.cpp"
     for path in (SOURCE / "src").rglob("*.cpp"):
         for number in re.findall(r"(?:\w*[tT]opic = |openTopic\()(\d+)", path.read_text(encoding="utf-8")):
             found[number] = path.name

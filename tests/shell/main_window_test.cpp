@@ -29,7 +29,7 @@ class MainWindow : public testing::Test {
     set("ShowPreviewOnStartup", "0");
     return start(commandLine);
   }
-  std::string caption(EntryName entry) { return window->commands.entry(entry).caption; }
+  std::string caption(std::string_view entry) { return window->commands.entry(entry).caption; }
 
   ScriptedPorts system;
   std::unique_ptr<frmMain> window;

@@ -31,7 +31,6 @@ class CommandActions : public QObject {
   const QList<QAction*>& treeActions() const { return treeActions_; }
 
  signals:
-  /// `name` is the name of a menu entry or the key of a toolbar button.
   void commandTriggered(const QString& name);
   /// The user has pressed F1 on a menu entry that has its own topic.
   void helpRequested(int topic);

@@ -1,10 +1,8 @@
 #pragma once
 
-#include <map>
 #include <string>
 #include <string_view>
-
-#include "shell/command_table.h"
+#include <vector>
 
 namespace nimbrel {
 
@@ -16,29 +14,20 @@ struct CommandState {
   bool checked = false;
 };
 
-/// The states of all entries and toolbar buttons of the main window, by name. Separators have names and states too.
+/// The states of all entries of the main window's menus, by name. Separators have names and states too.
 class CommandStates {
  public:
   CommandStates();
 
-  CommandState& entry(EntryName name) { return entries_.find(name.view())->second; }
-  const CommandState& entry(EntryName name) const { return entries_.find(name.view())->second; }
+  /// Throw std::out_of_range for an unknown name.
+  CommandState& entry(std::string_view name);
+  const CommandState& entry(std::string_view name) const;
   /// Returns nullptr for an unknown name.
   const CommandState* find(std::string_view name) const;
-  /// Whether a toolbar button is enabled. Throws std::out_of_range for an unknown key.
-  bool button(std::string_view key) const;
-
-  /// Enables or disables an entry and, if there is one, the toolbar button of the same command.
-  void enable(EntryName name, bool enabled);
-  /// The same for Paste in all menus and the toolbar.
-  void enablePaste(bool enabled);
-
-  const std::map<std::string, CommandState, std::less<>>& entries() const { return entries_; }
-  const std::map<std::string, bool, std::less<>>& buttons() const { return buttons_; }
+  void enable(std::string_view name, bool enabled) { entry(name).enabled = enabled; }
 
  private:
-  std::map<std::string, CommandState, std::less<>> entries_;
-  std::map<std::string, bool, std::less<>> buttons_;  ///< whether each is enabled, by key
+  std::vector<CommandState> states_;
 };
 
 }  // namespace nimbrel

@@ -117,8 +117,7 @@ class frmMain {
   void bindSheets();
   void listen();
   void EnableCommands(Kind kind);
-  void enableMoves();
-  void enableApply(Kind kind);
+  void enablePaste(bool enabled);
   void RefreshCurrentSheet();
   void refill(const Node& node);
   void sheetChanged(Kind sheet, int ordinal);
@@ -194,7 +193,7 @@ class frmMain {
   void openCommandLine(std::string_view commandLine);
   void saveGeometry();
 
-  friend struct CommandHandler;
+  friend struct CommandTable;
   std::string findText_;
   std::string selectedKey_;  ///< empty: nothing is selected
   bool FirstActivation_ = true;
