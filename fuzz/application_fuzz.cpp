@@ -7,6 +7,7 @@
 #include <string>
 #include <utility>
 
+#include "forms/scripted_system.h"
 #include "model/structure.h"
 #include "platform/memory/memory_file_system.h"
 #include "require_consistent.h"
@@ -138,15 +139,8 @@ class Session {
   explicit Session(Choices& choices)
       : choices_(choices),
         author_(choices),
-        ports_{files_,
-               files_,
-               author_,
-               settings_,
-               system_,
-               system_,
-               system_,
-               {"Liberation Sans"},
-               [] { return 0.5; }},
+        ports_{files_,  files_,  author_,    settings_,           system_,
+               system_, system_, clipboard_, {"Liberation Sans"}, [] { return 0.5; }},
         window_(ports_, "C:\\p") {
     const auto& text = newMenuFile();
     files_.files["C:\\m\\a.nbr"] = text;
@@ -257,6 +251,7 @@ class Session {
   MemoryFileSystem files_;
   MemorySettings settings_;
   QuietSystem system_;
+  ScriptedClipboard clipboard_;
   Ports ports_;
   frmMain window_;
   Document clean_;   // as last created, opened or saved

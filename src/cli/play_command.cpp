@@ -3,6 +3,7 @@
 #include <istream>
 #include <ostream>
 #include <random>
+#include <ranges>
 
 #include "cli/commands.h"
 #include "cli/macro.h"
@@ -37,6 +38,7 @@ class Player {
                system_,
                system_,
                system_,
+               clipboard_,
                {},
                [this] { return random_(); },
                std::move(stateFolder)},
@@ -54,6 +56,7 @@ class Player {
   void run(const Words& words);
   void force(const Words& words);
   void select(const Words& words);
+  void drag(const Words& words);
   void key(const Words& words);
   void edit(const Words& words);
   void press(const Words& words);
@@ -74,6 +77,7 @@ class Player {
   // NOLINTNEXTLINE(cert-msc32-c,cert-msc51-cpp): transcripts must be the same on every run
   std::minstd_rand generator_{std::minstd_rand::default_seed};
   double random_() { return static_cast<double>(generator_() - 1) / std::minstd_rand::modulus; }
+  ScriptedClipboard clipboard_;
   Ports ports_;
   frmMain window_;
   bool isClosed_ = false;
@@ -114,6 +118,7 @@ const Statement* Statement::find(std::string_view name) {
          p.asker_.queueForm(w[1], {w.begin() + 2, w.end()});
        },
        true},
+      {"drag", 3, [](Player& p, const Words& w) { p.drag(w); }},
       {"rename", 2, [](Player& p, const Words& w) { p.window_.rename(p.node(w[1]), w[2]); }},
       {"find", 1, [](Player& p, const Words& w) { p.transcript_.found(p.window_.find(w[1])); }},
       {"replace", 3, [](Player& p, const Words& w) { p.replace(w); }},
@@ -161,7 +166,25 @@ void Player::force(const Words& words) {
   }
 }
 
-void Player::select(const Words& words) { window_.tvTreeView_NodeClick(&node(words[1])); }
+void Player::select(const Words& words) {
+  Nodes nodes;
+  for (const auto& key : words | std::views::drop(1)) nodes.push_back(&node(key));
+  window_.SelectNodes(nodes);
+}
+
+void Player::drag(const Words& words) {
+  constexpr std::array<std::string_view, 3> places{"before", "after", "into"};
+  const auto found = std::ranges::find(places, words[3]);
+  if (found == places.end()) throw MacroFault("no place: " + words[3]);
+  const auto drop = static_cast<Drop>(found - places.begin());
+  const Nodes nodes{&node(words[1])};
+  const auto& target = node(words[2]);
+  if (window_.canDrop(nodes, target, drop, false)) {
+    window_.drop(nodes, target, drop, false);
+  } else {
+    transcript_.refused("drag");
+  }
+}
 
 const Node& Player::node(const std::string& key) const {
   const auto* found = window_.document.tvTreeView.find(key);

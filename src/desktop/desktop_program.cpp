@@ -41,6 +41,7 @@ DesktopProgram::DesktopProgram(const std::string& programFolder)
              opener_,
              help_,
              fileTypes_,
+             clipboard_,
              installedFonts(),
              [] { return QRandomGenerator::global()->generateDouble(); },
              fromHostPath(absoluteHostPath(stateFolder()))},
@@ -61,6 +62,9 @@ DesktopProgram::DesktopProgram(const std::string& programFolder)
     if (!session.allowsInteraction() && !session.allowsErrorInteraction()) return;
     if (!view_.mayClose()) session.cancel();
     session.release();
+  });
+  QObject::connect(&clipboard_, &SystemClipboard::changed, &view_, [this] {
+    runAction([this] { main_.clipboardChanged(); }, {[this] { view_.refresh(); }});
   });
   termination_.onRequest([this] { view_.close(); });
 }

@@ -16,7 +16,9 @@
 #include "desktop/main_area.h"
 #include "desktop/run_action.h"
 #include "desktop/sheet/entry_edit.h"
+#include "desktop/system_clipboard.h"
 #include "desktop/twips.h"
+#include "shell/command_table.h"
 #include "shell/keys.h"
 
 namespace nimbrel {
@@ -55,8 +57,35 @@ SheetView& MainView::sheet(Kind kind) {
   return kind == Kind::Menu ? menuSheet_ : kind == Kind::Submenu ? submenuSheet_ : itemSheet_;
 }
 
+void MainView::connectTree() {
+  connect(&tree_, &TreeView::nodesChosen, this,
+          [this](const Nodes& nodes) { runAction([&] { main_.SelectNodes(nodes); }); });
+  connect(&tree_, &TreeView::nameEnded, this, &MainView::endName);
+  connect(&tree_, &TreeView::deletePressed, this, &MainView::deleteNode);
+  connect(&tree_, &TreeView::contextMenuRequested, this, &MainView::showContextMenu);
+  tree_.addActions(commands_.treeActions());
+  model_.setDragRules(
+      {[this](const Nodes& nodes, const Node& target, Drop drop, bool copies) {
+         return main_.canDrop(nodes, target, drop, copies);
+       },
+       [this](QMimeData& formats, const Nodes& nodes) { putContent(formats, main_.contentOf(nodes)); }});
+  connect(&model_, &TreeModel::renamed, this, [this](const Node* node, const QString& name) {
+    runAction([&] { main_.rename(*node, fromDisplay(name)); });
+  });
+  connect(&model_, &TreeModel::dropped, this,
+          [this](const QMimeData* dragged, const Node* target, Drop drop, bool copies) {
+            runAction([&] {
+              if (const auto* own = qobject_cast<const DraggedNodes*>(dragged)) {
+                main_.drop(own->nodes, *target, drop, copies);
+              } else {
+                main_.drop(contentOf(*dragged), *target, drop);
+              }
+            });
+          });
+}
+
 void MainView::connectAll() {
-  connect(&tree_, &TreeView::nodeChosen, this, &MainView::showNode);
+  connectTree();
   auto* pane = new QVBoxLayout(&treePane_);
   pane->setContentsMargins({});
   pane->setSpacing(0);
@@ -75,12 +104,6 @@ void MainView::connectAll() {
     find();
     tree_.setFocus();
   });
-  tree_.addActions(commands_.treeActions());
-  connect(&model_, &TreeModel::renamed, this, [this](const Node* node, const QString& name) {
-    runAction([&] { main_.rename(*node, fromDisplay(name)); });
-  });
-  connect(&tree_, &TreeView::deletePressed, this, &MainView::deleteNode);
-  connect(&tree_, &TreeView::contextMenuRequested, this, &MainView::showContextMenu);
   connect(&commands_, &CommandActions::commandTriggered, this, &MainView::run);
   connect(&commands_, &CommandActions::helpRequested, this, &MainView::openHelp);
   for (auto* sheet : {&menuSheet_, &submenuSheet_, &itemSheet_}) {
@@ -139,11 +162,27 @@ void MainView::run(const QString& command) {
     close();
     return;
   }
-  runAction([&] { main_.run(fromDisplay(command)); });
+  const auto name = fromDisplay(command);
+  const auto* added = commandOfEntry(name);
+  const bool namesItem = added != nullptr && added->name == "mnuItemAddItem" && tree_.hasFocus();
+  runAction([&] { main_.run(name); });
+  if (!namesItem) return;
+  isNextOfOutline_ = false;
+  tree_.editName(true);
 }
 
-void MainView::showNode(const Node* node) {
-  runAction([&] { main_.tvTreeView_NodeClick(node); });
+/// Goes on with an outline that is typed in the tree. An item that was added for the next name, and got none, goes again.
+void MainView::endName(TreeView::NameEnd end, bool isTyped) {
+  using enum TreeView::NameEnd;
+  const bool isDone = end == Cancel || (end == Next && !isTyped);
+  if (isDone) {
+    if (std::exchange(isNextOfOutline_, false)) run("mnuEditUndo");
+    return;
+  }
+  const char* command = end == Next ? "mnuItemAddItem" : end == Deeper ? "mnuItemIndent" : "mnuItemOutdent";
+  if (main_.canRun(command)) runAction([&] { main_.run(command); });
+  isNextOfOutline_ = end == Next || (isNextOfOutline_ && !isTyped);
+  tree_.editName(true);
 }
 
 void MainView::deleteNode() {
@@ -163,11 +202,11 @@ void MainView::refresh() {
   const auto title = toDisplayWithPaths(main_.title, paths).replace("[*]", "[*][*]");
   if (windowTitle() != title) setWindowTitle(title);
   commands_.refresh(main_.commands);
-  tree_.showSelected(main_.selected());
+  tree_.showSelected(main_.selection());
   showSheets();
   for (auto* window : {&preview_, &liveExamples_}) refreshSideWindow(*window);
   if (std::exchange(main_.isFinding, false)) findBar_.open();
-  if (std::exchange(main_.isRenaming, false)) tree_.edit(tree_.currentIndex());
+  if (std::exchange(main_.isRenaming, false)) tree_.editName(false);
 }
 
 void MainView::showSheets() {

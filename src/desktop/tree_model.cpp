@@ -1,8 +1,10 @@
 #include "desktop/tree_model.h"
 
+#include <memory>
 #include <utility>
 
 #include "desktop/display_text.h"
+#include "desktop/system_clipboard.h"
 
 namespace nimbrel {
 
@@ -101,7 +103,48 @@ int TreeModel::columnCount(const QModelIndex&) const { return 1; }
 
 Qt::ItemFlags TreeModel::flags(const QModelIndex& index) const {
   const bool isEditable = index.isValid() && editor_.document().element(*node(index)) != nullptr;
-  return QAbstractItemModel::flags(index) | (isEditable ? Qt::ItemIsEditable : Qt::NoItemFlags);
+  auto flags = QAbstractItemModel::flags(index) | Qt::ItemIsDropEnabled;
+  if (isEditable) flags |= Qt::ItemIsEditable;
+  if (index.isValid() && kindOf(node(index)->Key) != Kind::Menu) flags |= Qt::ItemIsDragEnabled;
+  return flags;
+}
+
+Qt::DropActions TreeModel::supportedDropActions() const { return Qt::MoveAction | Qt::CopyAction; }
+
+QStringList TreeModel::mimeTypes() const { return {nodesFormat, "text/plain"}; }
+
+QMimeData* TreeModel::mimeData(const QModelIndexList& indexes) const {
+  Nodes nodes;
+  for (const auto& index : indexes) nodes.push_back(node(index));
+  auto data = std::make_unique<DraggedNodes>(topmost(editor_.document(), nodes));
+  dragRules_.describe(*data, data->nodes);
+  return data.release();
+}
+
+/// A view means the place before a row, or a node itself if `row` is -1.
+TreeModel::Target TreeModel::targetOf(int row, const QModelIndex& parent) const {
+  const auto& nodes = childrenOf(node(parent)).nodes;
+  if (row < 0 || nodes.empty()) return {node(parent), Drop::Into};
+  if (std::cmp_less(row, nodes.size())) return {nodes[static_cast<std::size_t>(row)], Drop::Before};
+  return {nodes.back(), Drop::After};
+}
+
+bool TreeModel::canDropMimeData(const QMimeData* data, Qt::DropAction action, int row, int,
+                                const QModelIndex& parent) const {
+  const auto target = targetOf(row, parent);
+  if (target.node == nullptr || data == nullptr) return false;
+  if (const auto* own = qobject_cast<const DraggedNodes*>(data)) {
+    return dragRules_.canDrop(own->nodes, *target.node, target.drop, action == Qt::CopyAction);
+  }
+  return data->hasFormat(nodesFormat) || data->hasText();
+}
+
+bool TreeModel::dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
+                             const QModelIndex& parent) {
+  if (!canDropMimeData(data, action, row, column, parent)) return false;
+  const auto target = targetOf(row, parent);
+  emit dropped(data, target.node, target.drop, action == Qt::CopyAction);
+  return true;
 }
 
 bool TreeModel::setData(const QModelIndex& index, const QVariant& value, int role) {

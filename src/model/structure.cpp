@@ -77,11 +77,17 @@ std::optional<Insertion> newSubmenu(const Document& document, std::string_view p
   const Node* parent = document.tvTreeView.find(parentKey);
   if (parent == nullptr || refusalOfSubmenu(document, parentKey) != nullptr) return std::nullopt;
   const auto number = nextKeyNumber(document);
+  auto submenu = submenuLook(document, parentKey);
+  submenu.SubmenuName = "Submenu" + number;
+  return insertionOf(document, "S" + number, std::move(submenu), {parent->Key, ""});
+}
+
+SubmenuObj submenuLook(const Document& document, std::string_view key) {
   SubmenuObj submenu;
   SetDefaultValues(submenu);
-  submenu.SubmenuName = "Submenu" + number;
-  copyStyleOfContext(document, submenu, parent->Parent());
-  return insertionOf(document, "S" + number, std::move(submenu), {parent->Key, ""});
+  const Node* node = document.tvTreeView.find(key);
+  copyStyleOfContext(document, submenu, kindOf(key) == Kind::Item && node != nullptr ? node->Parent() : node);
+  return submenu;
 }
 
 Node* AddSubmenu(Document& document, std::string_view parentKey) {

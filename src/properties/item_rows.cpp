@@ -54,6 +54,10 @@ void PutValuesToPropertyControl(const ItemObj& element, SheetValues& sheet) {
   putValues<ItemObj>(rows, element, sheet);
 }
 
+void AddValuesToPropertyControl(const ItemObj& element, SheetValues& sheet) {
+  addValues<ItemObj>(rows, element, sheet);
+}
+
 void GetValueFromPropertyControl(ItemObj& element, const SheetValues& sheet, int PropertyOrdinal) {
   getValue<ItemObj>(rows, element, sheet, PropertyOrdinal);
 }

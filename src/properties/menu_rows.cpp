@@ -76,6 +76,10 @@ void PutValuesToPropertyControl(const MenuObj& element, SheetValues& sheet) {
   putValues<MenuObj>(rows, element, sheet);
 }
 
+void AddValuesToPropertyControl(const MenuObj& element, SheetValues& sheet) {
+  addValues<MenuObj>(rows, element, sheet);
+}
+
 void GetValueFromPropertyControl(MenuObj& element, const SheetValues& sheet, int PropertyOrdinal) {
   getValue<MenuObj>(rows, element, sheet, PropertyOrdinal);
 }

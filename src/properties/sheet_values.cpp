@@ -73,7 +73,7 @@ void SheetValues::SetProperty(int PropertyOrdinal, int col, PropertyValue Value)
 
 void SheetValues::AddProperty(int PropertyOrdinal, int col, const PropertyValue& Value) {
   auto& one = cell(PropertyOrdinal, col);
-  one.isSeveral = one.isSeveral || !sameValue(one.value, Value);
+  one.isSeveral = one.isSeveral || !sameValue(one.original ? *one.original : one.value, Value);
 }
 
 const PropertyValue& SheetValues::GetProperty(int PropertyOrdinal, int col) const {

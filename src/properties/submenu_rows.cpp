@@ -70,6 +70,10 @@ void PutValuesToPropertyControl(const SubmenuObj& element, SheetValues& sheet) {
   putValues<SubmenuObj>(rows, element, sheet);
 }
 
+void AddValuesToPropertyControl(const SubmenuObj& element, SheetValues& sheet) {
+  addValues<SubmenuObj>(rows, element, sheet);
+}
+
 void GetValueFromPropertyControl(SubmenuObj& element, const SheetValues& sheet, int PropertyOrdinal) {
   getValue<SubmenuObj>(rows, element, sheet, PropertyOrdinal);
 }

@@ -22,9 +22,17 @@ struct CommandTable {
   static bool hasItem(const W& w) { return w.selectedKind() == Kind::Item; }
   static bool hasSubmenu(const W& w) { return w.selectedKind() == Kind::Submenu; }
   static bool canCopy(const W& w) { return hasItem(w) || hasSubmenu(w); }
-  static bool canPaste(const W& w) { return !w.clipboard.tvCopyTree.empty(); }
-  static bool canMoveUp(const W& w) { return hasItem(w) && nimbrel::canMoveUp(*w.selected()); }
-  static bool canMoveDown(const W& w) { return hasItem(w) && nimbrel::canMoveDown(*w.selected()); }
+  static bool canPaste(const W& w) {
+    return !w.clipboard.tvCopyTree.empty() || w.ports.clipboard.hasForeign();
+  }
+  static bool canMove(const W& w, bool up, bool (*canMoveOne)(const Node&)) {
+    if (!hasItem(w)) return false;
+    return w.otherKeys_.empty() ? canMoveOne(*w.selected()) : !w.passed(up).empty();
+  }
+  static bool canMoveUp(const W& w) { return canMove(w, true, nimbrel::canMoveUp); }
+  static bool canMoveDown(const W& w) { return canMove(w, false, nimbrel::canMoveDown); }
+  static bool canIndent(const W& w) { return w.indentTarget() != nullptr; }
+  static bool canOutdent(const W& w) { return w.outdentTarget() != nullptr; }
   static bool canApplyStyle(const W& w) {
     return w.picking.PickedStyleKind == (hasItem(w) ? itemStyle : containerStyle);
   }
@@ -65,6 +73,8 @@ struct CommandTable {
       {"mnuItemBar0", "-"},
       {"mnuItemMoveItemUp", "Move Item &Up", "Ctrl+Up", 1610, run<&W::mnuItemMove, true>, canMoveUp, InTree},
       {"mnuItemMoveItemDown", "Move Item D&own", "Ctrl+Down", 1620, run<&W::mnuItemMove, false>, canMoveDown, InTree},
+      {"mnuItemIndent", "Move Item &into Submenu", "Ctrl+Right", 1610, run<&W::mnuItemIndent>, canIndent, InTree},
+      {"mnuItemOutdent", "Move Item ou&t of Submenu", "Ctrl+Left", 1620, run<&W::mnuItemOutdent>, canOutdent, InTree},
       {"mnuSubmenu", "Su&bmenu", {}, 1630, nullptr, nullptr, Plain, 0},
       {"mnuSubmenuAddSubmenu", "&Add Submenu", {}, 1630, run<&W::mnuSubmenuAddSubmenu>, hasItem},
       {"mnuSubmenuDeleteSubmenu", "&Delete Submenu", {}, 1640, run<&W::mnuSubmenuDeleteSubmenu>, hasSubmenu},

@@ -21,7 +21,7 @@ std::size_t frmMain::replace(std::string_view text, std::string by, TextKind kin
   auto [edit, count] = replacing(document, text, by, kind);
   if (edit.steps.empty()) return 0;
   apply(std::move(edit));
-  SelectNode(selected());
+  SelectNodes(selection());
   return count;
 }
 
@@ -51,11 +51,13 @@ void frmMain::mnuEditReset(bool onlyRow) {
   const auto* sheet = visibleSheet();
   if (sheet == nullptr) return;
   const int ordinal = onlyRow ? sheet->cursorRow() : -1;
-  Element element = *selectedElement();
-  std::visit([&](auto& object) { ResetToStandards(object, *sheet, ordinal); }, element);
   Edit edit("Reset" + (onlyRow ? " " + std::string(sheet->row(ordinal).Caption) : " to Defaults"));
-  edit.before = {selectedKey_, ordinal, sheet->cursorColumn()};
-  edit.set(document, *selected(), std::move(element));
+  edit.before = {selectedKey_, ordinal, sheet->cursorColumn(), otherKeys_};
+  for (const auto* node : selectedOf(selectedKind())) {
+    Element element = *document.element(*node);
+    std::visit([&](auto& object) { ResetToStandards(object, *sheet, ordinal); }, element);
+    edit.set(document, *node, std::move(element));
+  }
   if (edit.steps.empty()) return;
   const auto spot = edit.before;
   apply(std::move(edit));

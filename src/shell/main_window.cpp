@@ -1,7 +1,7 @@
 #include "shell/main_window.h"
 
 #include <algorithm>
-#include <array>
+#include <ranges>
 #include <utility>
 
 #include "properties/element_values.h"
@@ -116,23 +116,49 @@ void frmMain::LeaveCells() {
   for (auto* sheet : {&prctlMenu, &prctlSubmenu, &prctlItem}) sheet->LeaveCell();
 }
 
-void frmMain::select(const Node* node) { selectedKey_ = node == nullptr ? std::string() : node->Key; }
+void frmMain::select(const Node* node) {
+  selectedKey_ = node == nullptr ? std::string() : node->Key;
+  otherKeys_.clear();
+}
+
+Nodes frmMain::selection() const {
+  Nodes nodes;
+  if (selected() == nullptr) return nodes;
+  nodes.push_back(selected());
+  for (const auto& key : otherKeys_) {
+    if (const auto* node = document.tvTreeView.find(key)) nodes.push_back(node);
+  }
+  return nodes;
+}
+
+Spot frmMain::spot() const { return {.key = selectedKey_, .others = otherKeys_}; }
 
 Kind frmMain::selectedKind() const { return kindOf(selectedKey_); }
 
 const Element* frmMain::selectedElement() const { return document.ElementColl.find(selectedKey_); }
 
-void frmMain::SelectNode(const Node* node) {
+void frmMain::SelectNode(const Node* node) { SelectNodes(node == nullptr ? Nodes() : Nodes{node}); }
+
+void frmMain::SelectNodes(const Nodes& nodes) {
   LeaveCells();
-  if (node == nullptr) return;
-  select(node);
-  refill(*node);
-  EnableCommands(kindOf(node->Key));
+  if (nodes.empty()) return;
+  select(nodes.front());
+  for (const auto* other : nodes | std::views::drop(1)) otherKeys_.push_back(other->Key);
+  refill(*nodes.front());
+  EnableCommands(selectedKind());
+}
+
+Nodes frmMain::selectedOf(Kind kind) const {
+  auto nodes = selection();
+  std::erase_if(nodes, [&](const Node* node) {
+    return kindOf(node->Key) != kind || document.element(*node) == nullptr;
+  });
+  return nodes;
 }
 
 /// Carries out a change of the author. Its spots are the present selection if the caller has set none.
 void frmMain::apply(Edit edit) {
-  if (edit.before.key.empty()) edit.before.key = selectedKey_;
+  if (edit.before.key.empty()) edit.before = spot();
   if (edit.after.key.empty()) edit.after = edit.before;
   editor.apply(std::move(edit));
 }
@@ -140,6 +166,10 @@ void frmMain::apply(Edit edit) {
 /// Shows a place that undo or redo returns to.
 void frmMain::show(const Spot& spot) {
   SelectNode(document.tvTreeView.find(spot.key));
+  if (!spot.others.empty()) {
+    otherKeys_ = spot.others;
+    SelectNodes(selection());
+  }
   auto* sheet = visibleSheet();
   if (spot.row >= 0 && sheet != nullptr) sheet->ShowCell(spot.row, spot.column);
 }
@@ -149,8 +179,15 @@ void frmMain::refill(const Node& node) {
   for (auto* sheet : {&prctlMenu, &prctlSubmenu, &prctlItem}) sheet->isOpen = false;
   const auto* element = document.element(node);
   if (element == nullptr) return;
-  auto& sheet = sheetOf(kindOf(node.Key));
+  const auto kind = kindOf(node.Key);
+  auto& sheet = sheetOf(kind);
   std::visit([&](const auto& object) { PutValuesToPropertyControl(object, sheet); }, *element);
+  for (const auto& key : otherKeys_) {
+    const auto* other = kindOf(key) == kind ? document.ElementColl.find(key) : nullptr;
+    if (other != nullptr)
+      std::visit([&](const auto& object) { AddValuesToPropertyControl(object, sheet); }, *other);
+  }
+  if (!otherKeys_.empty()) sheet.RefreshPropertyValues();
   sheet.isOpen = true;
 }
 
@@ -188,19 +225,20 @@ void frmMain::enablePaste(bool enabled) {
   }
 }
 
-/// Stores a row of a sheet in the selected element. Ignores a sheet of another kind, whose cell stayed open while its
+/// Stores a row of a sheet in all selected elements of its kind. Ignores a sheet of another kind, whose cell stayed open while its
 /// element was removed.
 void frmMain::sheetChanged(Kind kind, int ordinal) {
   const auto* old = selectedElement();
   if (old == nullptr || kindOf(*old) != kind) return;
   const auto& sheet = sheetOf(kind);
-  const auto& node = *selected();
-  Element element = *old;
-  std::visit([&](auto& object) { GetValueFromPropertyControl(object, sheet, ordinal); }, element);
   Edit edit{std::string(sheet.row(ordinal).Caption)};
-  edit.before = {selectedKey_, ordinal, sheet.cursorColumn()};
-  auto text = ordinal == nameRow(kind) ? NodeText(element) : node.Text;
-  edit.set(document, node, std::move(element), std::move(text));
+  edit.before = {selectedKey_, ordinal, sheet.cursorColumn(), otherKeys_};
+  for (const auto* node : selectedOf(kind)) {
+    Element element = *document.element(*node);
+    std::visit([&](auto& object) { GetValueFromPropertyControl(object, sheet, ordinal); }, element);
+    auto text = ordinal == nameRow(kind) ? NodeText(element) : node->Text;
+    edit.set(document, *node, std::move(element), std::move(text));
+  }
   apply(std::move(edit));
 }
 
@@ -217,7 +255,7 @@ void frmMain::tvTreeView_KeyUp(int key) {
       default: break;
     }
   }
-  SelectNode(selected());
+  SelectNodes(selection());
 }
 
 std::string_view frmMain::contextMenu() const {

@@ -1,5 +1,6 @@
 // The commands that change the structure of the tree.
 #include <algorithm>
+#include <unordered_set>
 
 #include "model/structure.h"
 #include "shell/command_table.h"
@@ -30,61 +31,6 @@ void frmMain::mnuEditRedo() {
   if (editor.redoName()) show(editor.redo());
 }
 
-/// Quirk: enables Paste even if there is nothing to paste.
-void frmMain::mnuEditCopy() {
-  if (selected() == nullptr) return;
-  LeaveCells();
-  if (const auto* refusal = refusalOfCopy(selectedKey_)) {
-    ports.asker.MsgBox(warning(*refusal));
-  } else {
-    CopySubtree(document, *selected(), clipboard);
-  }
-  enablePaste(true);
-}
-
-void frmMain::mnuEditCut() {
-  if (selected() == nullptr) return;
-  if (const auto* refusal = refusalOfCut(selectedKey_)) {
-    ports.asker.MsgBox(warning(*refusal));
-    return;
-  }
-  LeaveCells();
-  CopySubtree(document, *selected(), clipboard);
-  removeSelected("Cut");
-  SelectNode(selected());
-  RefreshCurrentSheet();
-  enablePaste(true);
-}
-
-/// Commits no cell and keeps the selection. A paste that fails halfway is a change too.
-void frmMain::mnuEditPaste() {
-  const auto* target = selected();
-  if (target == nullptr || clipboard.tvCopyTree.empty()) return;
-  if (const auto* refusal = refusalOfPaste(clipboard, *target)) {
-    ports.asker.MsgBox(warning(*refusal));
-    return;
-  }
-  auto pasted = pastedSubtree(document, *target, clipboard);
-  const bool lacksNumbers = isCut(pasted, clipboard);
-  if (!pasted.subtree.empty()) {
-    Edit edit("Paste");
-    edit.insert(std::move(pasted));
-    apply(std::move(edit));
-  }
-  if (lacksNumbers) throwUsedUp();
-}
-
-/// A copy of the selected item after it. The clipboard stays.
-void frmMain::mnuEditDuplicate() {
-  if (selectedKind() != Kind::Item) return;
-  LeaveCells();
-  Clipboard copied;
-  CopySubtree(document, *selected(), copied);
-  auto duplicate = pastedSubtree(document, *selected(), copied);
-  if (isCut(duplicate, copied)) throwUsedUp();
-  if (!duplicate.subtree.empty()) add("Duplicate", std::move(duplicate));
-}
-
 void frmMain::rename(const Node& node, std::string name) {
   LeaveCells();
   const auto* old = document.element(node);
@@ -102,20 +48,24 @@ void frmMain::rename(const Node& node, std::string name) {
   SelectNode(&node);
 }
 
-/// Adds new nodes and selects the first.
-void frmMain::add(std::string_view editName, Insertion insertion) {
+/// Adds new nodes and selects them.
+void frmMain::add(std::string_view editName, Insertions insertions) {
+  if (insertions.empty()) return;
   Edit edit{std::string(editName)};
-  const auto key = insertion.subtree.key();
-  edit.after.key = key;
-  edit.insert(std::move(insertion));
+  Spot after;
+  for (auto& insertion : insertions) {
+    (after.key.empty() ? after.key : after.others.emplace_back()) = insertion.subtree.key();
+    edit.insert(std::move(insertion));
+  }
+  edit.after = after;
   apply(std::move(edit));
-  SelectNode(document.tvTreeView.find(key));
+  show(after);
 }
 
 void frmMain::mnuItemAddItem() {
   if (selected() == nullptr) return;
   LeaveCells();
-  if (auto item = newItem(document, selectedKey_)) add("Add Item", *std::move(item));
+  if (auto item = newItem(document, selectedKey_)) add("Add Item", {*std::move(item)});
 }
 
 void frmMain::mnuSubmenuAddSubmenu() {
@@ -125,7 +75,7 @@ void frmMain::mnuSubmenuAddSubmenu() {
     return;
   }
   LeaveCells();
-  if (auto submenu = newSubmenu(document, selectedKey_)) add("Add Submenu", *std::move(submenu));
+  if (auto submenu = newSubmenu(document, selectedKey_)) add("Add Submenu", {*std::move(submenu)});
 }
 
 bool frmMain::askToDelete(const Message& message) {
@@ -136,23 +86,42 @@ bool frmMain::askToDelete(const Message& message) {
   return ports.asker.MsgBox(box) == BoxButton::Yes;
 }
 
-/// Removes the selected node and selects its neighbour.
-void frmMain::removeSelected(std::string_view editName) {
-  const auto& node = *selected();
-  const auto* neighbour = neighbourOf(node);
+/// Removes nodes, none of which hangs from another, and selects the neighbour of the first.
+void frmMain::remove(const Nodes& nodes, std::string_view editName) {
+  const auto isRemoved = [&](const Node* node) { return std::ranges::find(nodes, node) != nodes.end(); };
+  const auto* neighbour = neighbourOf(*nodes.front());
+  while (isRemoved(neighbour) && neighbour->Next() != nullptr) neighbour = neighbour->Next();
+  while (isRemoved(neighbour) && neighbour->Previous() != nullptr) neighbour = neighbour->Previous();
+  if (isRemoved(neighbour)) neighbour = neighbour->Parent();
   Edit edit{std::string(editName)};
-  edit.before.key = selectedKey_;
+  edit.before = spot();
   if (neighbour != nullptr) edit.after.key = neighbour->Key;
-  edit.remove(node);
+  for (const auto* node : nodes) edit.remove(*node);
   select(neighbour);
   apply(std::move(edit));
 }
 
+/// Asks, and removes all selected nodes but the main menu.
+void frmMain::deleteSeveral() {
+  auto nodes = selection();
+  std::erase_if(nodes, [](const Node* node) { return kindOf(node->Key) == Kind::Menu; });
+  nodes = topmost(document, nodes);
+  if (nodes.empty()) return;
+  const auto text = "Are you sure you want to delete the " + std::to_string(nodes.size()) +
+                    " selected entries, and the entire menu structure\rderiving from them?";
+  if (!askToDelete({"Delete", text})) return;
+  LeaveCells();
+  remove(nodes, "Delete");
+  SelectNode(selected());
+  RefreshCurrentSheet();
+}
+
 void frmMain::mnuItemDeleteItem() {
+  if (!otherKeys_.empty()) return deleteSeveral();
   if (selectedKind() != Kind::Item) return;
   if (askToDelete(selected()->Child() == nullptr ? deleteItem : deleteItemTree)) {
     LeaveCells();
-    removeSelected("Delete Item");
+    remove({selected()}, "Delete Item");
     RefreshCurrentSheet();
   }
   SelectNode(selected());
@@ -160,15 +129,17 @@ void frmMain::mnuItemDeleteItem() {
 
 /// Unlike Delete Item, it does not leave the cell or call `SelectNode`, so the states of commands do not change.
 void frmMain::mnuSubmenuDeleteSubmenu() {
+  if (!otherKeys_.empty()) return deleteSeveral();
   if (selectedKind() != Kind::Submenu) return;
   if (!askToDelete(selected()->Child() == nullptr ? deleteSubmenu : deleteSubmenuTree)) return;
   prctlSubmenu.TakeBack();  // its element is removed
-  removeSelected("Delete Submenu");
+  remove({selected()}, "Delete Submenu");
   RefreshCurrentSheet();
 }
 
 void frmMain::mnuItemMove(bool up) {
   if (selectedKind() != Kind::Item) return;
+  if (!otherKeys_.empty()) return moveSeveral(up);
   const auto& item = *selected();
   if (auto to = up ? moveUp(document, item) : moveDown(document, item)) {
     Edit edit(up ? "Move Item Up" : "Move Item Down");
@@ -179,6 +150,120 @@ void frmMain::mnuItemMove(bool up) {
   for (const std::string_view name : {"mnuItemMoveItemUp", "mnuItemMoveItemDown"}) {
     commands.enable(name, commandOfEntry(name)->enabledWhen(*this));
   }
+}
+
+/// The siblings that selected items pass when they move up or down, and where these siblings go.
+std::vector<std::pair<const Node*, NodePlace>> frmMain::passed(bool up) const {
+  const auto items = topmost(document, selectedOf(Kind::Item));
+  const std::unordered_set<const Node*> isMoving(items.begin(), items.end());
+  std::vector<std::pair<const Node*, NodePlace>> all;
+  for (const auto* first : items) {
+    if (isMoving.contains(first->Previous()) || first->Parent() == nullptr) continue;
+    const auto* last = first;  // of the items side by side, which move as one
+    while (isMoving.contains(last->Next())) last = last->Next();
+    const auto* sibling = up ? first->Previous() : last->Next();
+    if (sibling == nullptr) continue;
+    all.emplace_back(sibling, up ? placeOf(*last) : NodePlace{first->Parent()->Key, first->Key});
+  }
+  return all;
+}
+
+void frmMain::moveSeveral(bool up) {
+  LeaveCells();
+  Edit edit(up ? "Move Items Up" : "Move Items Down");
+  for (auto& [sibling, place] : passed(up)) edit.move(*sibling, std::move(place), document.NextKeyNumber);
+  if (edit.steps.empty()) return;
+  apply(std::move(edit));
+  SelectNodes(selection());
+}
+
+/// The selected items that are siblings of the first of them, in order.
+Nodes frmMain::selectedSiblings() const {
+  auto items = topmost(document, selectedOf(Kind::Item));
+  std::erase_if(items, [parent = items.empty() ? nullptr : items.front()->Parent()](const Node* item) {
+    return item->Parent() != parent;
+  });
+  return items;
+}
+
+/// The item whose submenu the selected items can move into: the one before them.
+const Node* frmMain::indentTarget() const {
+  const auto items = selectedSiblings();
+  const auto* above =
+      items.empty() || items.front()->Parent() == nullptr ? nullptr : items.front()->Previous();
+  const bool isItem = above != nullptr && kindOf(above->Key) == Kind::Item;
+  return isItem && (above->Child() == nullptr || kindOf(above->Child()->Key) == Kind::Submenu) ? above
+                                                                                               : nullptr;
+}
+
+void frmMain::mnuItemIndent() {
+  const auto* above = indentTarget();
+  if (above == nullptr) return;
+  LeaveCells();
+  Edit edit("Move into Submenu");
+  auto counter = document.NextKeyNumber;
+  std::string submenu;
+  if (above->Child() != nullptr) {
+    submenu = above->Child()->Key;
+  } else {
+    auto added = newSubmenu(document, above->Key);
+    submenu = added->subtree.key();
+    counter = added->counter;
+    edit.insert(*std::move(added));
+  }
+  for (const auto* item : selectedSiblings()) edit.move(*item, {submenu, ""}, counter);
+  apply(std::move(edit));
+  SelectNodes(selection());
+}
+
+/// The item whose submenu the selected items can leave.
+const Node* frmMain::outdentTarget() const {
+  const auto items = selectedSiblings();
+  const auto* submenu = items.empty() ? nullptr : items.front()->Parent();
+  const bool isSubmenu = submenu != nullptr && kindOf(submenu->Key) == Kind::Submenu;
+  const auto* owner = isSubmenu ? submenu->Parent() : nullptr;
+  return owner != nullptr && kindOf(owner->Key) == Kind::Item && owner->Parent() != nullptr ? owner : nullptr;
+}
+
+/// A submenu that loses its last item goes, too.
+void frmMain::mnuItemOutdent() {
+  const auto* owner = outdentTarget();
+  if (owner == nullptr) return;
+  LeaveCells();
+  const auto items = selectedSiblings();
+  const auto* submenu = items.front()->Parent();
+  Edit edit("Move out of Submenu");
+  const bool isLast = submenu->Children() == items.size();
+  for (const auto* item : items) edit.move(*item, placeOf(*owner), document.NextKeyNumber);
+  if (isLast) edit.remove(*submenu);
+  apply(std::move(edit));
+  SelectNodes(selection());
+}
+
+bool frmMain::canDrop(const Nodes& nodes, const Node& target, Drop drop, bool copies) const {
+  return (copies ? dropPlace(nodes, target, drop) : movePlace(nodes, target, drop)).has_value();
+}
+
+void frmMain::drop(const Nodes& nodes, const Node& target, Drop drop, bool copies) {
+  LeaveCells();
+  const auto place = copies ? dropPlace(nodes, target, drop) : movePlace(nodes, target, drop);
+  if (!place) return;
+  if (copies) {
+    Clipboard copied;
+    CopySubtrees(document, nodes, copied);
+    auto inserted = insertionsAt(document, *place, copied);
+    if (isCut(document, inserted, copied)) throwUsedUp();
+    add("Copy", std::move(inserted));
+    return;
+  }
+  Edit edit("Move");
+  for (const auto* node : nodes) {
+    (edit.after.key.empty() ? edit.after.key : edit.after.others.emplace_back()) = node->Key;
+    edit.move(*node, *place, document.NextKeyNumber);
+  }
+  const auto after = edit.after;
+  apply(std::move(edit));
+  show(after);
 }
 
 }  // namespace nimbrel

@@ -30,10 +30,14 @@ void frmMain::mnuStyleApplyStyle() {
     return;
   }
   sheetOf(selectedKind()).LeaveCell();  // otherwise its entry would undo the style later
-  Element element = *selectedElement();
-  ApplyPickedStyle(picking, element);
   Edit edit("Apply Style");
-  edit.set(document, *selected(), std::move(element));
+  for (const auto* node : selection()) {
+    const auto* old = document.element(*node);
+    if (old == nullptr || refusalOfPickedStyle(picking, node->Key) != nullptr) continue;
+    Element element = *old;
+    ApplyPickedStyle(picking, element);
+    edit.set(document, *node, std::move(element));
+  }
   apply(std::move(edit));
   refill(*selected());
 }
@@ -66,9 +70,12 @@ void frmMain::mnuStyleOpenStyleLibrary() {
                     const auto* node = selected();
                     if (node == nullptr) return;
                     Edit edit("Apply Style");
-                    eachStyled(document, *node, scope, style, [&](const Node& styled, Element element) {
-                      edit.set(document, styled, std::move(element));
-                    });
+                    const auto nodes = scope == StyleScope::Menu ? Nodes{node} : selectedOf(selectedKind());
+                    for (const auto* each : nodes) {
+                      eachStyled(document, *each, scope, style, [&](const Node& styled, Element element) {
+                        edit.set(document, styled, std::move(element));
+                      });
+                    }
                     apply(std::move(edit));
                     refill(*node);
                   });

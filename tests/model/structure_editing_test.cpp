@@ -26,21 +26,21 @@ class StructureEditing : public testing::Test {
 };
 
 TEST_F(StructureEditing, PastesUnderNewKeysEachTime) {
-  CopySubtree(document, node("I2"), clipboard);
-  for (const auto* target : {"I1", "S4", "M0"}) PasteSubtree(document, node(target), clipboard);
+  CopySubtrees(document, {&node("I2")}, clipboard);
+  for (const auto* target : {"I1", "S4", "M0"}) PasteSubtrees(document, node(target), clipboard);
   EXPECT_EQ(shape(), "M0(I1 I6(S7(I8)) I2(S4(I5 I9(S10(I11)))) I3 I12(S13(I14)))");
   EXPECT_EQ(document.ElementColl.size(), document.tvTreeView.size());
   EXPECT_EQ(node("I8").Text, node("I5").Text);
 }
 
 TEST_F(StructureEditing, PastesAsTheElementsWereWhenCopied) {
-  EXPECT_EQ(PasteSubtree(document, node("M0"), clipboard), nullptr) << "the clipboard is empty";
+  EXPECT_EQ(PasteSubtrees(document, node("M0"), clipboard), nullptr) << "the clipboard is empty";
   item("I1").FontFamily2 = "cursive";
   item("I1").HasSubmenuImage1 = "arrow.gif";
-  CopySubtree(document, node("I1"), clipboard);
+  CopySubtrees(document, {&node("I1")}, clipboard);
   item("I1").URL = "later.html";
   RemoveSubtree(document, "I1");
-  const auto& pasted = item(PasteSubtree(document, node("I3"), clipboard)->Key);
+  const auto& pasted = item(PasteSubtrees(document, node("I3"), clipboard)->Key);
   EXPECT_EQ(pasted.FontFamily2, pasted.FontFamily3);  // Quirk: a clone has the font of Mouse Click
   EXPECT_EQ(pasted.HasSubmenuImage1, "arrow.gif");
   EXPECT_NE(pasted.URL, "later.html");
@@ -62,8 +62,8 @@ TEST_F(StructureEditing, StopsWithoutAFreeKeyNumber) {
   document.NextKeyNumber = Document::largestKeyNumber - 2;
   EXPECT_THROW(MoveItemUp(document, node("I2")), std::overflow_error);
   EXPECT_EQ(shape(), "M0(I1 I2(S4(I5)) I3)");
-  CopySubtree(document, node("I2"), clipboard);
-  EXPECT_THROW(PasteSubtree(document, node("I1"), clipboard), std::overflow_error);
+  CopySubtrees(document, {&node("I2")}, clipboard);
+  EXPECT_THROW(PasteSubtrees(document, node("I1"), clipboard), std::overflow_error);
   EXPECT_EQ(shape(), "M0(I1 I32765(S32766) I2(S4(I5)) I3)");
   EXPECT_EQ(document.ElementColl.size(), document.tvTreeView.size());
 }
@@ -72,8 +72,8 @@ TEST_F(StructureEditing, CreatesNoSecondRootNextToAnItemAsRoot) {
   Document foreign;
   foreign.tvTreeView.addRoot("I1", "Root");
   foreign.ElementColl.add("I1", ItemObj{});
-  CopySubtree(document, node("I1"), clipboard);
-  EXPECT_EQ(PasteSubtree(foreign, *foreign.tvTreeView.root(), clipboard), nullptr);
+  CopySubtrees(document, {&node("I1")}, clipboard);
+  EXPECT_EQ(PasteSubtrees(foreign, *foreign.tvTreeView.root(), clipboard), nullptr);
   EXPECT_EQ(AddItem(foreign, "I1"), nullptr);
   EXPECT_FALSE(canMoveUp(*foreign.tvTreeView.root()));
   EXPECT_EQ(nimbrel::shape(foreign.tvTreeView), "I1");

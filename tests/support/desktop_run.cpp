@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPointer>
+#include <QClipboard>
 #include <QSettings>
 #include <QTemporaryFile>
 #include <QTest>
@@ -65,6 +66,7 @@ DesktopRun::DesktopRun(const QString& folder) : folder_(folder.isEmpty() ? tempo
   qputenv("XDG_DATA_HOME", path("data").toLocal8Bit());
   qputenv("XDG_STATE_HOME", path("state").toLocal8Bit());
   qputenv("XDG_CACHE_HOME", path("cache").toLocal8Bit());
+  QGuiApplication::clipboard()->clear();
   UserSettings settings;
   settings.SaveSetting("Settings", "Show Tips at Startup", "0");
   settings.SaveSetting("Settings", "ShowPreviewOnStartup", "False");

@@ -9,6 +9,7 @@
 #include "desktop/main_view.h"
 #include "desktop/qt_asker.h"
 #include "desktop/served_pages.h"
+#include "desktop/system_clipboard.h"
 #include "desktop/termination.h"
 #include "desktop/user_settings.h"
 #include "platform/posix/host_file_system.h"
@@ -40,6 +41,7 @@ class DesktopProgram {
   DesktopOpener opener_;
   HelpWindow help_;
   FileTypes fileTypes_;
+  SystemClipboard clipboard_;
   Ports ports_;
   frmMain main_;
   MainView view_;

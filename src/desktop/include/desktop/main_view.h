@@ -53,7 +53,8 @@ class MainView : public QMainWindow {
   void runAction(const Action& action);
   void openHelp(int topic);
   IconSource icons() const;
-  void showNode(const Node* node);
+  void connectTree();
+  void endName(TreeView::NameEnd end, bool isTyped);
   void deleteNode();
   QRect placeOnScreen() const;
   void showContextMenu(const QPoint& place);
@@ -78,6 +79,7 @@ class MainView : public QMainWindow {
   std::map<const FormWindow*, std::size_t>
       lastShows_;  ///< `Form::shows` of the side windows at the last refresh
   std::vector<Connection> connections_;
+  bool isNextOfOutline_ = false;  ///< the item whose name is typed was added by Enter in the one before it
   bool isStarted_ = false;
   bool isStarting_ = false;
   bool isModalOpen_ = false;

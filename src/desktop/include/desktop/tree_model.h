@@ -2,12 +2,30 @@
 
 #include <QAbstractItemModel>
 #include <QIcon>
+#include <QMimeData>
+#include <functional>
 #include <unordered_map>
 #include <vector>
 
 #include "editing/editor.h"
+#include "model/structure_editing.h"
 
 namespace nimbrel {
+
+/// Nodes of this program that are dragged. Another program sees only their formats.
+class DraggedNodes : public QMimeData {
+  Q_OBJECT
+
+ public:
+  explicit DraggedNodes(Nodes dragged) : nodes(std::move(dragged)) {}
+  const Nodes nodes;
+};
+
+/// What dragging needs to know of the document.
+struct DragRules {
+  std::function<bool(const Nodes&, const Node& target, Drop, bool copies)> canDrop;
+  std::function<void(QMimeData&, const Nodes&)> describe;  ///< adds the formats for other programs
+};
 
 /// The document's tree as a Qt model. It listens to the editor, so that views keep their state through each change.
 class TreeModel : public QAbstractItemModel {
@@ -17,6 +35,7 @@ class TreeModel : public QAbstractItemModel {
   /// `editor` outlives the model.
   explicit TreeModel(Editor& editor, QObject* parent = nullptr);
 
+  void setDragRules(DragRules rules) { dragRules_ = std::move(rules); }
   void setIcons(QIcon menu, QIcon submenu, QIcon item);
 
   /// Whether rows are coming or going at the moment. Views then may choose another current node on their own.
@@ -35,9 +54,18 @@ class TreeModel : public QAbstractItemModel {
   Qt::ItemFlags flags(const QModelIndex& index) const override;
   /// Only says what the user wants: the document, and with it this model, changes through the editor.
   bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+  Qt::DropActions supportedDropActions() const override;
+  QStringList mimeTypes() const override;
+  QMimeData* mimeData(const QModelIndexList& indexes) const override;
+  bool canDropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
+                       const QModelIndex& parent) const override;
+  /// Like `setData`.
+  bool dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
+                    const QModelIndex& parent) override;
 
  signals:
   void renamed(const nimbrel::Node* node, const QString& name);
+  void dropped(const QMimeData* data, const nimbrel::Node* target, nimbrel::Drop drop, bool copies);
 
  private:
   /// The children of a node in order. The tree links siblings only to their neighbours, and views ask by row.
@@ -51,7 +79,14 @@ class TreeModel : public QAbstractItemModel {
   void end(const RowChange& change);
   const Children& childrenOf(const Node* parent) const;
 
+  struct Target {
+    const Node* node;
+    Drop drop;
+  };
+  Target targetOf(int row, const QModelIndex& parent) const;
+
   Editor& editor_;
+  DragRules dragRules_;
   mutable std::unordered_map<const Node*, Children>
       children_;  ///< by parent, nullptr for the roots; filled when asked for
   bool isChanging_ = false;

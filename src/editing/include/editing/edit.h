@@ -9,11 +9,12 @@
 
 namespace nimbrel {
 
-/// What the author looks at: a node, and a cell of its sheet.
+/// What the author looks at: the selected nodes, and a cell of the sheet.
 struct Spot {
-  std::string key;  ///< empty: no node
+  std::string key;  ///< of the current node; empty: none
   int row = -1;     ///< of the sheet (`PropertyOrdinal`); -1: no cell
   int column = 0;
+  std::vector<std::string> others = {};  ///< keys of the other selected nodes
 
   bool operator==(const Spot&) const = default;
 };

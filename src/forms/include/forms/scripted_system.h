@@ -58,6 +58,20 @@ class ScriptedAsker : public Asker {
   }
 };
 
+/// A clipboard that other programs do not see. A test puts their content in `content`.
+class ScriptedClipboard : public NodeClipboard {
+ public:
+  void put(Content own) override {
+    content = std::move(own);
+    isForeign = false;
+  }
+  bool hasForeign() const override { return isForeign; }
+  Content foreign() const override { return content; }
+
+  Content content;
+  bool isForeign = false;
+};
+
 /// All ports in memory. Opens nothing, and records what the program would open.
 struct ScriptedSystem : Opener, HelpSystem, ClassesRoot {
   void ShellExecuteA(std::string_view, std::string_view file, std::string_view, std::string_view,
@@ -78,10 +92,11 @@ struct ScriptedSystem : Opener, HelpSystem, ClassesRoot {
   MemoryFileSystem files;
   ScriptedAsker asker;
   MemorySettings settings;
+  ScriptedClipboard clipboard;
   std::vector<std::string> opened;
   std::vector<int> topics;
   std::map<std::string, std::string> classes;  ///< values by key; a value needs its key first
-  Ports ports{files, files, asker, settings, *this, *this, *this, {}, [] { return 0.0; }};
+  Ports ports{files, files, asker, settings, *this, *this, *this, clipboard, {}, [] { return 0.0; }};
 };
 
 }  // namespace nimbrel

@@ -23,6 +23,8 @@ const Message* refusalOfSubmenu(const Document& document, std::string_view paren
 /// A submenu for an item, in the style of the menu that contains the item. Returns nullopt if `refusalOfSubmenu` refuses
 /// it or there is no such node.
 std::optional<Insertion> newSubmenu(const Document& document, std::string_view parentKey);
+/// How a submenu of an item looks that hangs from this menu or is a sibling of this item.
+SubmenuObj submenuLook(const Document& document, std::string_view key);
 /// Adds it. Returns nullptr instead of nullopt.
 Node* AddSubmenu(Document& document, std::string_view parentKey);
 

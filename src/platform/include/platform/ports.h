@@ -32,6 +32,23 @@ class ClassesRoot {
   virtual void SetClassValue(std::string_view key, std::string_view valueName, std::string_view value) = 0;
 };
 
+/// The system's clipboard, by which nodes travel between programs.
+class NodeClipboard {
+ public:
+  /// One of them may be empty.
+  struct Content {
+    std::string nodes;  ///< in the form that `put` got
+    std::string text;
+  };
+
+  virtual ~NodeClipboard() = default;
+  /// Puts nodes there: in a form of our own, and as text for other programs.
+  virtual void put(Content content) = 0;
+  /// Whether another program has put nodes or text there since the last `put`.
+  virtual bool hasForeign() const = 0;
+  virtual Content foreign() const = 0;
+};
+
 /// All ports together. Borrowed; they must outlive the users of this struct.
 struct Ports {
   FileSystem& files;
@@ -41,6 +58,7 @@ struct Ports {
   Opener& opener;
   HelpSystem& help;
   ClassesRoot& classes;
+  NodeClipboard& clipboard;
   std::vector<std::string> fonts;  ///< installed font families
   std::function<double()> random;  ///< returns a number from 0 to below 1
   std::string stateFolder{};       ///< for the recovery of unsaved changes; empty: there is none

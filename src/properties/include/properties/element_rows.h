@@ -108,6 +108,15 @@ void putValues(std::span<const ElementRow<E>> rows, const E& element, SheetValue
 }
 
 template <class E>
+void addValues(std::span<const ElementRow<E>> rows, const E& element, SheetValues& sheet) {
+  for (std::size_t ordinal = 0; ordinal < rows.size(); ++ordinal) {
+    eachField(rows[ordinal], [&](int col, auto field) {
+      sheet.AddProperty(static_cast<int>(ordinal), col, element.*field);
+    });
+  }
+}
+
+template <class E>
 void putStandards(std::span<const ElementRow<E>> rows, const E& standard, SheetValues& sheet, int nameRow) {
   for (int ordinal = 0; std::cmp_less(ordinal, rows.size()); ++ordinal) {
     if (ordinal == nameRow) continue;
@@ -131,8 +140,9 @@ inline void assign(SharedText& to, const PropertyValue& value) { to = std::get<S
 template <class E>
 void getValue(std::span<const ElementRow<E>> rows, E& element, const SheetValues& sheet, int ordinal) {
   if (std::cmp_less(ordinal, 0) || std::cmp_greater_equal(ordinal, rows.size())) return;
-  eachField(rows[static_cast<std::size_t>(ordinal)],
-            [&](int col, auto field) { assign(element.*field, sheet.ValueToStore(ordinal, col)); });
+  eachField(rows[static_cast<std::size_t>(ordinal)], [&](int col, auto field) {
+    if (!sheet.HasSeveralValues(ordinal, col)) assign(element.*field, sheet.ValueToStore(ordinal, col));
+  });
 }
 
 template <class E>

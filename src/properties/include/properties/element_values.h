@@ -36,8 +36,13 @@ void PutValuesToPropertyControl(const MenuObj& element, SheetValues& sheet);
 void PutValuesToPropertyControl(const SubmenuObj& element, SheetValues& sheet);
 void PutValuesToPropertyControl(const ItemObj& element, SheetValues& sheet);
 
-/// Stores the values of one row, in all its columns, in the element. Does nothing for a heading or a row outside the
-/// table. A byte property stores a number rounded, ties to even.
+/// Adds the values of one more element to those that fill the sheet. `RefreshPropertyValues` then updates the texts.
+void AddValuesToPropertyControl(const MenuObj& element, SheetValues& sheet);
+void AddValuesToPropertyControl(const SubmenuObj& element, SheetValues& sheet);
+void AddValuesToPropertyControl(const ItemObj& element, SheetValues& sheet);
+
+/// Stores the values of one row, in all its columns, in the element. Leaves it those of cells with several values.
+/// Does nothing for a heading or a row outside the table. A byte property stores a number rounded, ties to even.
 void GetValueFromPropertyControl(MenuObj& element, const SheetValues& sheet, int PropertyOrdinal);
 void GetValueFromPropertyControl(SubmenuObj& element, const SheetValues& sheet, int PropertyOrdinal);
 void GetValueFromPropertyControl(ItemObj& element, const SheetValues& sheet, int PropertyOrdinal);

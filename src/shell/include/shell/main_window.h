@@ -68,19 +68,34 @@ class frmMain {
   /// The name of the context menu for the current node.
   std::string_view contextMenu() const;
 
+  /// Called when another program has put something on the clipboard, or nothing of it is left there.
+  void clipboardChanged();
+
   /// Widens a window that is too narrow. Returns whether it did.
   bool Form_Resize(Geometry& window, bool isMinimised) const;
 
   /// Does nothing for nullptr.
   void SelectNode(const Node* node);
-  /// The node that is selected in the tree and whose sheet is visible, or nullptr.
+  /// Selects several nodes. The first becomes the current one. Does nothing without nodes.
+  void SelectNodes(const Nodes& nodes);
+  /// The current node, whose sheet is visible, or nullptr.
   const Node* selected() const { return document.tvTreeView.find(selectedKey_); }
+  /// All selected nodes, the current one first.
+  Nodes selection() const;
   void LeaveCells();
   void CreatePreviewFile();
   void UpdateMRUList(const std::string& path, const std::string& name);
 
   /// Gives a node another name: an item in all of its states. Line breaks become blanks.
   void rename(const Node& node, std::string name);
+
+  /// Whether these nodes can be dropped there, and do it: as a move, or as copies.
+  bool canDrop(const Nodes& nodes, const Node& target, Drop drop, bool copies) const;
+  void drop(const Nodes& nodes, const Node& target, Drop drop, bool copies);
+  /// Drops what another program has.
+  void drop(const NodeClipboard::Content& content, const Node& target, Drop drop);
+  /// What other programs get of these nodes.
+  NodeClipboard::Content contentOf(const Nodes& nodes) const;
 
   /// The nodes with a text (`nodesWith`), which Find Next and Find Previous go through from now on.
   std::vector<const Node*> find(std::string text);
@@ -120,6 +135,9 @@ class frmMain {
   void enablePaste(bool enabled);
   void RefreshCurrentSheet();
   void refill(const Node& node);
+  Spot spot() const;
+  /// The selected nodes of a kind.
+  Nodes selectedOf(Kind kind) const;
   void sheetChanged(Kind sheet, int ordinal);
   void select(const Node* node);
   Kind selectedKind() const;
@@ -147,18 +165,30 @@ class frmMain {
   // structure_commands.cpp
   void mnuEditUndo();
   void mnuEditRedo();
-  void mnuEditCut();
-  void mnuEditCopy();
-  void mnuEditPaste();
-  void mnuEditDuplicate();
   void mnuItemAddItem();
   void mnuItemDeleteItem();
   void mnuItemMove(bool up);
   void mnuSubmenuAddSubmenu();
   void mnuSubmenuDeleteSubmenu();
-  void add(std::string_view editName, Insertion insertion);
+  void add(std::string_view editName, Insertions insertions);
   bool askToDelete(const Message& message);
-  void removeSelected(std::string_view editName);
+  void remove(const Nodes& nodes, std::string_view editName);
+  void deleteSeveral();
+  std::vector<std::pair<const Node*, NodePlace>> passed(bool up) const;
+  void moveSeveral(bool up);
+  Nodes selectedSiblings() const;
+  const Node* indentTarget() const;
+  const Node* outdentTarget() const;
+  void mnuItemIndent();
+  void mnuItemOutdent();
+
+  // clipboard_commands.cpp
+  void mnuEditCut();
+  void mnuEditCopy();
+  void mnuEditPaste();
+  void mnuEditDuplicate();
+  bool copySelected();
+  Clipboard read(const NodeClipboard::Content& content, const Node& target) const;
 
   // find_commands.cpp
   void mnuEditReset(bool onlyRow);
@@ -195,7 +225,8 @@ class frmMain {
 
   friend struct CommandTable;
   std::string findText_;
-  std::string selectedKey_;  ///< empty: nothing is selected
+  std::string selectedKey_;             ///< of the current node; empty: nothing is selected
+  std::vector<std::string> otherKeys_;  ///< of the other selected nodes
   bool FirstActivation_ = true;
   /// The file of the document was not read whole, so that Save must not replace it without a question.
   bool isPartlyRead_ = false;
