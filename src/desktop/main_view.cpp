@@ -167,21 +167,25 @@ void MainView::run(const QString& command) {
   const bool namesItem = added != nullptr && added->name == "mnuItemAddItem" && tree_.hasFocus();
   runAction([&] { main_.run(name); });
   if (!namesItem) return;
-  isNextOfOutline_ = false;
+  unnamed_ = main_.selected()->Key;
+  isAddedByOutline_ = false;
   tree_.editName(true);
 }
 
 /// Goes on with an outline that is typed in the tree. An item that was added for the next name, and got none, goes again.
 void MainView::endName(TreeView::NameEnd end, bool isTyped) {
   using enum TreeView::NameEnd;
-  const bool isDone = end == Cancel || (end == Next && !isTyped);
-  if (isDone) {
-    if (std::exchange(isNextOfOutline_, false)) run("mnuEditUndo");
+  if (isTyped) unnamed_.clear();
+  if (end == Cancel || (end == Next && !unnamed_.empty())) {
+    while (isAddedByOutline_ && main_.document.tvTreeView.find(unnamed_) != nullptr) run("mnuEditUndo");
     return;
   }
   const char* command = end == Next ? "mnuItemAddItem" : end == Deeper ? "mnuItemIndent" : "mnuItemOutdent";
   if (main_.canRun(command)) runAction([&] { main_.run(command); });
-  isNextOfOutline_ = end == Next || (isNextOfOutline_ && !isTyped);
+  if (end == Next) {
+    unnamed_ = main_.selected()->Key;
+    isAddedByOutline_ = true;
+  }
   tree_.editName(true);
 }
 

@@ -43,7 +43,7 @@ class Outline {
     while (!open_.empty() && open_.back().indent >= line.indent) open_.pop_back();
     ItemObj item = item_;
     setNames(item, line.name);
-    item.URL = line.address;
+    if (!line.address.empty()) item.URL = line.address;
     open_.push_back({line.indent, &addNode(submenuAbove(), 'I', std::move(item))});
   }
   Clipboard take() { return std::move(clipboard_); }
@@ -92,7 +92,7 @@ std::string outlineText(const Clipboard& clipboard) {
         if (kindOf(above->Key) == Kind::Item) text += '\t';
       }
       text.append(item->ItemName1);
-      if (!item->URL.empty()) text.append("\t").append(item->URL);
+      if (!item->URL.empty() && item->URL != notSet) text.append("\t").append(item->URL);
       text += '\n';
     }
   }

@@ -1,5 +1,6 @@
 // The commands that change the structure of the tree.
 #include <algorithm>
+#include <ranges>
 #include <unordered_set>
 
 #include "model/structure.h"
@@ -18,6 +19,12 @@ constexpr Message deleteSubmenuTree{
     "Delete Submenu",
     "This command will delete the selected submenu and the entire menu structure\r"
     "deriving from the submenu. Proceed?"};
+
+Spot spotOn(const Nodes& nodes) {
+  Spot spot{.key = nodes.front()->Key};
+  for (const auto* other : nodes | std::views::drop(1)) spot.others.push_back(other->Key);
+  return spot;
+}
 
 }  // namespace
 
@@ -235,9 +242,10 @@ void frmMain::mnuItemOutdent() {
   Edit edit("Move out of Submenu");
   const bool isLast = submenu->Children() == items.size();
   for (const auto* item : items) edit.move(*item, placeOf(*owner), document.NextKeyNumber);
+  edit.after = spotOn(items);
   if (isLast) edit.remove(*submenu);
   apply(std::move(edit));
-  SelectNodes(selection());
+  SelectNodes(items);
 }
 
 bool frmMain::canDrop(const Nodes& nodes, const Node& target, Drop drop, bool copies) const {
@@ -257,13 +265,10 @@ void frmMain::drop(const Nodes& nodes, const Node& target, Drop drop, bool copie
     return;
   }
   Edit edit("Move");
-  for (const auto* node : nodes) {
-    (edit.after.key.empty() ? edit.after.key : edit.after.others.emplace_back()) = node->Key;
-    edit.move(*node, *place, document.NextKeyNumber);
-  }
-  const auto after = edit.after;
+  for (const auto* node : nodes) edit.move(*node, *place, document.NextKeyNumber);
+  edit.after = spotOn(nodes);
   apply(std::move(edit));
-  show(after);
+  SelectNodes(nodes);
 }
 
 }  // namespace nimbrel

@@ -207,6 +207,60 @@ TEST_F(Desktop, TheTreeRenamesAddsAndMovesByKeys) {
   EXPECT_EQ(selected(), "I3");
 }
 
+TEST_F(Desktop, AMenuIsTypedLikeAnOutline) {
+  run.start();
+  run.select("I3");
+  auto& tree = run.view().tree();
+  const auto& model = *tree.model();
+  press(tree, Qt::Key_Insert);
+  const auto type = [&](const char* name, Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+    auto& editor = find<QLineEdit>(tree);
+    QTest::keyClicks(&editor, name);
+    QTest::keyClick(&editor, key, modifiers);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  };
+  type("Rooms", Qt::Key_Return);
+  type("Big", Qt::Key_Tab);
+  type("", Qt::Key_Return);
+  type("Small", Qt::Key_Return);
+  type("Contact", Qt::Key_Backtab, Qt::ShiftModifier);
+  type("Contact us", Qt::Key_Return);
+  type("", Qt::Key_Return);  // an item without a name ends the outline, and goes
+  const auto& nodes = run.main().document.tvTreeView;
+  EXPECT_EQ(run.main().contentOf({nodes.find("I4"), run.main().selected()}).text,
+            "Rooms\n\tBig\n\tSmall\nContact us\n");
+  EXPECT_EQ(model.rowCount(model.index(0, 0)), 5);
+}
+
+TEST_F(Desktop, SeveralNodesAreSelectedEditedAndDragged) {
+  run.start();
+  auto& tree = run.view().tree();
+  auto& model = *tree.model();
+  const auto item = [&](int row) { return model.index(row, 0, model.index(0, 0)); };
+  const auto pressAt = [&](int row, Qt::KeyboardModifiers modifiers) {
+    QTest::mouseClick(tree.viewport(), Qt::LeftButton, modifiers, tree.visualRect(item(row)).center());
+  };
+  pressAt(0, {});
+  pressAt(2, Qt::ControlModifier);
+  EXPECT_EQ(run.main().selection().size(), 2U);
+  EXPECT_EQ(selected(), "I3");
+  QTest::keyClick(&tree, Qt::Key_X, Qt::ControlModifier);
+  EXPECT_EQ(model.rowCount(model.index(0, 0)), 1);
+  QTest::keyClick(&tree, Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(model.rowCount(model.index(0, 0)), 3);
+
+  const std::unique_ptr<QMimeData> dragged(model.mimeData({item(0)}));
+  EXPECT_FALSE(model.canDropMimeData(dragged.get(), Qt::MoveAction, 1, 0, model.index(0, 0)))
+      << "it is there";
+  EXPECT_TRUE(model.dropMimeData(dragged.get(), Qt::MoveAction, 3, 0, model.index(0, 0)));
+  EXPECT_EQ(item(2).data(), "Item2");
+  QMimeData outline;  // from another program
+  outline.setText("One\n\tBelow\nTwo");
+  EXPECT_TRUE(model.dropMimeData(&outline, Qt::CopyAction, 0, 0, model.index(0, 0)));
+  EXPECT_EQ(item(1).data(), "Two");
+  EXPECT_EQ(run.main().selection().size(), 2U);
+}
+
 TEST_F(Desktop, TheFindBarFiltersTheTree) {
   run.start(run.programFolder() + "/Examples/thistlewick/thistlewick.nbr");
   auto& tree = run.view().tree();

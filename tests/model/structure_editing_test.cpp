@@ -4,6 +4,7 @@
 #include <string>
 
 #include "model/fixtures.h"
+#include "model/outline.h"
 #include "model/structure.h"
 
 namespace nimbrel {
@@ -77,6 +78,17 @@ TEST_F(StructureEditing, CreatesNoSecondRootNextToAnItemAsRoot) {
   EXPECT_EQ(AddItem(foreign, "I1"), nullptr);
   EXPECT_FALSE(canMoveUp(*foreign.tvTreeView.root()));
   EXPECT_EQ(nimbrel::shape(foreign.tvTreeView), "I1");
+}
+
+TEST_F(StructureEditing, AnOutlineBecomesItemsAndBack) {
+  ItemObj look;
+  look.BGColor1 = "#123456";
+  clipboard = outlined(
+      "- Home\thome.html\r\n\r\nRooms\n    * Big\tbig.html\textra\n    Small\n  Odd\n\t\n2\n", look, {});
+  EXPECT_EQ(nimbrel::shape(clipboard.tvCopyTree), "I0 I1(S2(I3 I4 I5)) I6");
+  EXPECT_EQ(outlineText(clipboard), "Home\thome.html\nRooms\n\tBig\tbig.html\n\tSmall\n\tOdd\n2\n");
+  EXPECT_EQ(std::get<ItemObj>(*clipboard.CopyColl.find("I3")).BGColor1, "#123456");
+  EXPECT_EQ(std::get<SubmenuObj>(*clipboard.CopyColl.find("S2")).SubmenuName, "Rooms");
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
 // Undo and redo of every command that changes the document, in random sequences.
+#include <cstdlib>
 #include <gmock/gmock.h>
 #include <random>
 
@@ -98,14 +99,29 @@ class History : public testing::Test {
                                   "mnuItemDeleteItem",
                                   "mnuItemMoveItemUp",
                                   "mnuItemMoveItemDown",
+                                  "mnuItemIndent",
+                                  "mnuItemOutdent",
                                   "mnuSubmenuAddSubmenu",
                                   "mnuSubmenuAddSubmenu",
                                   "mnuSubmenuDeleteSubmenu",
                                   "mnuStylePickStyle",
                                   "mnuStyleApplyStyle",
                                   "mnuToolsCompileProperties"};
-    auto& tree = main.document.tvTreeView;
-    main.tvTreeView_NodeClick(tree.at(below(tree.size()) + 1));
+    Nodes nodes;
+    do nodes.push_back(&anyNode());
+    while (below(3) == 0);
+    std::ranges::sort(nodes);
+    nodes.erase(std::ranges::unique(nodes).begin(), nodes.end());
+    main.SelectNodes(nodes);
+    switch (below(8)) {
+      case 0: dragSomething(); return;
+      case 1: main.replace(std::to_string(below(9)), std::to_string(below(9)), TextKind::All); return;
+      case 2:
+        system.clipboard.isForeign = true;  // as if another window had put it there
+        main.run("mnuEditPaste");
+        return;
+      default: break;
+    }
     system.asker.inForm = [this](Form& form) {
       if (auto* box = form.find("chkIgnoreThirdState")) form.check(*box, below(2) == 1);
       if (auto* ok = form.find("cmdOk")) form.click(*ok);
@@ -124,6 +140,45 @@ class History : public testing::Test {
     system.asker.answers.clear();
   }
 
+  const Node& anyNode() {
+    auto& tree = main.document.tvTreeView;
+    return *tree.at(below(tree.size()) + 1);
+  }
+
+  void dragSomething() {
+    const auto nodes = topmost(main.document, main.selection());
+    const auto& target = anyNode();
+    const auto drop = static_cast<Drop>(below(3));
+    const bool copies = below(2) == 0;
+    if (below(4) == 0) {
+      main.drop(main.contentOf(nodes), target, drop);
+    } else if (main.canDrop(nodes, target, drop, copies)) {
+      main.drop(nodes, target, drop, copies);
+    }
+  }
+
+  /// The visible sheet shows what one that is filled afresh shows.
+  void requireSheetIsCurrent() {
+    const auto& shown = *main.visibleSheet();
+    PropertySheet fresh(shown.table(), {system.asker, system, system.ports.fonts, folder, size},
+                        main.liveExamples);
+    bool isFirst = true;
+    for (const auto* node : main.selection()) {
+      if (kindOf(node->Key) != kindOf(main.selected()->Key)) continue;
+      std::visit(
+          [&](const auto& element) {
+            isFirst ? PutValuesToPropertyControl(element, fresh) : AddValuesToPropertyControl(element, fresh);
+          },
+          *main.document.element(*node));
+      isFirst = false;
+    }
+    fresh.RefreshPropertyValues();
+    for (int row = 0; row < fresh.RowCount(); ++row) {
+      for (const int col : valueColumns)
+        EXPECT_EQ(shown.Shown(row, col).view(), fresh.Shown(row, col).view());
+    }
+  }
+
   void requireListenersAgree() {
     EXPECT_TRUE(rows.isRight());
     std::string kept;
@@ -133,11 +188,14 @@ class History : public testing::Test {
     EXPECT_EQ(main.canRun("mnuEditUndo"), main.editor.undoName().has_value());
     EXPECT_EQ(main.canRun("mnuEditRedo"), main.editor.redoName().has_value());
     ASSERT_NE(main.selected(), nullptr);
-    EXPECT_EQ(main.visibleSheet(), &main.sheetOf(kindOf(main.selected()->Key)));
+    ASSERT_EQ(main.visibleSheet(), &main.sheetOf(kindOf(main.selected()->Key)));
+    requireSheetIsCurrent();
   }
 
   std::minstd_rand random{std::minstd_rand::default_seed};
   ScriptedPorts system;
+  const std::string folder;
+  std::string size;
   frmMain main{system.ports, "C:\\p"};
   RowListener rows{main.editor};
   MenuMirror mirror;  ///< as recovery keeps it
@@ -148,7 +206,9 @@ class History : public testing::Test {
 };
 
 TEST_F(History, UndoingAllGivesTheFirstDocumentAndRedoingAllTheLast) {
-  constexpr int sequences = 20;
+  // For a long run by hand: NIMBREL_SEQUENCES=15000 makes about a million changes.
+  const int sequences =
+      std::getenv("NIMBREL_SEQUENCES") == nullptr ? 20 : std::atoi(std::getenv("NIMBREL_SEQUENCES"));
   constexpr int changes = 60;
   for (int sequence = 0; sequence < sequences; ++sequence) {
     main.run("mnuFileNew");

@@ -79,7 +79,8 @@ class MainView : public QMainWindow {
   std::map<const FormWindow*, std::size_t>
       lastShows_;  ///< `Form::shows` of the side windows at the last refresh
   std::vector<Connection> connections_;
-  bool isNextOfOutline_ = false;  ///< the item whose name is typed was added by Enter in the one before it
+  std::string unnamed_;            ///< key of the item of an outline that has got no name yet
+  bool isAddedByOutline_ = false;  ///< it was added by Enter in the name before it
   bool isStarted_ = false;
   bool isStarting_ = false;
   bool isModalOpen_ = false;
