@@ -1,6 +1,6 @@
 // Uses the whole program in memory. Each byte of the input is a choice of the author: commands, edits, clicks in the
 // tree, answers to questions, and disk failures. After each step the document must be consistent, and unsaved changes
-// must be marked as such.
+// must be marked as such. In the end, undoing all gives the document that was opened, and redoing all the last one.
 #include <algorithm>
 #include <array>
 #include <optional>
@@ -12,6 +12,7 @@
 #include "platform/memory/memory_file_system.h"
 #include "require_consistent.h"
 #include "shell/command_table.h"
+#include "shell/keys.h"
 #include "shell/main_window.h"
 
 namespace nimbrel {
@@ -41,6 +42,7 @@ constexpr std::array<const char*, 8> paths{
     "C:\\m\\menu.js", "D:\\none",     "page.html",      ""};
 constexpr std::array<const char*, 12> texts{"",   "n",    "Item1 - x", "#ff0",     "#00AA00", "12.5",
                                             "-1", "9999", "C:\\p.gif", "\"a\", b", "Larger",  "\x81\xFF&#1;"};
+const NodeClipboard::Content outline{{}, "One\tone.html\n\tBelow\n"};
 constexpr int deepestForm = 4;
 constexpr int stepsInForm = 6;
 
@@ -115,13 +117,15 @@ void requireNesting(const Document& document) {
 }
 
 /// Compares all but the counter and the settings: a compile sets some of those without counting as a change.
-bool sameMenu(const Document& a, Document& b) {
-  const auto number = std::exchange(b.NextKeyNumber, a.NextKeyNumber);
-  const auto settings = std::exchange(b.settings, a.settings);
-  const bool same = a == b;
-  b.NextKeyNumber = number;
-  b.settings = settings;
-  return same;
+bool sameMenu(const Document& a, const Document& b) {
+  if (!(a.tvTreeView == b.tvTreeView)) return false;
+  for (const Node* node = a.tvTreeView.root(); node != nullptr; node = following(node)) {
+    const auto* element = a.element(*node);
+    const auto* other = b.element(*node);
+    if ((element == nullptr) != (other == nullptr) || (element != nullptr && !(*element == *other)))
+      return false;
+  }
+  return true;
 }
 
 /// The file of the document that New creates.
@@ -149,6 +153,17 @@ class Session {
     files_.files["C:\\p\\TIPOFDAY.TXT"] = "that\r\nthis";
     window_.Activate({}, StartWindows::None);  // commands open the same windows
     clean_ = window_.document;
+    opened_ = window_.document;
+  }
+
+  void requireWayBack() {
+    window_.LeaveCells();
+    while (window_.editor.redoName()) window_.run("mnuEditRedo");
+    const Document last = window_.document;
+    while (window_.editor.undoName()) window_.run("mnuEditUndo");
+    require(sameMenu(window_.document, opened_));
+    while (window_.editor.redoName()) window_.run("mnuEditRedo");
+    require(sameMenu(window_.document, last));
   }
 
   void step() {
@@ -187,7 +202,7 @@ class Session {
       case 4:
         if (auto* sheet = window_.visibleSheet()) author_.use(*sheet);
         break;
-      case 5: window_.tvTreeView_KeyUp(choices_.below(2) == 0 ? 46 : 0); break;  // 46 is the Delete key
+      case 5: useTree(); break;
       case 6: useWindow(); break;
       default: run(choices_.one(menuBar()).name); break;
     }
@@ -205,9 +220,40 @@ class Session {
     window_.run(name);
   }
 
+  const Node* anyNode() {
+    const auto& tree = window_.document.tvTreeView;
+    return tree.empty() ? nullptr : tree.at(choices_.below(tree.size()) + 1);
+  }
+
   void select() {
-    const auto size = window_.document.tvTreeView.size();
-    if (size > 0) window_.tvTreeView_NodeClick(window_.document.tvTreeView.at(choices_.below(size) + 1));
+    Nodes nodes;
+    for (auto count = choices_.below(4); count > 0; --count) {
+      const auto* node = anyNode();
+      if (node != nullptr && std::ranges::find(nodes, node) == nodes.end()) nodes.push_back(node);
+    }
+    window_.SelectNodes(nodes);
+  }
+
+  void useTree() {
+    const auto* target = anyNode();
+    const auto drop = static_cast<Drop>(choices_.below(3));
+    const auto nodes = topmost(window_.document, window_.selection());
+    switch (choices_.below(6)) {
+      case 0: window_.tvTreeView_KeyUp(keys::Delete); break;
+      case 1: window_.replace(choices_.one(texts), choices_.one(texts), TextKind::All); break;
+      case 2:
+        if (target != nullptr) window_.rename(*target, choices_.one(texts));
+        break;
+      case 3:
+        if (target != nullptr)
+          window_.drop(choices_.below(2) == 0 ? window_.contentOf(nodes) : outline, *target, drop);
+        break;
+      default:
+        const bool copies = choices_.below(2) == 0;
+        if (target != nullptr && window_.canDrop(nodes, *target, drop, copies)) {
+          window_.drop(nodes, *target, drop, copies);
+        }
+    }
   }
 
   void edit() {
@@ -255,6 +301,8 @@ class Session {
   Ports ports_;
   frmMain window_;
   Document clean_;   // as last created, opened or saved
+  Document opened_;  // as last created or opened
+  Connection replaced_ = window_.editor.documentReplaced.connect([this] { opened_ = window_.document; });
   Document before_;  // before the file command
   bool wasDirty_ = false;
   bool isFileCommand_ = false;
@@ -264,9 +312,11 @@ class Session {
 }  // namespace nimbrel
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  constexpr int longest = 200;
-  nimbrel::Choices choices(data, size);
+  // Many short sessions find more than few long ones in the same time.
+  constexpr std::size_t longest = 32;
+  nimbrel::Choices choices(data, std::min(size, longest));
   nimbrel::Session session(choices);
-  for (int steps = 0; steps < longest && !choices.isUsedUp(); ++steps) session.step();
+  while (!choices.isUsedUp()) session.step();
+  session.requireWayBack();
   return 0;
 }

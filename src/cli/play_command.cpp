@@ -3,7 +3,7 @@
 #include <istream>
 #include <ostream>
 #include <random>
-#include <ranges>
+#include <span>
 
 #include "cli/commands.h"
 #include "cli/macro.h"
@@ -168,7 +168,7 @@ void Player::force(const Words& words) {
 
 void Player::select(const Words& words) {
   Nodes nodes;
-  for (const auto& key : words | std::views::drop(1)) nodes.push_back(&node(key));
+  for (const auto& key : std::span(words).subspan(1)) nodes.push_back(&node(key));
   window_.SelectNodes(nodes);
 }
 

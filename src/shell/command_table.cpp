@@ -74,7 +74,7 @@ struct CommandTable {
       {"mnuItemMoveItemUp", "Move Item &Up", "Ctrl+Up", 1610, run<&W::mnuItemMove, true>, canMoveUp, InTree},
       {"mnuItemMoveItemDown", "Move Item D&own", "Ctrl+Down", 1620, run<&W::mnuItemMove, false>, canMoveDown, InTree},
       {"mnuItemIndent", "Move Item &into Submenu", "Ctrl+Right", 1610, run<&W::mnuItemIndent>, canIndent, InTree},
-      {"mnuItemOutdent", "Move Item ou&t of Submenu", "Ctrl+Left", 1620, run<&W::mnuItemOutdent>, canOutdent, InTree},
+      {"mnuItemOutdent", "Move Item ou&t of Submenu", "Ctrl+Left", 1610, run<&W::mnuItemOutdent>, canOutdent, InTree},
       {"mnuSubmenu", "Su&bmenu", {}, 1630, nullptr, nullptr, Plain, 0},
       {"mnuSubmenuAddSubmenu", "&Add Submenu", {}, 1630, run<&W::mnuSubmenuAddSubmenu>, hasItem},
       {"mnuSubmenuDeleteSubmenu", "&Delete Submenu", {}, 1640, run<&W::mnuSubmenuDeleteSubmenu>, hasSubmenu},

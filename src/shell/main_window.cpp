@@ -1,7 +1,7 @@
 #include "shell/main_window.h"
 
 #include <algorithm>
-#include <ranges>
+#include <span>
 #include <utility>
 
 #include "properties/element_values.h"
@@ -143,7 +143,7 @@ void frmMain::SelectNodes(const Nodes& nodes) {
   LeaveCells();
   if (nodes.empty()) return;
   select(nodes.front());
-  for (const auto* other : nodes | std::views::drop(1)) otherKeys_.push_back(other->Key);
+  for (const auto* other : std::span(nodes).subspan(1)) otherKeys_.push_back(other->Key);
   refill(*nodes.front());
   EnableCommands(selectedKind());
 }

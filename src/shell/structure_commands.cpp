@@ -1,6 +1,6 @@
 // The commands that change the structure of the tree.
 #include <algorithm>
-#include <ranges>
+#include <span>
 #include <unordered_set>
 
 #include "model/structure.h"
@@ -22,7 +22,7 @@ constexpr Message deleteSubmenuTree{
 
 Spot spotOn(const Nodes& nodes) {
   Spot spot{.key = nodes.front()->Key};
-  for (const auto* other : nodes | std::views::drop(1)) spot.others.push_back(other->Key);
+  for (const auto* other : std::span(nodes).subspan(1)) spot.others.push_back(other->Key);
   return spot;
 }
 

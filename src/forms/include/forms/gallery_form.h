@@ -3,6 +3,7 @@
 #include <functional>
 #include <optional>
 
+#include "forms/form.h"
 #include "gallery/sample_menu.h"
 #include "gallery/style_picking.h"
 #include "platform/ports.h"
