@@ -55,7 +55,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   StepReport report;
   FileSteps steps(files, report);
   const ScriptTarget target{galleryFolder(program), "nbrData", "nbrData", "gallery"};
-  require(!ScriptMaker(steps, program).CreateMenuScript(ScriptMode::Gallery, sample, target, true).empty());
+  const auto menu = compiledMenu(sample, false, files);
+  require(
+      !ScriptMaker(steps, program).CreateMenuScript(ScriptMode::Gallery, sample, menu.main, target).empty());
 
   // A comma in a value or a picture's name shifts the following values. A style that is read back whole has none
   // and must survive unchanged.

@@ -46,20 +46,26 @@ Json jsonOfValue(const PropertyValue& value) {
   return std::visit([](const auto& one) { return jsonOf(one); }, value);
 }
 
-/// Adds the properties that a compile sets: the numbers of styles and pictures.
-void addCalculated(Json& properties, const Element& element) {
+/// Adds the numbers of looks and pictures that the last compile gave the element: looks as text, pictures from 1.
+void addCalculated(Json& properties, const Element& element, const ElementNumbers& numbers) {
+  const auto look = [&](const char* name, std::size_t part) {
+    const auto number = numbers.looks.at(part);
+    properties.emplace(name, number == ElementNumbers::none ? std::string() : std::to_string(number));
+  };
   std::visit(
-      [&]<class E>(const E& object) {
+      [&]<class E>(const E&) {
         if constexpr (std::is_same_v<E, ItemObj>) {
-          properties.emplace("ItemStyleID1", jsonOf(object.ItemStyleID1));
-          properties.emplace("ItemStyleID2", jsonOf(object.ItemStyleID2));
-          properties.emplace("ItemStyleID3", jsonOf(object.ItemStyleID3));
+          look("ItemStyleID1", 0);
+          look("ItemStyleID2", 1);
+          look("ItemStyleID3", 2);
         } else {
-          properties.emplace("ContainerStyleID", jsonOf(object.ContainerStyleID));
-          properties.emplace("TitleStyleID", jsonOf(object.TitleStyleID));
+          look("ContainerStyleID", 0);
+          look("TitleStyleID", 1);
         }
+        std::size_t slot = 0;
         for (const auto* row : imageRows<E>) {
-          properties.emplace(std::string(row->name) + "No", jsonOf(object.*row->imageNo));
+          properties.emplace(std::string(row->name) + "No",
+                             jsonOf(static_cast<float>(numbers.pictures.at(slot++) + 1)));
         }
       },
       element);
@@ -148,9 +154,10 @@ Json sheetState(const PropertySheet& sheet) {
   return {{"name", std::string(sheet.table().name)}, {"rows", std::move(rows)}};
 }
 
-Json elementState(std::string_view key, const Element& element) {
+Json elementState(std::string_view key, const Element& element, const KeyedNumbers& compiled) {
   Json properties = jsonOf(element);
-  addCalculated(properties, element);
+  const auto found = std::ranges::find(compiled, key, &KeyedNumbers::value_type::first);
+  addCalculated(properties, element, found == compiled.end() ? ElementNumbers() : found->second);
   return {{"key", toUtf8(key)}, {"properties", std::move(properties)}};
 }
 
@@ -275,8 +282,8 @@ void Transcript::state(const frmMain& window) { printEntry(out_, "state", public
 void Transcript::commands(const frmMain& window) { printLine(out_, commandState(window)); }
 void Transcript::sheet(const PropertySheet& sheet) { printEntry(out_, "sheet", sheetState(sheet)); }
 
-void Transcript::element(std::string_view key, const Element& element) {
-  printEntry(out_, "element", elementState(key, element));
+void Transcript::element(std::string_view key, const Element& element, const KeyedNumbers& compiled) {
+  printEntry(out_, "element", elementState(key, element, compiled));
 }
 
 void Transcript::settings(const MemorySettings& settings) {

@@ -264,7 +264,7 @@ void Player::print(const Words& words) {
   } else if (what == "element" && words.size() > 2) {
     const auto* element = window_.document.ElementColl.find(words[2]);
     if (element == nullptr) throw MacroFault("no element " + words[2]);
-    transcript_.element(words[2], *element);
+    transcript_.element(words[2], *element, window_.numbers);
   } else {
     throw MacroFault("nothing to print: " + what);
   }

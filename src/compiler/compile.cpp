@@ -60,8 +60,8 @@ const Message* refusalOfCompile(const Document& document) {
   return hasMenu ? nullptr : &noMainMenu;
 }
 
-void CompileMenu(FileSystem& files, const std::string& programFolder, Document& document,
-                 StepReport& report) {
+CompiledMenu CompileMenu(FileSystem& files, const std::string& programFolder, const Document& document,
+                         StepReport& report) {
   const CompileSettings& settings = document.settings;
   const auto layout = compileLayout(settings);
   FileSteps steps(files, report, settings.CompiledPath);
@@ -80,11 +80,13 @@ void CompileMenu(FileSystem& files, const std::string& programFolder, Document& 
   const auto write = [&](const std::string& path, std::string script) {
     steps.generate(path, script.append("\r\n"));
   };
-  write(layout.menuPath, maker.CreateMenuScript(ScriptMode::Compile, document, target, !crossFrame));
+  auto menu = compiledMenu(document, crossFrame, files);
+  write(layout.menuPath, maker.CreateMenuScript(ScriptMode::Compile, document, menu.main, target));
   if (crossFrame) {
     target.menuName += "_sub";
-    write(layout.submenusPath, maker.CreateSubmenusScript(document, target));
+    write(layout.submenusPath, maker.CreateSubmenusScript(document, menu.submenus, target));
   }
+  return menu;
 }
 
 }  // namespace nimbrel

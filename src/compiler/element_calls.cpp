@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -23,15 +24,21 @@ class Call {
   void number(float value) { appendGeneral(next(), value); }
   void constant(std::string_view value) { next() += value; }
   void null() { constant("n"); }
-  void id(const SharedText& styleId) { constant(styleId); }
-  void idOrNull(const SharedText& styleId) { constant(styleId.empty() ? "n" : styleId.view()); }
-
-  /// Image numbers start at 1 in the elements and at 0 in the script.
-  void image(float number) {
-    if (number == 0) {
+  void number(std::int32_t value) { next() += std::to_string(value); }
+  /// Of a picture or look; without one, null.
+  void numberOrNull(std::int32_t number) {
+    if (number == ElementNumbers::none) {
       null();
     } else {
-      this->number(number - 1);
+      this->number(number);
+    }
+  }
+  /// Of a look that the element must have. One that the structure of a file hides has none.
+  void id(std::int32_t number) {
+    if (number == ElementNumbers::none) {
+      constant("");
+    } else {
+      this->number(number);
     }
   }
 
@@ -86,9 +93,10 @@ class Call {
 
 // Arguments that several calls share, in the order of the runtime's parameters.
 
-void titleText(Call& call, const TitledContainer& container, const SharedText& name) {
-  call.id(container.ContainerStyleID);
-  call.idOrNull(container.TitleStyleID);
+void titleText(Call& call, const TitledContainer& container, const ElementNumbers& numbers,
+               const SharedText& name) {
+  call.id(numbers.looks[0]);
+  call.numberOrNull(numbers.looks[1]);
   if (container.DisplayNameAsTitle == 1) {
     call.name(name);
   } else {
@@ -98,10 +106,10 @@ void titleText(Call& call, const TitledContainer& container, const SharedText& n
 }
 
 /// The callers differ in how they decide `hasImage`.
-void titleImage(Call& call, const TitledContainer& container, bool hasImage) {
+void titleImage(Call& call, const TitledContainer& container, const ElementNumbers& numbers, bool hasImage) {
   constexpr std::uint8_t noTitle = 2;
   if (container.DisplayNameAsTitle != noTitle && hasImage) {
-    call.number(container.TitleImageNo - 1);
+    call.number(numbers.pictures.front());
   } else {
     call.null();
   }
@@ -139,20 +147,27 @@ void itemName(Call& call, const ItemObj& item, std::uint8_t display, const Share
   }
 }
 
-void appendCall(const Document& document, const Node& node, int level, std::string& script) {
-  const Element* element = document.element(node);
-  if (element == nullptr) return;
+/// The image slots of an item: three states each.
+constexpr std::size_t states = 3;
+constexpr std::size_t firstItemImage = 0;
+constexpr std::size_t firstMark = 3;  ///< of an item with a submenu
+static_assert(imageRows<ItemObj>[firstItemImage] -> name == "ItemImage1");
+static_assert(imageRows<ItemObj>[firstMark] -> name == "HasSubmenuImage1");
+
+void appendCall(const CompiledElement& one, int level, std::string& script) {
+  if (one.element == nullptr) return;
   script += lineEnd;
-  std::visit([&](const auto& object) { JavascriptInitString(object, level, script); }, *element);
+  std::visit([&](const auto& object) { JavascriptInitString(object, one.numbers, level, script); },
+             *one.element);
 }
 
 /// A submenu at level 0 is written as a main menu.
-void appendFirstCall(const Document& document, const Node& container, std::string& script) {
-  const auto* submenu = std::get_if<SubmenuObj>(document.element(container));
-  if (submenu != nullptr && container.Key != document.tvTreeView.root()->Key) {
-    JavascriptInitStringMimicMenu(*submenu, script += lineEnd);
+void appendFirstCall(const CompiledElement& one, std::string& script) {
+  const auto* submenu = std::get_if<SubmenuObj>(one.element);
+  if (submenu != nullptr && one.node->Parent() != nullptr) {
+    JavascriptInitStringMimicMenu(*submenu, one.numbers, script += lineEnd);
   } else {
-    appendCall(document, container, 0, script);
+    appendCall(one, 0, script);
   }
 }
 
@@ -177,7 +192,7 @@ std::string EscapeEdgeSpaces(std::string_view text) {
   return repeated(leading) + inner;
 }
 
-void JavascriptInitString(const MenuObj& menu, int, std::string& script) {
+void JavascriptInitString(const MenuObj& menu, const ElementNumbers& numbers, int, std::string& script) {
   Call call(script += "var s0=nbrCreateMenu(");
   call.number(menu.Collapsable);
   call.constant("0,0");
@@ -191,12 +206,13 @@ void JavascriptInitString(const MenuObj& menu, int, std::string& script) {
   call.number(menu.VerticalDistanceFromCorner);
   call.number(menu.StickySubmenus);
   call.number(menu.MenuType);
-  titleText(call, menu, menu.menuname);
-  titleImage(call, menu, menu.TitleImageNo != 0);
+  titleText(call, menu, numbers, menu.menuname);
+  titleImage(call, menu, numbers, numbers.pictures.front() != ElementNumbers::none);
   items(call, menu, menu.MenuType);
 }
 
-void JavascriptInitString(const SubmenuObj& submenu, int submenuLevel, std::string& script) {
+void JavascriptInitString(const SubmenuObj& submenu, const ElementNumbers& numbers, int submenuLevel,
+                          std::string& script) {
   Call call(script += "var s" + std::to_string(submenuLevel) + "=it.addSubmenu(");
   call.number(submenu.SubmenuType);
   call.number(submenu.SubmenuWhen);
@@ -205,12 +221,13 @@ void JavascriptInitString(const SubmenuObj& submenu, int submenuLevel, std::stri
   call.number(submenu.UnfoldDirection);
   call.number(submenu.SubmenuAlignment);
   call.number(submenu.OpenDirection);
-  titleText(call, submenu, submenu.SubmenuName);
-  titleImage(call, submenu, submenu.TitleImageNo != 0);
+  titleText(call, submenu, numbers, submenu.SubmenuName);
+  titleImage(call, submenu, numbers, numbers.pictures.front() != ElementNumbers::none);
   items(call, submenu, submenu.SubmenuType);
 }
 
-void JavascriptInitStringMimicMenu(const SubmenuObj& submenu, std::string& script) {
+void JavascriptInitStringMimicMenu(const SubmenuObj& submenu, const ElementNumbers& numbers,
+                                   std::string& script) {
   Call call(script += "var s0=nbrCreateMenu(");
   call.constant("1");
   call.number(submenu.SubmenuWhen);
@@ -220,13 +237,14 @@ void JavascriptInitStringMimicMenu(const SubmenuObj& submenu, std::string& scrip
   call.number(submenu.SubmenuAlignment);
   call.constant("0,1,0,0,0,0");
   call.number(submenu.SubmenuType);
-  titleText(call, submenu, submenu.SubmenuName);
+  titleText(call, submenu, numbers, submenu.SubmenuName);
   // Quirk: this call tests the property instead of the number, so a title image whose file is missing gets -1.
-  titleImage(call, submenu, submenu.TitleImage != notSet);
+  titleImage(call, submenu, numbers, submenu.TitleImage != notSet);
   items(call, submenu, submenu.SubmenuType);
 }
 
-void JavascriptInitString(const ItemObj& item, int submenuLevel, std::string& script) {
+void JavascriptInitString(const ItemObj& item, const ElementNumbers& numbers, int submenuLevel,
+                          std::string& script) {
   // Tests the properties instead of the numbers: a picture whose file is missing counts too.
   const bool withImages =
       std::ranges::any_of(std::array{&item.ItemImage1, &item.ItemImage2, &item.ItemImage3,
@@ -234,9 +252,7 @@ void JavascriptInitString(const ItemObj& item, int submenuLevel, std::string& sc
                           [](const SharedText* image) { return *image != notSet; });
   script.append("it=s").append(std::to_string(submenuLevel));
   Call call(script += withImages ? ".addItemWithImages(" : ".addItem(");
-  call.id(item.ItemStyleID1);
-  call.id(item.ItemStyleID2);
-  call.id(item.ItemStyleID3);
+  for (const auto look : numbers.looks) call.id(look);
   if (item.DisplayNameAsTitle1 == 1) {
     call.name(item.ItemName1);
   } else {
@@ -246,12 +262,11 @@ void JavascriptInitString(const ItemObj& item, int submenuLevel, std::string& sc
   itemName(call, item, item.DisplayNameAsTitle3, item.ItemName3);
   call.text(item.ItemTooltip);
   if (withImages) {
-    for (const float number : {item.ItemImage1No, item.ItemImage2No, item.ItemImage3No}) call.image(number);
+    const auto pictures = std::span(numbers.pictures);
+    for (const auto picture : pictures.subspan(firstItemImage, states)) call.numberOrNull(picture);
     for (const auto place : {item.ImageAlignment1, item.ImageAlignment2, item.ImageAlignment3})
       call.number(place);
-    for (const float number : {item.HasSubmenuImage1No, item.HasSubmenuImage2No, item.HasSubmenuImage3No}) {
-      call.image(number);
-    }
+    for (const auto picture : pictures.subspan(firstMark, states)) call.numberOrNull(picture);
   }
   call.text(item.StatusBarText);
   call.command(item.JavascriptCommand1);
@@ -261,26 +276,30 @@ void JavascriptInitString(const ItemObj& item, int submenuLevel, std::string& sc
   call.plain(item.TargetFrame);
 }
 
-void CollectElementStrings(const Document& document, const Node& container, bool includeSubmenus,
-                           std::string_view afterContainer, std::string& script) {
-  appendFirstCall(document, container, script);
+void CollectElementStrings(const CompiledGroup& group, std::string_view afterContainer, std::string& script) {
+  const auto& elements = group.elements;
+  appendFirstCall(elements.front(), script);
   if (!afterContainer.empty()) script.append(lineEnd).append(afterContainer);
 
-  // The next item of each open menu, by level.
-  std::vector<const Node*> nextItems{container.Child()};
-  while (!nextItems.empty()) {
-    const int level = static_cast<int>(nextItems.size()) - 1;
-    const Node* item = nextItems.back();
-    if (item == nullptr) {
-      nextItems.pop_back();
+  struct Open {
+    std::size_t next;  ///< position of the next item
+    std::size_t end;
+  };
+  std::vector<Open> menus{{1, elements.size()}};  // by level
+  while (!menus.empty()) {
+    const int level = static_cast<int>(menus.size()) - 1;
+    const auto position = menus.back().next;
+    if (position == menus.back().end) {
+      menus.pop_back();
       continue;
     }
-    nextItems.back() = item->Next();
-    appendCall(document, *item, level, script);
-    if (const Node* submenu = item->Child(); includeSubmenus && submenu != nullptr) {
-      appendCall(document, *submenu, level + 1, script);
-      nextItems.push_back(submenu->Child());
-    }
+    const auto& item = elements[position];
+    menus.back().next = position + item.below + 1;
+    appendCall(item, level, script);
+    if (!group.includesSubmenus || item.below == 0) continue;
+    const auto& submenu = elements[position + 1];
+    appendCall(submenu, level + 1, script);
+    menus.push_back({position + 2, position + 2 + submenu.below});
   }
 }
 

@@ -67,7 +67,7 @@ class Inspector {
           eachProperty<E>([&](const Property<E>& property, auto field) {
             if constexpr (std::is_same_v<decltype(field), SharedText E::*>) {
               inspectText(node.Key, property.name, property.form, object.*field);
-              if (property.isImage()) inspectPicture(node.Key, (object.*field).str());
+              if (property.isImage) inspectPicture(node.Key, (object.*field).str());
             }
           });
         },

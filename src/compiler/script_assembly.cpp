@@ -1,7 +1,7 @@
 #include "compiler/script_assembly.h"
 
 #include "compiler/element_calls.h"
-#include "compiler/image_collection.h"
+#include "compiler/picture_file.h"
 #include "compiler/style_strings.h"
 #include "text/ascii.h"
 #include "text/numbers.h"
@@ -34,19 +34,23 @@ std::string lastCompileFolder(const CompileSettings& settings) {
   return doubled;
 }
 
-/// Appends everything that one call of `buildMenu()` builds: pictures, styles, elements. Each group has its own
-/// numbering.
-void appendGroup(Document& document, const Node& container, ImageFolder& folder, bool includeSubmenus,
-                 std::string_view afterContainer, std::string& script) {
-  ImageCollection images(folder);
-  images.CollectImages(document, container, includeSubmenus);
-  if (const auto table = images.tableLine(); !table.empty()) append(script, table);
+/// The "nbrImagesColl" line.
+std::string pictureTable(const std::vector<CompiledPicture>& pictures) {
+  std::string line;
+  for (const auto& [name, width, height] : pictures) {
+    line.append(line.empty() ? "nbrImagesColl=['" : ",'").append(name).append("',");
+    line.append(std::to_string(width)).append(1, ',').append(std::to_string(height));
+  }
+  return line + "];";
+}
 
-  StyleCollection styles;
-  styles.CollectStyles(document, container, includeSubmenus);
-  for (const auto& style : styles.StyleStrings()) append(script, style);
-
-  CollectElementStrings(document, container, includeSubmenus, afterContainer, script);
+/// Appends everything that one call of `buildMenu()` builds: pictures, looks, elements.
+void appendGroup(const CompiledGroup& group, std::string_view afterContainer, std::string& script) {
+  if (!group.pictures.empty()) append(script, pictureTable(group.pictures));
+  for (const auto& look : group.looks) {
+    StyleString(group.elements[look.owner], look.part, script += lineEnd);
+  }
+  CollectElementStrings(group, afterContainer, script);
   append(script, "s0.pm.buildMenu();");
 }
 
@@ -116,8 +120,15 @@ std::string ScriptMaker::CreateScriptPrologue(const Document& document, const Sc
   return head;
 }
 
-std::string ScriptMaker::CreateMenuScript(ScriptMode mode, Document& document, const ScriptTarget& target,
-                                          bool includeSubmenus) {
+/// Takes over what the compile found, and copies its pictures.
+void ScriptMaker::TakePictures(const CompiledScript& compiled, const ScriptTarget& target) {
+  for (const auto& finding : compiled.findings) steps_.note(finding);
+  const auto folder = target.basePath + '\\' + target.imageFolder;
+  for (const auto& picture : compiled.pictures) steps_.copy(picture, GalleryImagePath(picture, folder));
+}
+
+std::string ScriptMaker::CreateMenuScript(ScriptMode mode, const Document& document,
+                                          const CompiledScript& compiled, const ScriptTarget& target) {
   if (mode == ScriptMode::Gallery) {
     copyFromProgram(dot, target.basePath + '\\' + target.libraryFolder + '\\' + std::string(dot));
   } else {
@@ -133,24 +144,27 @@ std::string ScriptMaker::CreateMenuScript(ScriptMode mode, Document& document, c
   if (mode == ScriptMode::Preview) append(script, "var nbrprp='" + lastCompileFolder(settings) + "';");
   append(script, "function nbrBuildMenu(){");
   append(script, "if (nbrSupported){");
-  ImageFolder folder(steps_, target.basePath + '\\' + target.imageFolder);
-  appendGroup(document, *document.tvTreeView.root(), folder, includeSubmenus, {}, script);
+  TakePictures(compiled, target);
+  appendGroup(compiled.groups.front(), {}, script);
   append(script, "}}");
   return script;
 }
 
-std::string ScriptMaker::CreateSubmenusScript(Document& document, const ScriptTarget& target) {
+std::string ScriptMaker::CreateSubmenusScript(const Document& document, const CompiledScript& compiled,
+                                              const ScriptTarget& target) {
   std::string list;
   std::string body;
-  ImageFolder folder(steps_, target.basePath + '\\' + target.imageFolder);
-  int position = 0;  // counts items without a submenu too
-  for (const Node* item = document.tvTreeView.root()->Child(); item != nullptr; item = item->Next()) {
-    ++position;
-    if (item->Child() == nullptr) continue;
+  TakePictures(compiled, target);
+  for (const auto& one : compiled.groups) {
+    int position = 1;  // of its item, counting items without a submenu too
+    for (const Node* item = one.elements.front().node->Parent()->Previous(); item != nullptr;
+         item = item->Previous()) {
+      ++position;
+    }
     const auto group = target.menuName + "_" + std::to_string(position);
     list.append(list.empty() ? "nbr" : ",nbr").append(group);
     append(body, "nbrMenuName='" + group + "';");
-    appendGroup(document, *item->Child(), folder, true, "nbr" + group + "=s0;", body);
+    appendGroup(one, "nbr" + group + "=s0;", body);
   }
   if (body.empty()) return {};
 

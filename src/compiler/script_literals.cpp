@@ -29,7 +29,7 @@ const auto& literals() {
   static const auto all = [] {
     std::vector<Literal> each;
     for (const auto& property : E::properties()) {
-      each.push_back(literalOf(property.name, property.form, property.isImage()));
+      each.push_back(literalOf(property.name, property.form, property.isImage));
     }
     return each;
   }();

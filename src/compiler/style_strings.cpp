@@ -1,7 +1,9 @@
 #include "compiler/style_strings.h"
 
 #include <array>
+#include <deque>
 #include <tuple>
+#include <unordered_map>
 #include <vector>
 
 #include "text/numbers.h"
@@ -14,7 +16,7 @@ struct Look {
   std::uint8_t alignment;
   const SharedText& fontColor;
   const SharedText& bgColor;
-  float bgImageNo;
+  std::int32_t bgImageNo;
   std::uint8_t bold;
   std::uint8_t italic;
   std::uint8_t underlined;
@@ -47,12 +49,11 @@ void appendColor(std::string& call, const SharedText& color) {
   }
 }
 
-// Quirk: a negative number is no image here, but counts as one in the element calls.
-void appendImage(std::string& call, float number) {
-  if (number > 0) {
-    appendGeneral(call, number - 1);
-  } else {
+void appendImage(std::string& call, std::int32_t number) {
+  if (number == ElementNumbers::none) {
     call += 'n';
+  } else {
+    call += std::to_string(number);
   }
 }
 
@@ -93,9 +94,16 @@ void appendContent(std::string& call, char marker, const Look& look) {
   call += ')';
 }
 
+/// The slot of the background of the state Normal; those of the other states follow it.
+constexpr std::size_t firstBackground = 6;
+static_assert(imageRows<ItemObj>[firstBackground] -> name == "BGImage1");
+constexpr std::size_t containerBackground = 1;
+static_assert(imageRows<MenuObj>[containerBackground] -> name == "BGImage");
+static_assert(imageRows<SubmenuObj>[containerBackground] -> name == "BGImage");
+
 /// The look of an item in one state: 0 Normal, 1 Mouse Over, 2 Mouse Click.
 template <std::size_t state>
-Look lookOf(const ItemObj& item) {
+Look lookOf(const ItemObj& item, const ElementNumbers& numbers) {
   using I = ItemObj;
   const auto of = [&](auto normal, auto mouseOver, auto mouseClick) -> const auto& {
     return item.*std::array{normal, mouseOver, mouseClick}[state];
@@ -104,7 +112,7 @@ Look lookOf(const ItemObj& item) {
   return {of(&I::ItemAlignment1,  &I::ItemAlignment2,  &I::ItemAlignment3),
           of(&I::FontColor1,      &I::FontColor2,      &I::FontColor3),
           of(&I::BGColor1,        &I::BGColor2,        &I::BGColor3),
-          of(&I::BGImage1No,      &I::BGImage2No,      &I::BGImage3No),
+          numbers.pictures[firstBackground + state],
           of(&I::FontBold1,       &I::FontBold2,       &I::FontBold3),
           of(&I::FontItalic1,     &I::FontItalic2,     &I::FontItalic3),
           of(&I::FontUnderlined1, &I::FontUnderlined2, &I::FontUnderlined3),
@@ -118,93 +126,112 @@ Look lookOf(const ItemObj& item) {
   // clang-format on
 }
 
-/// One state of an item: its look, the call for it, and the property that holds the call's number.
-struct State {
-  Look (*look)(const ItemObj&);
-  void (*styleString)(const ItemObj&, std::string&);
-  SharedText ItemObj::*number;
-};
-
-constexpr auto states = std::to_array<State>({
-    {lookOf<0>, ItemStyleString1, &ItemObj::ItemStyleID1},
-    {lookOf<1>, ItemStyleString2, &ItemObj::ItemStyleID2},
-    {lookOf<2>, ItemStyleString3, &ItemObj::ItemStyleID3},
-});
+constexpr auto itemLooks =
+    std::to_array<Look (*)(const ItemObj&, const ElementNumbers&)>({lookOf<0>, lookOf<1>, lookOf<2>});
 
 }  // namespace
 
 void TitleStyleString(const TitledContainer& c, std::string& call) {
   if (c.DisplayNameAsTitle == 0 && c.TitleImage == notSet) return;
-  constexpr float noImage = 0;
-  appendContent(call, '1',
-                {c.TitleTextAlignment, c.TitleFontColor, c.TitleBGColor, noImage, c.TitleFontBold,
-                 c.TitleFontItalic, c.TitleFontUnderlined, c.TitleFontSize, c.TitleFontFamily,
-                 c.TitleBorderStyle, c.TitleBorderWidth, c.TitleBorderColor, c.TitlePadding, c.TitleCursor});
+  appendContent(
+      call, '1',
+      {c.TitleTextAlignment, c.TitleFontColor, c.TitleBGColor, ElementNumbers::none, c.TitleFontBold,
+       c.TitleFontItalic, c.TitleFontUnderlined, c.TitleFontSize, c.TitleFontFamily, c.TitleBorderStyle,
+       c.TitleBorderWidth, c.TitleBorderColor, c.TitlePadding, c.TitleCursor});
 }
 
-void ContainerStyleString(const TitledContainer& c, std::string& call) {
+void ContainerStyleString(const TitledContainer& c, const ElementNumbers& numbers, std::string& call) {
   call += "nbrCreateCSS(0,1,0,n,";
   appendColor(call, c.BGColor);
   call += ',';
-  appendImage(call, c.BGImageNo);
+  appendImage(call, numbers.pictures[containerBackground]);
   call += ",n,n,";
   appendBorder(call, c.BorderStyle, c.BorderWidth, c.BorderColor);
   call += ",0,0);";
 }
 
-void ItemStyleString1(const ItemObj& element, std::string& call) {
-  appendContent(call, '1', lookOf<0>(element));
-}
-void ItemStyleString2(const ItemObj& element, std::string& call) {
-  appendContent(call, '0', lookOf<1>(element));
-}
-void ItemStyleString3(const ItemObj& element, std::string& call) {
-  appendContent(call, '0', lookOf<2>(element));
+void ItemStyleString(const ItemObj& item, const ElementNumbers& numbers, LookPart state, std::string& call) {
+  appendContent(call, state == LookPart::Normal ? '1' : '0',
+                itemLooks.at(static_cast<std::size_t>(state))(item, numbers));
 }
 
-SharedText StyleCollection::GetStyleID(std::string_view styleString) {
-  if (styleString.empty()) return {};
-  const auto found = numbers_.find(styleString);
-  if (found != numbers_.end()) return found->second;
-  SharedText number = std::to_string(StyleStrings_.size());
-  numbers_.emplace(StyleStrings_.emplace_back(styleString), number);
-  return number;
+void StyleString(const CompiledElement& owner, LookPart part, std::string& call) {
+  if (owner.element == nullptr) return;
+  std::visit(
+      [&]<class E>(const E& object) {
+        if constexpr (std::same_as<E, ItemObj>) {
+          ItemStyleString(object, owner.numbers, part, call);
+        } else if (part == LookPart::Title) {
+          TitleStyleString(object, call);
+        } else {
+          ContainerStyleString(object, owner.numbers, call);
+        }
+      },
+      *owner.element);
 }
 
-void StyleCollection::CollectStyles(Document& document, const Node& container, bool includeSubmenus) {
-  std::string call;  // reused for all calls
-  const auto numberOf = [&]<class E>(const E& element, void (*styleString)(const E&, std::string&)) {
-    call.clear();
-    styleString(element, call);
-    return GetStyleID(call);
-  };
-  const auto numberContainer = [&](TitledContainer& titled) {
-    titled.TitleStyleID = numberOf(titled, TitleStyleString);
-    titled.ContainerStyleID = numberOf(titled, ContainerStyleString);
-  };
-  std::vector<const Node*> waiting{&container};
+namespace {
+
+/// Looks are the same if their calls are.
+class LookNumbers {
+ public:
+  explicit LookNumbers(CompiledGroup& group) : group_(group) {}
+
+  std::int32_t numberOf(std::size_t owner, LookPart part) {
+    call_.clear();
+    StyleString(group_.elements[owner], part, call_);
+    if (call_.empty()) return ElementNumbers::none;
+    const auto found = numbers_.find(call_);
+    if (found != numbers_.end()) return found->second;
+    const auto number = static_cast<std::int32_t>(group_.looks.size());
+    numbers_.emplace(calls_.emplace_back(call_), number);
+    group_.looks.push_back({owner, part});
+    return number;
+  }
+
+ private:
+  CompiledGroup& group_;
+  std::string call_;  // reused for all calls
+  std::deque<std::string> calls_;
+  std::unordered_map<std::string_view, std::int32_t> numbers_;  // keys view into calls_
+};
+
+}  // namespace
+
+void CollectStyles(CompiledGroup& group) {
+  LookNumbers looks(group);
+  auto& elements = group.elements;
+  std::vector<std::size_t> waiting{0};
+  std::vector<std::size_t> submenus;
   while (!waiting.empty()) {
-    const Node* node = waiting.back();
+    const auto container = waiting.back();
     waiting.pop_back();
-    Element* element = document.element(*node);
-    if (auto* menu = std::get_if<MenuObj>(element)) numberContainer(*menu);
-    if (auto* submenu = std::get_if<SubmenuObj>(element)) numberContainer(*submenu);
-    const ItemObj* previous = nullptr;
-    for (const Node* child = node->Child(); child != nullptr; child = child->Next()) {
-      auto* item = document.get<ItemObj>(*child);
-      if (item == nullptr) continue;
-      for (const State& state : states) {
+    const auto* element = elements[container].element;
+    if (element != nullptr && !std::holds_alternative<ItemObj>(*element)) {
+      auto& [box, title, unused] = elements[container].numbers.looks;
+      title = looks.numberOf(container, LookPart::Title);
+      box = looks.numberOf(container, LookPart::Container);
+    }
+    submenus.clear();
+    const CompiledElement* previous = nullptr;
+    group.eachChild(container, [&](std::size_t child) {
+      auto& one = elements[child];
+      if (one.below > 0) submenus.push_back(child + 1);
+      const auto* item = one.element == nullptr ? nullptr : std::get_if<ItemObj>(one.element);
+      if (item == nullptr) return;
+      for (std::size_t state = 0; state < itemLooks.size(); ++state) {
         // Most items look like the previous one, and comparing two looks is faster than making a call.
-        const bool looksTheSame = previous != nullptr && state.look(*item) == state.look(*previous);
-        item->*state.number = looksTheSame ? previous->*state.number : numberOf(*item, state.styleString);
+        const bool looksTheSame =
+            previous != nullptr &&
+            itemLooks[state](*item, one.numbers) ==
+                itemLooks[state](std::get<ItemObj>(*previous->element), previous->numbers);
+        one.numbers.looks[state] = looksTheSame ? previous->numbers.looks[state]
+                                                : looks.numberOf(child, static_cast<LookPart>(state));
       }
-      previous = item;
-    }
-    if (!includeSubmenus || node->Child() == nullptr) continue;
+      previous = &one;
+    });
     // In reverse, because `waiting` is a stack.
-    for (const Node* child = node->Child()->LastSibling(); child != nullptr; child = child->Previous()) {
-      if (child->Child() != nullptr) waiting.push_back(child->Child());
-    }
+    if (group.includesSubmenus) waiting.insert(waiting.end(), submenus.rbegin(), submenus.rend());
   }
 }
 

@@ -26,7 +26,7 @@ bool isSearched(const Property<E>& property) {
 template <class E>
 TextKind kindOfText(const Property<E>& property) {
   const auto name = property.name;
-  if (property.isImage()) return TextKind::Pictures;
+  if (property.isImage) return TextKind::Pictures;
   if (name.starts_with("Javascript")) return TextKind::Commands;
   if (name == "URL" || name == "TargetFrame") return TextKind::Addresses;
   return name.find("Tooltip") != std::string_view::npos || name == "StatusBarText" ? TextKind::Hints

@@ -114,9 +114,10 @@ void frmGallery::CreatePreviewFile() {
   }
   steps.makeFolder(data);
   steps.generate(folder + "\\stylepreview.html", previewPage);
+  const auto menu = compiledMenu(sample_, false, ports_.previews);
   const ScriptTarget target{folder, "nbrData", "nbrData", "gallery"};
   const auto script =
-      ScriptMaker(steps, programFolder_).CreateMenuScript(ScriptMode::Gallery, sample_, target, true);
+      ScriptMaker(steps, programFolder_).CreateMenuScript(ScriptMode::Gallery, sample_, menu.main, target);
   steps.generate(folder + "\\stylepreview.js", script + "\r\n");
   noteFailures(report);
   navigate(WebBrowser, folder + "\\stylepreview.html");

@@ -128,14 +128,6 @@ std::string_view getImage(const Element& element, int slot) {
       element);
 }
 
-void setImageNo(Element& element, int slot, float number) {
-  std::visit(
-      [slot, number]<class E>(E& object) {
-        if (const auto* property = imageSlot<E>(slot)) object.*(property->imageNo) = number;
-      },
-      element);
-}
-
 void setNames(ItemObj& item, const SharedText& name) {
   item.ItemName1 = item.ItemName2 = item.ItemName3 = name;
 }

@@ -59,7 +59,7 @@ void read(FileHandle& file, std::string_view FPath, const Property<E>& property,
     case FileForm::Escaped: field = unescaped(file, value); break;
     default: field = file.shared(value);
   }
-  if (property.isImage() && field.view().starts_with('*')) {
+  if (property.isImage && field.view().starts_with('*')) {
     field = std::string(FPath).append(field.view(), 1);
   }
 }

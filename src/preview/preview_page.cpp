@@ -83,7 +83,8 @@ void removeLastPreview(FileSystem& files, const std::string& folder, bool withDa
   }
 }
 
-void makeFiles(FileSteps& steps, const std::string& programFolder, bool BlackPreview, Document& document) {
+CompiledMenu makeFiles(FileSteps& steps, const std::string& programFolder, bool BlackPreview,
+                       const Document& document) {
   const auto folder = previewFolder(programFolder);
   const auto* menu =
       document.ElementColl.empty() ? nullptr : std::get_if<MenuObj>(&document.ElementColl.begin()->second);
@@ -91,12 +92,14 @@ void makeFiles(FileSteps& steps, const std::string& programFolder, bool BlackPre
   steps.generate(previewPagePath(programFolder), pageText(isPopup, BlackPreview));
   if (document.tvTreeView.empty()) {
     steps.note({previewPagePath(programFolder), "there is no menu to show"});
-    return;
+    return {};
   }
+  auto compiled = compiledMenu(document, false, steps.files());
   const ScriptTarget target{folder, dataFolder, dataFolder, "preview"};
   const auto script =
-      ScriptMaker(steps, programFolder).CreateMenuScript(ScriptMode::Preview, document, target, true);
+      ScriptMaker(steps, programFolder).CreateMenuScript(ScriptMode::Preview, document, compiled.main, target);
   steps.generate(folder + "\\preview.js", script + "\r\n");
+  return compiled;
 }
 
 }  // namespace
@@ -105,8 +108,8 @@ std::string previewPagePath(const std::string& programFolder) {
   return previewFolder(programFolder) + '\\' + pageName;
 }
 
-void CreatePreviewFile(FileSystem& files, const std::string& programFolder, bool BlackPreview,
-                       Document& document, StepReport& report) {
+CompiledMenu CreatePreviewFile(FileSystem& files, const std::string& programFolder, bool BlackPreview,
+                               const Document& document, StepReport& report) {
   StepReport own;
   const auto folder = previewFolder(programFolder);
   FileSteps steps(files, own, folder);
@@ -115,13 +118,14 @@ void CreatePreviewFile(FileSystem& files, const std::string& programFolder, bool
   removeLastPreview(files, folder, true, steps);
   steps.makeFolder(folder + '\\' + dataFolder);
 
-  makeFiles(steps, programFolder, BlackPreview, document);
+  auto compiled = makeFiles(steps, programFolder, BlackPreview, document);
   std::string list;
   for (const auto& path : own.made) list.append(path.substr(folder.size() + 1)).append("\n");
   steps.generate(joinPath(folder, listName), list);
   std::ranges::move(own.made, std::back_inserter(report.made));
   std::ranges::move(own.findings, std::back_inserter(report.findings));
   report.isComplete = report.isComplete && own.isComplete;
+  return compiled;
 }
 
 void RemovePreviewPage(FileSystem& files, const std::string& programFolder, StepReport& report) {

@@ -68,6 +68,7 @@ void frmMain::listen() {
         edit.steps.size() == 1 && std::holds_alternative<SettingsStep>(edit.steps.front());
     if (!isOfSettings) outdatePreview();
   }));
+  connections_.push_back(editor.documentReplaced.connect([this] { numbers.clear(); }));
   showHistory();
 }
 

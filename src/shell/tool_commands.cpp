@@ -41,8 +41,8 @@ void frmMain::CreatePreviewFile() {
   state.WebPageName = "preview.html";
   state.altURL.clear();
   StepReport report;
-  nimbrel::CreatePreviewFile(ports.previews, state.programFolder, browser.BlackPreview, editor.forCompile(),
-                             report);
+  numbers = numbersByKey(nimbrel::CreatePreviewFile(ports.previews, state.programFolder, browser.BlackPreview,
+                                                    document, report));
   noteFailures(report.findings);
   browser.Show();
   browser.RefreshPreview();
@@ -92,7 +92,11 @@ void frmMain::mnuToolsCompileMenu() {
                                std::string(refusal->text)});
     report.isComplete = false;
   } else {
-    CompileMenu(ports.files, state.programFolder, editor.forCompile(), report);
+    // A copy, because the window goes on to read its document meanwhile.
+    const auto compile = [&, copy = document] {
+      numbers = numbersByKey(CompileMenu(ports.files, state.programFolder, copy, report));
+    };
+    ports.aside ? ports.aside(compile) : compile();
   }
   noteFailures(report.findings);
   if (!report.isComplete) ports.asker.MsgBox(notAllCompiled(report));

@@ -13,10 +13,12 @@ using testing::HasSubstr;
 class ScriptAssembly : public testing::Test {
  protected:
   std::string menuScript(ScriptMode mode, Document& document) {
-    return ScriptMaker(steps, "C:\\program").CreateMenuScript(mode, document, target, true);
+    return ScriptMaker(steps, "C:\\program")
+        .CreateMenuScript(mode, document, compiledMenu(document, false, files).main, target);
   }
   std::string submenusScript(Document& document) {
-    return ScriptMaker(steps, "C:\\program").CreateSubmenusScript(document, target);
+    return ScriptMaker(steps, "C:\\program")
+        .CreateSubmenusScript(document, compiledMenu(document, true, files).submenus, target);
   }
 
   MemoryFileSystem files;

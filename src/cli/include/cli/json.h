@@ -48,7 +48,8 @@ class Transcript {
   void state(const frmMain& window);
   void commands(const frmMain& window);
   void sheet(const PropertySheet& sheet);
-  void element(std::string_view key, const Element& element);
+  /// `compiled` has the numbers of the last compile.
+  void element(std::string_view key, const Element& element, const KeyedNumbers& compiled);
   void settings(const MemorySettings& settings);
 
  private:

@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "compiler/compiled_menu.h"
 #include "compiler/file_steps.h"
 #include "model/document.h"
 #include "text/message.h"
@@ -31,7 +32,9 @@ const Message* refusalOfCompile(const Document& document);
 const Message* refusalOfFolders(const CompileSettings& settings);
 
 /// Compiles the document to its `CompiledPath` and `CompiledName` and replaces existing files. Requires that
-/// none of the functions above refuses. A step that fails becomes a finding, and the compile continues.
-void CompileMenu(FileSystem& files, const std::string& programFolder, Document& document, StepReport& report);
+/// none of the functions above refuses. A step that fails becomes a finding, and the compile continues. Returns what was
+/// compiled.
+CompiledMenu CompileMenu(FileSystem& files, const std::string& programFolder, const Document& document,
+                         StepReport& report);
 
 }  // namespace nimbrel

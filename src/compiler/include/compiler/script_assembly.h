@@ -4,11 +4,10 @@
 #include <string>
 #include <string_view>
 
+#include "compiler/compiled_menu.h"
 #include "compiler/file_steps.h"
-#include "model/document.h"
 
-/// The whole text of a compiled menu, and the files that it needs. Making a script stores the numbers of pictures
-/// and styles in the elements.
+/// The whole text of a compiled menu in the classic form, and the files that it needs.
 namespace nimbrel {
 
 /// The image from whose address the script learns its own folder.
@@ -35,17 +34,17 @@ class ScriptMaker {
   ScriptMaker(FileSteps& steps, std::string programFolder)
       : steps_(steps), programFolder_(std::move(programFolder)) {}
 
-  /// Returns lines separated by CR LF, with none at the end. Without submenus it makes the main file of a
-  /// cross-frame menu.
-  std::string CreateMenuScript(ScriptMode mode, Document& document, const ScriptTarget& target,
-                               bool includeSubmenus);
+  /// Returns lines separated by CR LF, with none at the end. `compiled` is the main script of a compiled menu.
+  std::string CreateMenuScript(ScriptMode mode, const Document& document, const CompiledScript& compiled,
+                               const ScriptTarget& target);
 
-  /// Returns the cross-frame submenus file, with each submenu of the main menu's items as a separate menu; empty
-  /// if there is no submenu.
-  std::string CreateSubmenusScript(Document& document, const ScriptTarget& target);
+  /// Returns the cross-frame submenus file, with each group as a separate menu; empty if there is none.
+  std::string CreateSubmenusScript(const Document& document, const CompiledScript& compiled,
+                                   const ScriptTarget& target);
 
  private:
   std::string CreateScriptPrologue(const Document& document, const ScriptTarget& target) const;
+  void TakePictures(const CompiledScript& compiled, const ScriptTarget& target);
   void InstallLibraries(const ScriptTarget& target);
   void copyFromProgram(std::string_view name, std::string_view to);
   std::string overridden(std::string_view name, std::string_view line) const;

@@ -48,10 +48,6 @@ class Editor {
   /// Stores the target of a compile in the document. This is no edit, and undo leaves it.
   void setCompileTarget(std::string folder, std::string name);
 
-  /// The document, for a compile, which stores the numbers of pictures and styles in the elements. These are no part
-  /// of the document's value.
-  Document& forCompile() { return document_; }
-
   // What listeners are told. During a change the document is in the state before or after it, as the name says.
   Notifier<const RowChange&> rowsAboutToChange;
   Notifier<const RowChange&> rowsChanged;

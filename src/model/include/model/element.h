@@ -25,7 +25,7 @@ constexpr Kind kindOf(const Element& element) {
 /// A new element of a kind, or nullopt for `Kind::None`.
 std::optional<Element> newElement(Kind kind);
 
-/// Set every stored property to its default. Values calculated by a compile stay.
+/// Set every property to its default.
 void SetDefaultValues(MenuObj& element);
 void SetDefaultValues(SubmenuObj& element);
 void SetDefaultValues(ItemObj& element);
@@ -50,17 +50,14 @@ inline constexpr std::string_view noMoreImages = "nomoreimages";
 /// The path of the image in a slot, counted from 0 in table order.
 std::string_view getImage(const Element& element, int slot);
 
-/// Stores the number of a slot's image in the compiled menu. Does nothing for a slot out of range.
-void setImageNo(Element& element, int slot, float number);
-
-/// Calls `f(path, number)` for each image slot in order until it returns false. `number` is a reference to
-/// set.
+/// Calls `f(path, slot)` for each image slot in order until it returns false.
 template <class F>
-void eachImage(Element& element, F&& f) {
+void eachImage(const Element& element, F&& f) {
   std::visit(
-      [&f]<class E>(E& object) {
+      [&f]<class E>(const E& object) {
+        std::size_t slot = 0;
         for (const auto* row : imageRows<E>) {
-          if (!f(object.*std::get<SharedText E::*>(row->field), object.*row->imageNo)) return;
+          if (!f(object.*std::get<SharedText E::*>(row->field), slot++)) return;
         }
       },
       element);

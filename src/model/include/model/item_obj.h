@@ -73,21 +73,6 @@ struct ItemObj {
   SharedText TargetFrame;                ///< frame or window in which the address opens
   float HasSubmenu = 0;  ///< stored as a flag; whether there is a submenu follows from the tree alone
 
-  // Calculated by each compile; not stored, copied or compared. Numbers of styles in the compiled menu as
-  // text (empty: no style), and of images (from 1; 0: no image).
-  SharedText ItemStyleID1;
-  SharedText ItemStyleID2;
-  SharedText ItemStyleID3;
-  float ItemImage1No = 0;
-  float ItemImage2No = 0;
-  float ItemImage3No = 0;
-  float HasSubmenuImage1No = 0;
-  float HasSubmenuImage2No = 0;
-  float HasSubmenuImage3No = 0;
-  float BGImage1No = 0;
-  float BGImage2No = 0;
-  float BGImage3No = 0;
-
   /// The stored properties in file order.
   static constexpr std::span<const Property<ItemObj>> properties();
 
@@ -102,9 +87,9 @@ inline constexpr auto itemProperties = std::to_array<Property<ItemObj>>({
     {V110, "DisplayNameAsTitle1", &ItemObj::DisplayNameAsTitle1, 1, StyleOfClass},
     {V110, "DisplayNameAsTitle2", &ItemObj::DisplayNameAsTitle2, 1, StyleOfClass},
     {V110, "DisplayNameAsTitle3", &ItemObj::DisplayNameAsTitle3, 1, StyleOfClass},
-    {V110, "ItemImage1",          &ItemObj::ItemImage1,          notSet, FileForm::Escaped, NoStyle, &ItemObj::ItemImage1No},
-    {V110, "ItemImage2",          &ItemObj::ItemImage2,          notSet, FileForm::Escaped, NoStyle, &ItemObj::ItemImage2No},
-    {V110, "ItemImage3",          &ItemObj::ItemImage3,          notSet, FileForm::Escaped, NoStyle, &ItemObj::ItemImage3No},
+    {V110, "ItemImage1",          &ItemObj::ItemImage1,          notSet, FileForm::Escaped, NoStyle, Image::Yes},
+    {V110, "ItemImage2",          &ItemObj::ItemImage2,          notSet, FileForm::Escaped, NoStyle, Image::Yes},
+    {V110, "ItemImage3",          &ItemObj::ItemImage3,          notSet, FileForm::Escaped, NoStyle, Image::Yes},
     {V110, "ImageAlignment1",     &ItemObj::ImageAlignment1,     0, StyleOfClass},
     {V110, "ImageAlignment2",     &ItemObj::ImageAlignment2,     0, StyleOfClass},
     {V110, "ImageAlignment3",     &ItemObj::ImageAlignment3,     0, StyleOfClass},
@@ -134,9 +119,9 @@ inline constexpr auto itemProperties = std::to_array<Property<ItemObj>>({
     {V110, "FontColor1",          &ItemObj::FontColor1,          "#000000", FileForm::Raw, StyleOfClass},
     {V110, "FontColor2",          &ItemObj::FontColor2,          "#FFFFFF", FileForm::Raw, StyleOfClass},
     {V110, "FontColor3",          &ItemObj::FontColor3,          "#FFFFFF", FileForm::Raw, StyleOfClass},
-    {V110, "HasSubmenuImage1",    &ItemObj::HasSubmenuImage1,    notSet, FileForm::Escaped, StyleOfClass, &ItemObj::HasSubmenuImage1No},
-    {V110, "HasSubmenuImage2",    &ItemObj::HasSubmenuImage2,    notSet, FileForm::Escaped, StyleOfClass, &ItemObj::HasSubmenuImage2No},
-    {V110, "HasSubmenuImage3",    &ItemObj::HasSubmenuImage3,    notSet, FileForm::Escaped, StyleOfClass, &ItemObj::HasSubmenuImage3No},
+    {V110, "HasSubmenuImage1",    &ItemObj::HasSubmenuImage1,    notSet, FileForm::Escaped, StyleOfClass, Image::Yes},
+    {V110, "HasSubmenuImage2",    &ItemObj::HasSubmenuImage2,    notSet, FileForm::Escaped, StyleOfClass, Image::Yes},
+    {V110, "HasSubmenuImage3",    &ItemObj::HasSubmenuImage3,    notSet, FileForm::Escaped, StyleOfClass, Image::Yes},
     {V110, "BorderStyle1",        &ItemObj::BorderStyle1,        "none", FileForm::Raw, StyleOfClass},
     {V110, "BorderStyle2",        &ItemObj::BorderStyle2,        "none", FileForm::Raw, StyleOfClass},
     {V110, "BorderStyle3",        &ItemObj::BorderStyle3,        "none", FileForm::Raw, StyleOfClass},
@@ -149,9 +134,9 @@ inline constexpr auto itemProperties = std::to_array<Property<ItemObj>>({
     {V110, "BGColor1",            &ItemObj::BGColor1,            notSet, FileForm::Raw, StyleOfClass},
     {V110, "BGColor2",            &ItemObj::BGColor2,            "#000080", FileForm::Raw, StyleOfClass},
     {V110, "BGColor3",            &ItemObj::BGColor3,            "#408080", FileForm::Raw, StyleOfClass},
-    {V110, "BGImage1",            &ItemObj::BGImage1,            notSet, FileForm::Escaped, StyleOfClass, &ItemObj::BGImage1No},
-    {V110, "BGImage2",            &ItemObj::BGImage2,            notSet, FileForm::Escaped, StyleOfClass, &ItemObj::BGImage2No},
-    {V110, "BGImage3",            &ItemObj::BGImage3,            notSet, FileForm::Escaped, StyleOfClass, &ItemObj::BGImage3No},
+    {V110, "BGImage1",            &ItemObj::BGImage1,            notSet, FileForm::Escaped, StyleOfClass, Image::Yes},
+    {V110, "BGImage2",            &ItemObj::BGImage2,            notSet, FileForm::Escaped, StyleOfClass, Image::Yes},
+    {V110, "BGImage3",            &ItemObj::BGImage3,            notSet, FileForm::Escaped, StyleOfClass, Image::Yes},
     {V110, "StatusBarText",       &ItemObj::StatusBarText,       "", FileForm::Marked},
     {V200, "JavascriptCommand1",  &ItemObj::JavascriptCommand1,  notSet, FileForm::Escaped},
     {V200, "JavascriptCommand2",  &ItemObj::JavascriptCommand2,  notSet, FileForm::Escaped},

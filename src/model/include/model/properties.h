@@ -43,6 +43,9 @@ enum Style : unsigned {
   StyleOfMenu = 2,   ///< with `CopyStyleValuesFromMenuObject`
 };
 
+/// Whether a text is the path of an image.
+enum class Image : bool { No, Yes };
+
 /// The default of the one property that `SetDefaultValues` leaves unchanged.
 struct NoDefault {};
 
@@ -55,8 +58,8 @@ struct Property {
 
   // One constructor per type, so that a default of the wrong type does not compile.
   consteval Property(FileVersion v, std::string_view n, SharedText E::*f, std::string_view i, FileForm form_,
-                     unsigned s = NoStyle, float E::*number = nullptr)
-      : since(v), name(n), field(f), initial(i), form(form_), style(s), imageNo(number) {}
+                     unsigned s = NoStyle, Image image = Image::No)
+      : since(v), name(n), field(f), initial(i), form(form_), style(s), isImage(image == Image::Yes) {}
   consteval Property(FileVersion v, std::string_view n, std::uint8_t E::*f, int i, unsigned s = NoStyle)
       : since(v), name(n), field(f), initial(static_cast<float>(i)), form(FileForm::Number), style(s) {}
   consteval Property(FileVersion v, std::string_view n, std::uint8_t E::*f, NoDefault i)
@@ -65,16 +68,14 @@ struct Property {
                      FileForm form_ = FileForm::Number)
       : since(v), name(n), field(f), initial(static_cast<float>(i)), form(form_), style(s) {}
 
-  constexpr bool isImage() const { return imageNo != nullptr; }
-
   FileVersion since;  ///< the first version whose records have it
   std::string_view name;
   Field field;
   Initial initial;
   FileForm form;
   unsigned style;
-  /// For an image: the member for its number in the compiled menu. Images in table order are the image slots.
-  float E::*imageNo = nullptr;
+  /// Whether it is the path of an image. Images in table order are the image slots.
+  bool isImage = false;
 };
 
 /// Calls `f(property, member pointer)` for each stored property, in file order.
@@ -116,7 +117,7 @@ inline constexpr auto imageRows = [] {
   std::array<const Property<E>*, static_cast<std::size_t>(count)> rows{};
   std::size_t slot = 0;
   for (const auto& property : E::properties()) {
-    if (property.isImage()) rows[slot++] = &property;
+    if (property.isImage) rows[slot++] = &property;
   }
   return rows;
 }();

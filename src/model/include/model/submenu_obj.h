@@ -34,7 +34,7 @@ inline constexpr auto submenuProperties = std::to_array<Property<SubmenuObj>>({
     {V200, "UnfoldDirection",      &SubmenuObj::UnfoldDirection,      0, StyleOfClass},
     {V200, "SubmenuAlignment",     &SubmenuObj::SubmenuAlignment,     0, StyleOfClass},
     {V120, "SubmenuType",          &SubmenuObj::SubmenuType,          NoDefault{}},  // Quirk: its default goes to SubmenuName
-    {V110, "TitleImage",           &SubmenuObj::TitleImage,           notSet, FileForm::Escaped, NoStyle, &SubmenuObj::TitleImageNo},
+    {V110, "TitleImage",           &SubmenuObj::TitleImage,           notSet, FileForm::Escaped, NoStyle, Image::Yes},
     {V110, "TitleImageAlignment",  &SubmenuObj::TitleImageAlignment,  0, StyleOfClass | StyleOfMenu},
     {V110, "TitleTextAlignment",   &SubmenuObj::TitleTextAlignment,   1, StyleOfClass | StyleOfMenu},
     {V200, "TitleTooltip",         &SubmenuObj::TitleTooltip,         "", FileForm::Escaped},
@@ -51,7 +51,7 @@ inline constexpr auto submenuProperties = std::to_array<Property<SubmenuObj>>({
     {V110, "TitleBorderWidth",     &SubmenuObj::TitleBorderWidth,     2, StyleOfClass | StyleOfMenu},
     {V110, "TitleBorderColor",     &SubmenuObj::TitleBorderColor,     "#5B5B5B", FileForm::Raw, StyleOfClass | StyleOfMenu},
     {V110, "BGColor",              &SubmenuObj::BGColor,              "#C0C0C0", FileForm::Raw, StyleOfClass | StyleOfMenu},
-    {V110, "BGImage",              &SubmenuObj::BGImage,              notSet, FileForm::Escaped, StyleOfClass | StyleOfMenu, &SubmenuObj::BGImageNo},
+    {V110, "BGImage",              &SubmenuObj::BGImage,              notSet, FileForm::Escaped, StyleOfClass | StyleOfMenu, Image::Yes},
     {V110, "BorderStyle",          &SubmenuObj::BorderStyle,          "outset", FileForm::Raw, StyleOfClass | StyleOfMenu},
     {V110, "BorderWidth",          &SubmenuObj::BorderWidth,          2, StyleOfClass | StyleOfMenu},
     {V110, "BorderColor",          &SubmenuObj::BorderColor,          "#C0C0C0", FileForm::Raw, StyleOfClass | StyleOfMenu},

@@ -34,13 +34,6 @@ struct TitledContainer {
   std::uint8_t UniformItemHeights = 0;   ///< all items get one height
   SharedText JavascriptOnOpen;           ///< script run when the element opens
   SharedText JavascriptOnClose;          ///< script run when the element closes
-
-  // Calculated by each compile; not stored, copied or compared. Numbers of styles in the compiled menu as
-  // text (empty: no style), and of images (from 1; 0: no image).
-  SharedText ContainerStyleID;
-  SharedText TitleStyleID;
-  float TitleImageNo = 0;
-  float BGImageNo = 0;
 };
 
 }  // namespace nimbrel

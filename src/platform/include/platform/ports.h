@@ -62,6 +62,9 @@ struct Ports {
   std::vector<std::string> fonts;  ///< installed font families
   std::function<double()> random;  ///< returns a number from 0 to below 1
   std::string stateFolder{};       ///< for the recovery of unsaved changes; empty: there is none
+  /// Does long work beside the thread of the windows, which stay alive but take no input, and returns when it is done.
+  /// Throws what the work throws. Empty: the work is done where it is asked for.
+  std::function<void(const std::function<void()>&)> aside{};
 };
 
 }  // namespace nimbrel

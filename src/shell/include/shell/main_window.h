@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "compiler/compiled_menu.h"
 #include "editing/editor.h"
 #include "editing/find.h"
 #include "forms/browser_form.h"
@@ -114,6 +115,7 @@ class frmMain {
   std::string title;
   Geometry geometry;
   bool isMinimised = false;
+  KeyedNumbers numbers;     ///< of the last compile or preview of this document
   bool isFinding = false;   ///< the author wants to type what to find; the view resets it
   bool isRenaming = false;  ///< the author wants to rename the selected node in the tree; the view resets it
 
