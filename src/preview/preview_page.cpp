@@ -96,8 +96,8 @@ CompiledMenu makeFiles(FileSteps& steps, const std::string& programFolder, bool 
   }
   auto compiled = compiledMenu(document, false, steps.files());
   const ScriptTarget target{folder, dataFolder, dataFolder, "preview"};
-  const auto script =
-      ScriptMaker(steps, programFolder).CreateMenuScript(ScriptMode::Preview, document, compiled.main, target);
+  const auto script = ScriptMaker(steps, programFolder)
+                          .CreateMenuScript(ScriptMode::Preview, document, compiled.main, target);
   steps.generate(folder + "\\preview.js", script + "\r\n");
   return compiled;
 }
