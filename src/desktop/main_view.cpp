@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMenu>
-#include <QScreen>
 #include <QStatusBar>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -17,7 +16,7 @@
 #include "desktop/run_action.h"
 #include "desktop/sheet/entry_edit.h"
 #include "desktop/system_clipboard.h"
-#include "desktop/twips.h"
+#include "desktop/window_place.h"
 #include "shell/command_table.h"
 #include "shell/keys.h"
 
@@ -29,7 +28,7 @@ MainView::MainView(frmMain& main)
       menuSheet_(main.prctlMenu, icons()),
       submenuSheet_(main.prctlSubmenu, icons()),
       itemSheet_(main.prctlItem, icons()),
-      area_(new MainArea(treePane_, {&menuSheet_, &submenuSheet_, &itemSheet_}, this)),
+      area_(new MainArea(treePane_, std::array<QWidget*, 3>{&menuSheet_, &submenuSheet_, &itemSheet_}, this)),
       commands_(*this),
       preview_(main.browser),
       liveExamples_(main.liveExamples) {
@@ -37,9 +36,8 @@ MainView::MainView(frmMain& main)
   tree_.setObjectName("tvTreeView");
   statusBar()->setObjectName("sbStatusBar");
   setCentralWidget(area_);
-  setMinimumWidth(toPixels(smallestFormWidth));
+  setMinimumWidth(smallestWindowWidth());
   for (auto* window : {&preview_, &liveExamples_}) window->setWindowFlags(Qt::Window);
-  for (auto* view : {&menuSheet_, &submenuSheet_, &itemSheet_}) view->hide();
   drawIcons();
   connectAll();
   connections_.push_back(main.editor.documentReplaced.connect([this] {
@@ -128,23 +126,8 @@ void MainView::openHelp(int topic) {
   nimbrel::runAction([&] { main_.ports.help.openTopic(topic); });
 }
 
-/// The last geometry of the window, moved and shrunk to fit if that screen is gone or has become smaller.
-QRect MainView::placeOnScreen() const {
-  constexpr int title = 30;  // pixels, the title bar above the geometry
-  const auto& place = main_.geometry;
-  const QRect wanted(toPixels(place.left), toPixels(place.top), toPixels(place.width),
-                     toPixels(place.height));
-  const auto* screen = QGuiApplication::screenAt(wanted.center());
-  if (screen == nullptr) screen = QGuiApplication::primaryScreen();
-  const auto room = screen->availableGeometry().adjusted(0, title, 0, 0);
-  QRect fitting(QPoint(), wanted.size().boundedTo(room.size()));
-  fitting.moveLeft(std::clamp(wanted.left(), room.left(), room.right() + 1 - fitting.width()));
-  fitting.moveTop(std::clamp(wanted.top(), room.top(), room.bottom() + 1 - fitting.height()));
-  return fitting;
-}
-
 void MainView::start(const std::string& commandLine) {
-  setGeometry(placeOnScreen());
+  setGeometry(placeOnScreen(main_.geometry));
   show();
   isStarted_ = isStarting_ = true;
   const auto showDocument = [this] {
@@ -214,23 +197,12 @@ void MainView::refresh() {
 }
 
 void MainView::showSheets() {
-  const auto* visible = main_.visibleSheet();
-  const std::array views{&menuSheet_, &submenuSheet_, &itemSheet_};
-  const auto shows = [visible](const SheetView* view) { return &view->sheet() == visible; };
-  const auto* focused = focusWidget();
-  for (auto* view : views) {
-    if (!shows(view)) continue;
+  const auto* wanted = main_.visibleSheet();
+  for (auto* view : {&menuSheet_, &submenuSheet_, &itemSheet_}) {
+    const bool isShown = &view->sheet() == wanted;
+    if (!isShown && view->isHidden()) continue;
     view->refresh();
-    view->show();
-    // Otherwise the focus would move to the next widget when the other sheet is hidden.
-    const bool isTaken = std::ranges::any_of(
-        views, [&](auto* other) { return other != view && other->isAncestorOf(focused); });
-    if (isTaken) view->setFocus(Qt::OtherFocusReason);
-  }
-  for (auto* view : views) {
-    if (shows(view) || view->isHidden()) continue;
-    view->refresh();
-    view->hide();
+    if (isShown) area_->showSheet(*view);
   }
 }
 
@@ -239,25 +211,13 @@ void MainView::refreshSideWindow(FormWindow& window) {
   auto& shows = lastShows_[&window];
   if (!window.form().isOpen || shows == window.form().shows) return;
   if (shows == 0) {
-    const auto centre = screen()->availableGeometry().center() - QRect(QPoint(), window.size()).center();
-    window.move(&window == &preview_ ? centre : placeBeside(window.size()));
+    const auto place = &window == &preview_ ? placeInTheMiddle : placeBeside;
+    window.move(place(*this, window.size()));
   }
   shows = window.form().shows;
   window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
   window.show();
   window.raise();
-}
-
-/// To the right of this window if the screen has room, else to the left, so that neither hides the other.
-QPoint MainView::placeBeside(const QSize& size) const {
-  constexpr int frame = 16;  // pixels, roughly the window manager's frame
-  const auto available = screen()->availableGeometry();
-  const auto whole = frameGeometry();
-  const int right = whole.right() + 1;
-  const int rightmost = available.right() + 1 - size.width() - frame;
-  const bool fitsOnTheLeft = whole.left() - size.width() - frame >= available.left();
-  const int left = right > rightmost && fitsOnTheLeft ? whole.left() - size.width() - frame : right;
-  return {std::clamp(left, available.left(), std::max(rightmost, available.left())), whole.top()};
 }
 
 void MainView::setModalOpen(bool isOpen) {
@@ -288,9 +248,7 @@ void MainView::recordGeometry() {
   if (!isStarted_) return;
   main_.isMinimised = isMinimized();
   if (main_.isMinimised) return;
-  const auto place = isMaximized() ? normalGeometry() : geometry();
-  main_.geometry = {static_cast<float>(toTwips(place.x())), static_cast<float>(toTwips(place.y())),
-                    static_cast<float>(toTwips(place.width())), static_cast<float>(toTwips(place.height()))};
+  main_.geometry = storedPlace(isMaximized() ? normalGeometry() : geometry());
 }
 
 void MainView::resizeEvent(QResizeEvent* event) {

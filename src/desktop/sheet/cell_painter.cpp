@@ -5,13 +5,13 @@
 #include <QPainter>
 #include <QToolTip>
 
+#include "desktop/sheet/open_cell_editor.h"
 #include "desktop/sheet/swatch.h"
 
 namespace nimbrel {
 namespace {
 
-constexpr int rightMargin = 3;  // pixels after a text
-constexpr int textTop = 3;      // pixels, the same as in the entry
+constexpr int endMargin = 3;    // pixels after a text
 constexpr int maxLength = 500;  // characters, more than any cell shows
 
 constexpr QRgb groupCaption = 0xFF808080;
@@ -43,10 +43,21 @@ struct CellPainter::Colours {
 CellPainter::CellPainter(const SheetModel& model, QObject* parent)
     : QStyledItemDelegate(parent), model_(model) {}
 
-QFont CellPainter::captionFont(const PropertyRow& row, QFont font) {
-  font.setBold(row.Kind() == KindGroup);
-  font.setUnderline(row.Kind() == KindGroup);
+QFont CellPainter::fontOf(const QStyleOptionViewItem& option, const QModelIndex& index) const {
+  auto font = option.font;
+  const bool isHeading =
+      index.column() == column::Caption && model_.sheet().row(index.row()).Kind() == KindGroup;
+  font.setUnderline(isHeading);
+  font.setBold(isHeading || model_.isChanged(index.row(), index.column()));
   return font;
+}
+
+QSize CellPainter::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
+  const QFontMetrics metrics(fontOf(option, index));
+  constexpr int air = 8;  // pixels above and below the text, together
+  const int beside = OpenCellEditor::inset + endMargin + (isColour(index) ? metrics.height() + air : 0);
+  return {metrics.horizontalAdvance(index.data().toString().left(maxLength)) + beside,
+          metrics.height() + air};
 }
 
 CellPainter::Colours CellPainter::coloursOf(const QStyleOptionViewItem& option,
@@ -75,8 +86,10 @@ bool CellPainter::isColour(const QModelIndex& index) const {
          index.column() != column::Replicate && row.takes(index.column());
 }
 
-QRect CellPainter::textPlace(const QRect& cell, const QModelIndex& index) const {
-  return cell.adjusted(inset + (isColour(index) ? cell.height() : 0), textTop, -rightMargin, 0);
+QRect CellPainter::textPlace(const QStyleOptionViewItem& option, const QModelIndex& index) const {
+  const auto& cell = option.rect;
+  const int start = OpenCellEditor::inset + (isColour(index) ? cell.height() : 0);
+  return QStyle::visualRect(option.direction, cell, cell.adjusted(start, 0, -endMargin, 0));
 }
 
 void CellPainter::paint(QPainter* painter, const QStyleOptionViewItem& option,
@@ -86,7 +99,8 @@ void CellPainter::paint(QPainter* painter, const QStyleOptionViewItem& option,
   painter->save();
   painter->fillRect(cell, colours.background);
   if (isColour(index)) {
-    const QRect square(cell.topLeft(), QSize(cell.height(), cell.height()));
+    const auto square =
+        QStyle::visualRect(option.direction, cell, {cell.topLeft(), QSize(cell.height(), cell.height())});
     paintSwatch(*painter, square, model_.sheet().swatch(index.row(), index.column()),
                 isDark(option.palette) ? option.palette.color(QPalette::Text) : Qt::black);
   }
@@ -98,13 +112,12 @@ void CellPainter::paintText(QPainter& painter, const QStyleOptionViewItem& optio
                             const QColor& ink) const {
   const auto text = index.data().toString().left(maxLength).replace('\n', ' ');
   if (text.isEmpty()) return;
-  const bool isCaption = index.column() == column::Caption;
-  auto font = isCaption ? captionFont(model_.sheet().row(index.row()), option.font) : option.font;
-  if (model_.isChanged(index.row(), index.column())) font.setBold(true);
+  const auto font = fontOf(option, index);
   if (font != painter.font()) painter.setFont(font);
   painter.setPen(ink);
-  const auto place = textPlace(option.rect, index);
-  painter.drawText(place, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
+  const auto place = textPlace(option, index);
+  const auto start = QStyle::visualAlignment(option.direction, Qt::AlignLeft);
+  painter.drawText(place, static_cast<int>(Qt::AlignVCenter | start) | Qt::TextSingleLine,
                    painter.fontMetrics().elidedText(text, Qt::ElideRight, place.width()));
 }
 
@@ -112,7 +125,7 @@ bool CellPainter::helpEvent(QHelpEvent* event, QAbstractItemView* view, const QS
                             const QModelIndex& index) {
   if (event->type() != QEvent::ToolTip || !index.isValid()) return false;
   const auto text = index.data().toString().left(maxLength).trimmed();
-  const bool isCut = option.fontMetrics.horizontalAdvance(text) > textPlace(option.rect, index).width();
+  const bool isCut = option.fontMetrics.horizontalAdvance(text) > textPlace(option, index).width();
   // Item names may contain tags.
   QToolTip::showText(event->globalPos(), isCut ? "<p>" + text.toHtmlEscaped() + "</p>" : QString(), view);
   return true;

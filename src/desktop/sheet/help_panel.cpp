@@ -1,18 +1,19 @@
 #include "desktop/sheet/help_panel.h"
 
 #include <QAccessibleWidget>
+#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QStyleOptionFocusRect>
 #include <QStylePainter>
-#include <algorithm>
 
 #include "desktop/display_text.h"
-#include "desktop/twips.h"
 
 namespace nimbrel {
 namespace {
 
-constexpr int labelLeft = 4;  // pixels, so that texts do not touch the edge of the window
+constexpr int margin = 4;    // pixels, so that texts do not touch the edge of the window
+constexpr int linkGap = 13;  // pixels beside a link
+constexpr int lowest = 16;   // pixels
 
 /// The default blue is unreadable on a dark background.
 QColor linkColour(const QPalette& palette) {
@@ -103,9 +104,34 @@ HelpPanel::HelpPanel(PropertySheet& sheet, ActionRunner run, QWidget* parent)
   caption_.setFont(bold);
   text_.setWordWrap(true);
   text_.setAlignment(Qt::AlignTop | Qt::AlignLeft);
+  setMinimumSize(1, lowest);
   prepareLink(moreHelp_, sheet.lblMoreHelpLink);
   prepareLink(example_, sheet.lblExamplesLink);
   example_.setToolTip("Click here for a live demonstration of the selected property");
+  layOut();
+}
+
+/// The links are on the same line as the caption. The panel may cut off the text.
+void HelpPanel::layOut() {
+  caption_.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+  text_.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+  auto* line = new QHBoxLayout;
+  line->setSpacing(linkGap);
+  line->addWidget(&caption_, 1);
+  line->addWidget(&moreHelp_);
+  line->addWidget(&example_);
+  line->addSpacing(linkGap - margin);
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(margin, 0, margin, 0);
+  column->setSpacing(0);
+  column->addLayout(line);
+  column->addWidget(&text_, 1);
+}
+
+QSize HelpPanel::sizeHint() const {
+  constexpr int lines = 4;
+  constexpr int spacing = 2;  // pixels
+  return {QWidget::sizeHint().width(), lines * (fontMetrics().height() + spacing)};
 }
 
 void HelpPanel::prepareLink(LinkLabel& link, Control& control) {
@@ -123,34 +149,10 @@ void HelpPanel::refresh() {
   setTextOf(caption_, toDisplay(sheet_.HelpLabel1.text));
   const auto text = toDisplay(sheet_.HelpLabel2.text);
   setTextOf(text_, text);
-  // The panel may cut off the text.
   const auto toolTip = text.isEmpty() ? text : "<p>" + text.toHtmlEscaped() + "</p>";
   if (text_.toolTip() != toolTip) text_.setToolTip(toolTip);
   showLink(moreHelp_, sheet_.lblMoreHelpLink);
   showLink(example_, sheet_.lblExamplesLink);
-  placeCaption();
-}
-
-void HelpPanel::layOut(const SheetLayout& layout) {
-  setGeometry(toPixels(layout.HelpPanel));
-  const int line = toPixels(layout.HelpLabel1.height);
-  caption_.setGeometry(labelLeft, 0, toPixels(layout.HelpLabel1.width), line);
-  text_.setGeometry(labelLeft, line, toPixels(layout.HelpLabel2.width), toPixels(layout.HelpLabel2.height));
-  const auto endAt = [line](QLabel& link, int right) {
-    const int width = link.sizeHint().width();
-    link.setGeometry(right - width, 0, width, line);
-    link.raise();
-  };
-  endAt(example_, toPixels(layout.lblExamplesLinkRight));
-  endAt(moreHelp_, toPixels(layout.lblMoreHelpLinkRight));
-  placeCaption();
-}
-
-/// The links are on the same line as the caption, which ends before them.
-void HelpPanel::placeCaption() {
-  constexpr int gap = 8;
-  const int end = moreHelp_.isHidden() ? width() : moreHelp_.x() - gap;
-  caption_.resize(std::max(end - caption_.x(), 0), caption_.height());
 }
 
 bool HelpPanel::focusLinks() {

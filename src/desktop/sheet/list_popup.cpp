@@ -11,7 +11,8 @@
 namespace nimbrel {
 namespace {
 
-constexpr int spacing = 2;  // pixels between entries, the same as in the sheet's geometry
+constexpr int spacing = 2;   // pixels between entries
+constexpr int mostRows = 8;  // more entries scroll
 
 }  // namespace
 
@@ -33,17 +34,18 @@ ListPopup::ListPopup(QWidget* parent) : QFrame(parent, Qt::Popup) {
           [this](const QModelIndex& index) { emit chosen(index.row()); });
 }
 
+int ListPopup::entryHeight() const { return list_.fontMetrics().height() + spacing; }
+
 void ListPopup::fill(const std::vector<std::string>& texts) {
   if (texts_ == texts) return;
   texts_ = texts;
   list_.clear();
   widest_ = 0;
   constexpr int margin = 8;  // pixels, both sides together
-  const int height = list_.fontMetrics().height() + spacing;
   for (const auto& text : texts) {
     auto* item = new QListWidgetItem(toDisplay(text), &list_);
     widest_ = std::max(widest_, list_.fontMetrics().horizontalAdvance(item->text()) + margin);
-    item->setSizeHint(QSize(1, height));
+    item->setSizeHint(QSize(1, entryHeight()));
   }
 }
 
@@ -57,13 +59,16 @@ int ListPopup::search(const QString& typed) {
   return list_.currentRow();
 }
 
-void ListPopup::open(const QRect& inner, const QRect& opener) {
-  opener_ = opener;
+void ListPopup::open(const QRect& cell) {
+  cell_ = cell;
   const int frame = 2 * frameWidth();
   const int bar = list_.verticalScrollBar()->sizeHint().width();
-  QRect place(inner.topLeft(), QSize(std::max(inner.width(), widest_ + bar + frame), inner.height() + frame));
   const auto available = parentWidget()->screen()->availableGeometry();
-  place.setSize(place.size().boundedTo(available.size()));
+  const QSize wanted(std::max(cell.width(), widest_ + bar + frame),
+                     std::min(list_.count(), mostRows) * entryHeight() + frame);
+  QRect place(cell.bottomLeft() + QPoint(0, 1), wanted.boundedTo(available.size()));
+  if (isRightToLeft()) place.moveRight(cell.right());
+  if (place.bottom() > available.bottom()) place.moveBottom(cell.top() - 1);
   place.moveLeft(std::clamp(place.left(), available.left(), available.right() + 1 - place.width()));
   place.moveTop(std::clamp(place.top(), available.top(), available.bottom() + 1 - place.height()));
   setGeometry(place);
@@ -74,7 +79,7 @@ void ListPopup::open(const QRect& inner, const QRect& opener) {
 
 /// Only clicks outside of the list arrive here.
 void ListPopup::mousePressEvent(QMouseEvent* event) {
-  if (opener_.contains(event->globalPosition().toPoint())) setAttribute(Qt::WA_NoMouseReplay);
+  if (cell_.contains(event->globalPosition().toPoint())) setAttribute(Qt::WA_NoMouseReplay);
   QFrame::mousePressEvent(event);
 }
 

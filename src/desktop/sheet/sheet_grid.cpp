@@ -17,12 +17,10 @@ bool isModifier(int key) {
 
 }  // namespace
 
-SheetGrid::SheetGrid(SheetModel& model, QWidget* parent)
-    : QTableView(parent), sheetModel_(model), painter_(model) {
+SheetGrid::SheetGrid(SheetModel& model, QWidget* parent) : QTableView(parent), sheetModel_(model) {
   setObjectName("Grid");
   setHorizontalHeader(new StateHeader(model.sheet(), this));
   setModel(&model);
-  setItemDelegate(&painter_);
   setAccessibleName(toDisplay(model.sheet().table().title));
   horizontalHeader()->setVisible(model.sheet().table().hasStates);
   verticalHeader()->hide();
@@ -34,11 +32,52 @@ SheetGrid::SheetGrid(SheetModel& model, QWidget* parent)
   setTabKeyNavigation(false);  // while no cell is open, Tab leaves the table
   setCornerButtonEnabled(false);
   setWordWrap(false);
+  setColumns();
 }
 
-void SheetGrid::setRowHeight(int pixels) {
-  verticalHeader()->setMinimumSectionSize(pixels);
-  verticalHeader()->setDefaultSectionSize(pixels);
+void SheetGrid::setDelegate(CellDelegate& delegate) {
+  setItemDelegate(&delegate);
+  measure();
+}
+
+void SheetGrid::setColumns() {
+  auto& header = *horizontalHeader();
+  header.setSectionResizeMode(QHeaderView::Fixed);
+  for (const int value : valueColumns) {
+    if (value < model()->columnCount()) header.setSectionResizeMode(value, QHeaderView::Stretch);
+  }
+}
+
+/// Rows and the column of the small buttons follow the font.
+void SheetGrid::measure() {
+  const int height = sizeHintForRow(0);
+  verticalHeader()->setMinimumSectionSize(height);
+  verticalHeader()->setDefaultSectionSize(height);
+  if (model()->columnCount() > column::Replicate) setColumnWidth(column::Replicate, height);
+  widestCaption_ = sizeHintForColumn(column::Caption);
+  fitCaptions();
+}
+
+/// Captions get as much as they need, but no more than the other columns.
+void SheetGrid::fitCaptions() {
+  const bool hasStates = sheetModel_.sheet().table().hasStates;
+  const int room = viewport()->width() - (hasStates ? columnWidth(column::Replicate) : 0);
+  const int columns = hasStates ? 1 + static_cast<int>(valueColumns.size()) : 2;
+  setColumnWidth(column::Caption, std::min(room / columns, widestCaption_));
+}
+
+void SheetGrid::openEditors(CellPlace place) {
+  openPersistentEditor(model()->index(place.row, place.column));
+  if (sheetModel_.sheet().btnReplicate.visible) {
+    openPersistentEditor(model()->index(place.row, column::Replicate));
+  }
+}
+
+/// The table keeps the focus: otherwise it would move to the next widget when the editor is hidden.
+void SheetGrid::closeEditors(CellPlace place) {
+  if (viewport()->isAncestorOf(window()->focusWidget())) setFocus(Qt::OtherFocusReason);
+  closePersistentEditor(model()->index(place.row, place.column));
+  closePersistentEditor(model()->index(place.row, column::Replicate));
 }
 
 CellPlace SheetGrid::current() const { return {currentIndex().row(), currentIndex().column()}; }
@@ -119,7 +158,12 @@ void SheetGrid::focusInEvent(QFocusEvent* event) {
 
 void SheetGrid::resizeEvent(QResizeEvent* event) {
   QTableView::resizeEvent(event);
-  emit resized();
+  fitCaptions();
+}
+
+void SheetGrid::changeEvent(QEvent* event) {
+  QTableView::changeEvent(event);
+  if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) measure();
 }
 
 void SheetGrid::scrollContentsBy(int dx, int dy) {

@@ -2,36 +2,57 @@
 
 #include <QCoreApplication>
 #include <QKeyEvent>
-#include <QScrollBar>
-#include <algorithm>
+#include <QVBoxLayout>
 
 #include "desktop/display_text.h"
-#include "desktop/twips.h"
 
 namespace nimbrel {
+namespace {
+
+// Pixels.
+constexpr int smallestSheet = 33;  // in either direction
+constexpr int lowestGrid = 16;
+constexpr int barMargin = 20;
+
+}  // namespace
+
 SheetView::SheetView(PropertySheet& sheet, IconSource icons, QWidget* parent)
     : QWidget(parent),
       sheet_(sheet),
       model_(sheet),
       title_(this),
+      splitter_(Qt::Vertical, barMargin, this),
       grid_(model_, this),
-      splitter_(this),
       help_(
           sheet, [this](const Action& action) { runAction(action); }, this),
-      editors_(sheet, *grid_.viewport(), std::move(icons),
-               [this](const Action& action) { runAction(action); }) {
+      editor_(
+          sheet, std::move(icons), [this](const Action& action) { runAction(action); }, grid_.viewport()),
+      delegate_(model_, editor_) {
   setObjectName(toDisplay(sheet.name));
   title_.setObjectName(toDisplay(sheet.lblTitle.name));
   title_.setTextFormat(Qt::PlainText);
   title_.setText(toDisplay(sheet.lblTitle.text));
   title_.setMargin(3);
   title_.setBuddy(&grid_);
+  grid_.setDelegate(delegate_);
   setFocusProxy(&grid_);
-  setMinimumSize(toPixels(smallestSheet), toPixels(smallestSheet));
-  measure();
+  layOut();
   connectAll();
   refresh();
   grid_.goTo(cellAfter(sheet, {-1, column::Normal}, Step::Below).value_or(lastCell()));
+}
+
+/// The help keeps its height when the sheet is resized.
+void SheetView::layOut() {
+  setMinimumSize(smallestSheet, smallestSheet);
+  grid_.setMinimumSize(1, lowestGrid);
+  splitter_.setPanes(grid_, help_, "Splitter between properties and help");
+  splitter_.setStretchFactor(0, 1);
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins({});
+  column->setSpacing(0);
+  column->addWidget(&title_);
+  column->addWidget(&splitter_, 1);
 }
 
 void SheetView::connectAll() {
@@ -46,14 +67,9 @@ void SheetView::connectAll() {
   });
   connect(grid_.selectionModel(), &QItemSelectionModel::currentChanged, this,
           [this](const QModelIndex& current) { sheet_.SetCursor(current.row(), current.column()); });
-  connect(&grid_, &SheetGrid::resized, this, &SheetView::setColumns);
-  connect(&editors_.entry(), &EntryEdit::commandRequested, this, &SheetView::command);
-  connect(&editors_.list(), &ListPopup::helpRequested, this, &SheetView::help);
-  connect(&splitter_, &HelpSplitter::dragStarted, this, &SheetView::leaveCell);
-  connect(&splitter_, &HelpSplitter::moved, this, [this](int top) {
-    helpHeight_ = HelpHeight(toTwips(height()), top);
-    layOut();
-  });
+  connect(&editor_.entry(), &EntryEdit::commandRequested, this, &SheetView::command);
+  connect(&editor_.list(), &ListPopup::helpRequested, this, &SheetView::help);
+  connect(&splitter_, &PaneSplitter::dragStarted, this, &SheetView::leaveCell);
 }
 
 void SheetView::runAction(const Action& action) {
@@ -66,7 +82,7 @@ void SheetView::runAction(const Action& action) {
 }
 
 void SheetView::refresh() {
-  auto& entry = editors_.entry();
+  auto& entry = editor_.entry();
   if (!sheet_.Editing() && !isRunning_ && entry.hasFocus()) caret_ = entry.cursorPosition();
   model_.sync();
   if (std::exchange(fillings_, sheet_.fillings()) != sheet_.fillings() && !sheet_.Editing()) {
@@ -79,17 +95,23 @@ void SheetView::refresh() {
   if (!sheet_.Editing() && help_.isAncestorOf(window()->focusWidget())) grid_.setFocus(Qt::OtherFocusReason);
   help_.refresh();
   followOpenCell();
-  if (sheet_.Editing()) placeEditors();
-  editors_.refresh(model_.nameOf(sheet_.cursorRow(), sheet_.cursorColumn()), listPlace());
+  // Otherwise hiding the entry would move the focus to the next widget.
+  if (!sheet_.txtEntry.visible && editor_.entry().hasFocus()) grid_.setFocus(Qt::OtherFocusReason);
+  editor_.refresh(model_.nameOf(sheet_.cursorRow(), sheet_.cursorColumn()));
 }
 
 /// An action may open another cell: replicating moves to the first state.
 void SheetView::followOpenCell() {
   const auto open = openCell();
   const auto before = std::exchange(lastOpenCell_, open);
-  if (!open || open == before) return;
-  editors_.begin();
+  if (open == before) return;
+  const bool isTyping = editor_.entry().hasFocus();
+  if (before) grid_.closeEditors(*before);
+  if (!open) return;
+  editor_.begin();
   if (grid_.current() != *open) grid_.goTo(*open);
+  grid_.openEditors(*open);
+  if (isTyping) editor_.entry().setFocus(Qt::OtherFocusReason);
   if (before && before->row == open->row) column_ = open->column;
 }
 
@@ -106,7 +128,7 @@ void SheetView::open(CellPlace place) {
     sheet_.LeaveCell();
     sheet_.EnterCell(place.row, place.column);
   });
-  if (sheet_.Editing()) editors_.focusEntry();
+  if (sheet_.Editing()) editor_.focusEntry();
 }
 
 void SheetView::press(int row, int col) {
@@ -114,7 +136,7 @@ void SheetView::press(int row, int col) {
   if (row < 0 || col < 0) {
     leaveCell();
   } else if (model_.isOpen(row, col)) {
-    editors_.focusEntry();
+    editor_.focusEntry();
   } else {
     open({row, col});
     column_ = sheet_.cursorColumn();
@@ -130,10 +152,10 @@ void SheetView::command(EntryCommand command) {
     case EntryCommand::PageDown: go(Step::Below, grid_.visibleRows()); break;
     case EntryCommand::PageUp: go(Step::Above, grid_.visibleRows()); break;
     case EntryCommand::TakeBack: runAction([this] { sheet_.TakeBack(); }); break;
-    case EntryCommand::PressButton: editors_.pressButton(); break;
+    case EntryCommand::PressButton: editor_.pressButton(); break;
     case EntryCommand::Replicate:
       runAction([this] { sheet_.click(sheet_.btnReplicate); });
-      editors_.focusEntry();
+      editor_.focusEntry();
       break;
     case EntryCommand::GoToLinks: help_.focusLinks(); break;
   }
@@ -168,12 +190,12 @@ void SheetView::leaveTable(bool forward) {
 void SheetView::continueTyping() {
   if (sheet_.Editing()) {
     grid_.goTo(lastCell());
-    editors_.entry().setFocus(Qt::OtherFocusReason);
+    editor_.entry().setFocus(Qt::OtherFocusReason);
   } else {
     const auto caret = std::exchange(caret_, std::nullopt);
     open(grid_.current());
     column_ = sheet_.cursorColumn();
-    if (caret) editors_.entry().setCursorPosition(*caret);
+    if (caret) editor_.entry().setCursorPosition(*caret);
   }
 }
 
@@ -182,13 +204,13 @@ void SheetView::cellKeyPressed(QKeyEvent* event) {
   continueTyping();
   const int key = event->key();
   const bool onlyOpens = key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_F2;
-  auto& entry = editors_.entry();
+  auto& entry = editor_.entry();
   if (entry.hasFocus() && (wasOpen || !onlyOpens)) QCoreApplication::sendEvent(&entry, event);
 }
 
 void SheetView::compose(QInputMethodEvent* event) {
   continueTyping();
-  auto& entry = editors_.entry();
+  auto& entry = editor_.entry();
   if (entry.hasFocus()) QCoreApplication::sendEvent(&entry, event);
 }
 
@@ -197,7 +219,7 @@ void SheetView::scrolled() {
   const bool isTyping = grid_.hasFocus();
   nimbrel::runAction([this] { sheet_.Grid_Scroll(grid_.isCellVisible(lastCell())); },
                      {[this] { refresh(); }});
-  if (isTyping && sheet_.txtEntry.visible) editors_.entry().setFocus(Qt::OtherFocusReason);
+  if (isTyping && sheet_.txtEntry.visible) editor_.entry().setFocus(Qt::OtherFocusReason);
 }
 
 void SheetView::help() {
@@ -209,7 +231,7 @@ void SheetView::keyPressEvent(QKeyEvent* event) {
   if (key == Qt::Key_F1 && sheet_.HelpContextID() != 0) {
     help();
   } else if ((key == Qt::Key_F6 || key == Qt::Key_Escape) && sheet_.Editing()) {
-    editors_.focusEntry();  // back from the links
+    editor_.focusEntry();  // back from the links
   } else {
     QWidget::keyPressEvent(event);
   }
@@ -219,99 +241,11 @@ void SheetView::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
   // A chooser is about to set the text of the open cell.
   if (!isRunning_) {
-    const auto& entry = editors_.entry();
+    const auto& entry = editor_.entry();
     const auto caret = entry.hasFocus() ? std::optional(entry.cursorPosition()) : std::nullopt;
     leaveCell();
     caret_ = caret;
   }
-  layOut();
-  if (sheet_.Editing()) placeEditors();
-}
-
-void SheetView::changeEvent(QEvent* event) {
-  QWidget::changeEvent(event);
-  switch (event->type()) {
-    case QEvent::FontChange:
-    case QEvent::StyleChange:
-    case QEvent::PaletteChange:
-      editors_.forgetIcons();
-      measure();
-      layOut();
-      if (sheet_.Editing()) placeEditors();
-      break;
-    default: break;
-  }
-}
-
-void SheetView::measure() {
-  constexpr int air = 8;  // pixels above and below a line of text in a cell, together
-  const int rowHeight = fontMetrics().height() + air;
-  grid_.setRowHeight(rowHeight);
-  int widest = 0;
-  for (int row = 0; row < sheet_.RowCount(); ++row) {
-    const QFontMetrics caption(CellPainter::captionFont(sheet_.row(row), font()));
-    const auto text = model_.data(model_.index(row, column::Caption), Qt::DisplayRole).toString();
-    widest = std::max(widest, caption.horizontalAdvance(text));
-  }
-  metrics_ = {
-      .pixelWidth = twipsPerPixel,
-      .pixelHeight = twipsPerPixel,
-      .StandardCellHeight = toTwips(rowHeight),
-      .titleHeight = toTwips(title_.sizeHint().height()),
-      .helpLabelHeight = toTwips(fontMetrics().height() + 2),
-      .textHeight = toTwips(fontMetrics().height()),
-      .swatchWidth = toTwips(rowHeight - 1),  // the last pixel is the grid line
-      .widestCaption = toTwips(widest),
-      .exampleLinkWidth = toTwips(fontMetrics().horizontalAdvance(toDisplay(sheet_.lblExamplesLink.text)))};
-  editors_.setIconSize(toPixels(metrics_.buttonSide()));
-}
-
-void SheetView::layOut() {
-  const int tall = toTwips(height());
-  const int top =
-      helpHeight_ ? splitterTopAfterResize(tall, *helpHeight_, metrics_) : initialSplitterTop(tall, metrics_);
-  const auto layout = LayoutSheet(toTwips(width()), tall, top, metrics_);
-  title_.setGeometry(toPixels(layout.lblTitle));
-  grid_.setGeometry(toPixels(layout.Grid));
-  splitter_.setGeometry(toPixels(layout.imgSplitter));
-  help_.layOut(layout);
-  setColumns();
-}
-
-/// The sheet's geometry reserves 6 pixels for the frame of the grid; ours is narrower.
-void SheetView::setColumns() {
-  constexpr int frame = 6;
-  const auto* bar = grid_.verticalScrollBar();
-  const auto scrollWidth = [bar] { return bar->isVisible() ? toTwips(bar->width()) : 0; };
-  layoutColumns(sheet_.table().hasStates, toTwips(grid_.viewport()->width() + frame) + scrollWidth(),
-                metrics_, scrollWidth,
-                [this](int col, int width) { grid_.setColumnWidth(col, toPixels(width)); });
-}
-
-EditorPlaces SheetView::editorPlaces() const {
-  const auto cell = grid_.placeOf(lastCell()).translated(grid_.viewport()->pos());
-  const auto& row = sheet_.row(sheet_.cursorRow());
-  const auto& list = row.Kind() == KindSortedList ? sheet_.lstSortedList : sheet_.lstList;
-  return nimbrel::placeEditors(row.Kind(), toTwips(cell), toTwips(grid_.geometry()), toTwips(height()),
-                               list.list.size(), metrics_);
-}
-
-void SheetView::placeEditors() {
-  const auto origin = -(grid_.pos() + grid_.viewport()->pos());
-  const auto places = editorPlaces();
-  const int side = toPixels(metrics_.buttonSide());
-  const QRect button(toPixels(places.buttonLeft), toPixels(places.buttonTop), side, side);
-  const auto beside = grid_.placeOf({sheet_.cursorRow(), column::Replicate});
-  const auto replicate =
-      replicatePlace(toTwips(beside.translated(-origin - grid_.pos())), toTwips(grid_.geometry()), metrics_);
-  editors_.place(toPixels(places.entry).translated(origin), button.translated(origin),
-                 toPixels(replicate).translated(origin));
-}
-
-QRect SheetView::listPlace() const {
-  if (!sheet_.lstList.visible && !sheet_.lstSortedList.visible) return {};
-  const auto place = toPixels(editorPlaces().list);
-  return {mapToGlobal(place.topLeft()), place.size()};
 }
 
 }  // namespace nimbrel

@@ -1,8 +1,5 @@
 #include "desktop/sheet/swatch.h"
 
-#include "desktop/twips.h"
-#include "properties/sheet_geometry.h"
-
 namespace nimbrel {
 namespace {
 
@@ -21,7 +18,8 @@ void hatchDownwards(QPainter& painter, const QRect& box) {
 }  // namespace
 
 void paintSwatch(QPainter& painter, const QRect& square, const Swatch& swatch, const QColor& ink) {
-  const auto box = toPixels(swatchBox(toTwips(square.height()))).translated(square.topLeft());
+  constexpr int inset = 1;
+  const auto box = square.adjusted(inset, inset, -inset, -inset);
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing, false);
   painter.fillRect(box, colourOf(swatch.value_or(noColourFill)));

@@ -56,11 +56,9 @@ class MainView : public QMainWindow {
   void connectTree();
   void endName(TreeView::NameEnd end, bool isTyped);
   void deleteNode();
-  QRect placeOnScreen() const;
   void showContextMenu(const QPoint& place);
   void showSheets();
   void refreshSideWindow(FormWindow& window);
-  QPoint placeBeside(const QSize& size) const;
   void recordGeometry();
   void lookForOtherChanges();
   void find();

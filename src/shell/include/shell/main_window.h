@@ -22,19 +22,20 @@
 #include "shell/command_states.h"
 #include "shell/program_state.h"
 #include "shell/recent_files.h"
-#include "shell/window_layout.h"
 
 namespace nimbrel {
 
 struct Orphan;
 
-/// The place of the main window on the screen, in twips.
+/// The place of the main window on the screen, in twips (1/1440 inch).
 struct Geometry {
   float left = 0;
   float top = 0;
   float width = 0;
   float height = 0;
 };
+
+inline constexpr int smallestFormWidth = 3000;  ///< twips
 
 /// Whether the windows that open at the start are wanted. The author can still turn them off.
 enum class StartWindows : std::uint8_t { Wanted, None };

@@ -15,21 +15,22 @@ class CellPainter : public QStyledItemDelegate {
  public:
   explicit CellPainter(const SheetModel& model, QObject* parent = nullptr);
 
-  /// Pixels between the left edge of a cell and its text, the same as in the entry.
-  static constexpr int inset = 5;
-  static QFont captionFont(const PropertyRow& row, QFont font);
-
+  /// Wide enough for the whole text.
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
   void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
   /// Shows a text that is cut off as a tool tip.
   bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
                  const QModelIndex& index) override;
 
+  const SheetModel& sheetModel() const { return model_; }
+
  private:
+  QFont fontOf(const QStyleOptionViewItem& option, const QModelIndex& index) const;
   void paintText(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index,
                  const QColor& ink) const;
   struct Colours;
   Colours coloursOf(const QStyleOptionViewItem& option, const QModelIndex& index) const;
-  QRect textPlace(const QRect& cell, const QModelIndex& index) const;
+  QRect textPlace(const QStyleOptionViewItem& option, const QModelIndex& index) const;
   bool isColour(const QModelIndex& index) const;
 
   const SheetModel& model_;

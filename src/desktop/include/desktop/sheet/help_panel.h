@@ -5,7 +5,6 @@
 
 #include "desktop/run_action.h"
 #include "forms/property_sheet.h"
-#include "properties/sheet_geometry.h"
 
 namespace nimbrel {
 
@@ -35,7 +34,8 @@ class HelpPanel : public QWidget {
   HelpPanel(PropertySheet& sheet, ActionRunner run, QWidget* parent);
 
   void refresh();
-  void layOut(const SheetLayout& layout);
+  /// Room for four lines.
+  QSize sizeHint() const override;
   /// Gives the focus to the first link. Returns false if no link is visible.
   bool focusLinks();
 
@@ -45,7 +45,7 @@ class HelpPanel : public QWidget {
  private:
   void prepareLink(LinkLabel& link, Control& control);
   static void showLink(LinkLabel& link, const Control& control);
-  void placeCaption();
+  void layOut();
 
   PropertySheet& sheet_;
   ActionRunner run_;

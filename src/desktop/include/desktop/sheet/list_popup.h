@@ -22,9 +22,9 @@ class ListPopup : public QFrame {
   /// Adds `typed` to the search text and returns the next entry that starts with it, or -1.
   int search(const QString& typed);
 
-  /// Opens the list at `inner` in screen coordinates, moved to fit the screen and at least as wide as its entries.
-  /// A click on `opener` closes the list, as any click outside of it does, and is not passed on.
-  void open(const QRect& inner, const QRect& opener);
+  /// Opens the list under `cell`, which is in screen coordinates, or above it if there is more room. It is at least as wide
+  /// as its entries. A click on the cell closes the list, as any click outside of it does, and is not passed on.
+  void open(const QRect& cell);
 
  signals:
   void chosen(int entry);
@@ -41,13 +41,14 @@ class ListPopup : public QFrame {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  int entryHeight() const;
   bool handleKey(int key);
   bool acceptCurrent(int key);
 
   QListWidget list_;
   std::vector<std::string> texts_;
   int widest_ = 0;  ///< pixels, of an entry with its margins
-  QRect opener_;
+  QRect cell_;
 };
 
 }  // namespace nimbrel

@@ -4,13 +4,12 @@
 #include <QWidget>
 #include <optional>
 
-#include "desktop/sheet/cell_editors.h"
+#include "desktop/pane_splitter.h"
+#include "desktop/sheet/cell_delegate.h"
 #include "desktop/sheet/help_panel.h"
-#include "desktop/sheet/help_splitter.h"
 #include "desktop/sheet/sheet_grid.h"
 #include "desktop/sheet/sheet_model.h"
 #include "forms/property_sheet.h"
-#include "properties/sheet_geometry.h"
 
 namespace nimbrel {
 
@@ -40,10 +39,10 @@ class SheetView : public QWidget {
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
-  void changeEvent(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  void layOut();
   void connectAll();
   void runAction(const Action& action);
   void leaveCell();
@@ -63,23 +62,16 @@ class SheetView : public QWidget {
     return sheet_.Editing() ? std::optional(lastCell()) : std::nullopt;
   }
   void followOpenCell();
-  void measure();
-  void layOut();
-  void setColumns();
-  void placeEditors();
-  QRect listPlace() const;
-  EditorPlaces editorPlaces() const;
 
   PropertySheet& sheet_;
   SheetModel model_;
   QLabel title_;
+  PaneSplitter splitter_;
   SheetGrid grid_;
-  HelpSplitter splitter_;
   HelpPanel help_;
-  CellEditors editors_;
-  SheetMetrics metrics_;
-  std::optional<int> helpHeight_;  ///< twips, set when the user has moved the splitter
-  int column_ = column::Normal;    ///< that Enter, Up and Down stay in
+  OpenCellEditor editor_;
+  CellDelegate delegate_;
+  int column_ = column::Normal;  ///< that Enter, Up and Down stay in
   std::size_t fillings_ = 0;
   std::size_t shownCells_ = 0;             ///< `shownCells` of the sheet at the last refresh
   std::optional<CellPlace> lastOpenCell_;  ///< the open cell at the last refresh

@@ -1,34 +1,53 @@
-#include "desktop/sheet/cell_editors.h"
+#include "desktop/sheet/open_cell_editor.h"
 
 #include "desktop/display_text.h"
 
 namespace nimbrel {
+namespace {
 
-CellEditors::CellEditors(PropertySheet& sheet, QWidget& cells, IconSource icons, ActionRunner run)
-    : sheet_(sheet),
-      cells_(cells),
+constexpr int entryMargin = 2;  // pixels, of a QLineEdit without frame
+
+}  // namespace
+
+OpenCellEditor::OpenCellEditor(PropertySheet& sheet, IconSource icons, ActionRunner run, QWidget* parent)
+    : QWidget(parent),
+      sheet_(sheet),
       icons_(std::move(icons)),
       run_(std::move(run)),
-      entry_(&cells),
-      list_(&cells) {
+      entry_(this),
+      swatch_(this),
+      list_(this) {
+  hide();
   list_.setObjectName("lstList");
+  const auto replicate = "Copies the \"Normal\" state property value into the other two states";
+  addButton(sheet.btnReplicate, "replicate", replicate, replicate);
   addButton(sheet.btnCombo, "drop-down", {}, "Open the list");
   addButton(sheet.btnFile, "browse-file", {}, "Choose Image File");
   addButton(sheet.btnColour, "pick-colour", {}, "Choose Color");
   addButton(sheet.btnFontSize, "font-size", {}, "Set Font Size");
-  const auto replicate = "Copies the \"Normal\" state property value into the other two states";
-  addButton(sheet.btnReplicate, "replicate", replicate, replicate);
+  setFocusProxy(&entry_);
+  auto* row = new QHBoxLayout(this);
+  row->setContentsMargins({});
+  row->setSpacing(0);
+  row->addWidget(&swatch_);
+  row->addSpacing(inset - entryMargin);
+  row->addWidget(&entry_, 1);
+  for (const auto& button : buttons_) {
+    if (button.widget != &this->replicate()) row->addWidget(button.widget);
+  }
   connectAll();
 }
 
-void CellEditors::addButton(Control& control, const char* icon, const QString& toolTip, const QString& name) {
-  auto* button = new QToolButton(&cells_);
+void OpenCellEditor::addButton(Control& control, const char* icon, const QString& toolTip,
+                               const QString& name) {
+  auto* button = new QToolButton(this);
   button->setObjectName(toDisplay(control.name));
   button->setToolTip(toolTip);
   button->setAccessibleName(name);
   button->setFocusPolicy(Qt::NoFocus);  // keys go to the entry
   button->setCursor(Qt::ArrowCursor);
   button->setAutoFillBackground(true);
+  button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Ignored);
   button->hide();
   QObject::connect(button, &QToolButton::clicked, button, [this, &control] {
     run_([this, &control] { sheet_.click(control); });
@@ -37,7 +56,7 @@ void CellEditors::addButton(Control& control, const char* icon, const QString& t
   buttons_.push_back({control, icon, button});
 }
 
-void CellEditors::connectAll() {
+void OpenCellEditor::connectAll() {
   QObject::connect(&entry_, &QLineEdit::textEdited, &entry_, [this](const QString& text) {
     run_([&] { sheet_.type(isPath() ? fromDisplayPath(text) : fromDisplay(text)); });
   });
@@ -56,69 +75,74 @@ void CellEditors::connectAll() {
   });
 }
 
-void CellEditors::setIconSize(int side) {
+void OpenCellEditor::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
   constexpr int margin = 8;
-  for (const auto& button : buttons_) button.widget->setIconSize(QSize(side - margin, side - margin));
+  const int side = height();
+  swatch_.setFixedWidth(side);
+  for (const auto& button : buttons_) {
+    button.widget->setFixedWidth(side);
+    button.widget->setIconSize(QSize(side - margin, side - margin));
+  }
 }
 
-void CellEditors::forgetIcons() {
+/// Each icon is drawn again when it is needed.
+void OpenCellEditor::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() != QEvent::PaletteChange && event->type() != QEvent::StyleChange) return;
   for (auto& button : buttons_) button.isDrawn = false;
   showButtons();
 }
 
-void CellEditors::showButtons() {
+void OpenCellEditor::showButtons() {
   for (auto& button : buttons_) {
     if (button.control.visible && !std::exchange(button.isDrawn, true)) {
       button.widget->setIcon(icons_(button.icon));
     }
     button.widget->setVisible(button.control.visible);
   }
+  swatch_.setVisible(sheet_.btnColour.visible);
 }
 
-bool CellEditors::isPath() const { return sheet_.row(sheet_.cursorRow()).Kind() == KindFile; }
+bool OpenCellEditor::isPath() const { return sheet_.row(sheet_.cursorRow()).Kind() == KindFile; }
 
-Control* CellEditors::openList() const {
+Control* OpenCellEditor::openList() const {
   for (auto* list : {&sheet_.lstList, &sheet_.lstSortedList}) {
     if (list->visible) return list;
   }
   return nullptr;
 }
 
-void CellEditors::place(const QRect& entry, const QRect& button, const QRect& replicate) {
-  entry_.setGeometry(entry);
-  for (const auto& one : buttons_) {
-    one.widget->setGeometry(&one.control == &sheet_.btnReplicate ? replicate : button);
-  }
-}
-
-void CellEditors::refresh(const QString& name, const QRect& listPlace) {
+void OpenCellEditor::showEntry(const QString& name) {
   if (sheet_.txtEntry.visible) {
     if (entry_.accessibleName() != name) entry_.setAccessibleName(name);
     entry_.setAccessibleDescription(toDisplay(sheet_.HelpLabel2.text));
     if (entry_.isReadOnly() != sheet_.entryIsReadOnly()) entry_.setReadOnly(sheet_.entryIsReadOnly());
     showText();
   }
-  // Otherwise hiding the entry would move the focus to the next widget.
-  if (!sheet_.txtEntry.visible && entry_.hasFocus()) cells_.parentWidget()->setFocus(Qt::OtherFocusReason);
   entry_.setVisible(sheet_.txtEntry.visible);
+}
+
+void OpenCellEditor::refresh(const QString& name) {
+  showEntry(name);
   showButtons();
-  showList(listPlace);
+  showList();
 }
 
 /// Different display texts may stand for the same library text: keeps the one being typed.
-void CellEditors::showText() {
+void OpenCellEditor::showText() {
   const auto typed = entry_.text();
   if ((isPath() ? fromDisplayPath(typed) : fromDisplay(typed)) == sheet_.txtEntry.text) return;
   entry_.setText(textOfCell());
 }
 
-QString CellEditors::textOfCell() const {
+QString OpenCellEditor::textOfCell() const {
   return isPath() ? toDisplayPath(sheet_.txtEntry.text) : toDisplay(sheet_.txtEntry.text);
 }
 
-void CellEditors::begin() { entry_.setText(textOfCell()); }
+void OpenCellEditor::begin() { entry_.setText(textOfCell()); }
 
-void CellEditors::showList(const QRect& listPlace) {
+void OpenCellEditor::showList() {
   auto* open = openList();
   if (open == nullptr) {
     list_.hide();
@@ -126,13 +150,11 @@ void CellEditors::showList(const QRect& listPlace) {
     list_.fill(open->list);
     list_.setCurrentText(toDisplay(sheet_.txtEntry.text));
     list_.setName(entry_.accessibleName());
-    const QRect opener(entry_.mapToGlobal(QPoint()),
-                       buttons_.front().widget->mapToGlobal(buttons_.front().widget->rect().bottomRight()));
-    list_.open(listPlace, opener);
+    list_.open({mapToGlobal(QPoint()), size()});
   }
 }
 
-void CellEditors::choose(int entry) {
+void OpenCellEditor::choose(int entry) {
   run_([&] {
     if (auto* list = openList()) sheet_.choose(*list, {static_cast<std::size_t>(entry)});
   });
@@ -140,7 +162,7 @@ void CellEditors::choose(int entry) {
 }
 
 /// Typing in a closed list takes the matching entry at once.
-void CellEditors::search(const QString& typed) {
+void OpenCellEditor::search(const QString& typed) {
   if (!sheet_.btnCombo.visible) return;
   const auto& list =
       sheet_.row(sheet_.cursorRow()).Kind() == KindSortedList ? sheet_.lstSortedList : sheet_.lstList;
@@ -150,7 +172,7 @@ void CellEditors::search(const QString& typed) {
   if (entry >= 0) run_([&] { sheet_.type(list.list[static_cast<std::size_t>(entry)]); });
 }
 
-void CellEditors::pressButton() {
+void OpenCellEditor::pressButton() {
   for (const auto& button : buttons_) {
     if (button.control.visible && &button.control != &sheet_.btnReplicate) {
       button.widget->click();
@@ -159,7 +181,7 @@ void CellEditors::pressButton() {
   }
 }
 
-void CellEditors::focusEntry() {
+void OpenCellEditor::focusEntry() {
   if (entry_.isHidden()) return;
   entry_.setFocus(Qt::OtherFocusReason);
   if (sheet_.btnCombo.visible) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHBoxLayout>
 #include <QIcon>
 #include <QToolButton>
 #include <functional>
@@ -9,35 +10,44 @@
 #include "desktop/sheet/entry_edit.h"
 #include "desktop/sheet/list_popup.h"
 #include "forms/property_sheet.h"
-#include "properties/sheet_geometry.h"
 
 namespace nimbrel {
 
 /// Returns an icon by its name, in the colours of the current palette.
 using IconSource = std::function<QIcon(const char* name)>;
 
-/// The widgets over the open cell: the entry, the small buttons and the list. They show the controls of the sheet.
-class CellEditors {
- public:
-  /// `cells` is the grid's viewport, which clips the editors. `run` runs the user's actions on the sheet.
-  CellEditors(PropertySheet& sheet, QWidget& cells, IconSource icons, ActionRunner run);
+/// The editor over the open cell: the entry and the small button of the row, with the list that drops down from it. It shows
+/// the controls of the sheet. A sheet has one that serves each open cell in turn: a chooser that its button opened runs in
+/// an event loop of its own, so the editor has to outlive the cell.
+class OpenCellEditor : public QWidget {
+  Q_OBJECT
 
-  /// Updates the widgets from the sheet. If the list is open, it drops down at `listPlace` on the screen.
-  void refresh(const QString& name, const QRect& listPlace);
-  /// The places are relative to `cells`.
-  void place(const QRect& entry, const QRect& button, const QRect& replicate);
+ public:
+  /// `run` runs the user's actions on the sheet.
+  OpenCellEditor(PropertySheet& sheet, IconSource icons, ActionRunner run, QWidget* parent);
+
+  /// Pixels between the edge of the editor and the text in it.
+  static constexpr int inset = 5;
+
+  /// Updates the entry from the sheet. `name` is the accessible name of the cell.
+  void showEntry(const QString& name);
+  /// Updates the entry, the buttons and the list from the sheet.
+  void refresh(const QString& name);
   /// Another cell has been opened: clears the undo history of the entry.
   void begin();
-  void setIconSize(int side);
-  /// After a change of the palette. Each icon is drawn again when it is needed.
-  void forgetIcons();
 
   EntryEdit& entry() { return entry_; }
   ListPopup& list() { return list_; }
+  /// The button beside the entries of the states, which is an editor by itself.
+  QToolButton& replicate() const { return *buttons_.front().widget; }
   /// Clicks the button of the open cell, if it has one.
   void pressButton();
   /// Gives the focus to the entry and selects all of its text.
   void focusEntry();
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
   struct Button {
@@ -54,15 +64,15 @@ class CellEditors {
   QString textOfCell() const;
   void showText();
   void showButtons();
-  void showList(const QRect& listPlace);
+  void showList();
   void choose(int entry);
   void search(const QString& typed);
 
   PropertySheet& sheet_;
-  QWidget& cells_;
   IconSource icons_;
   ActionRunner run_;
   EntryEdit entry_;
+  QWidget swatch_;  ///< leaves the swatch of the cell in sight
   ListPopup list_;
   std::vector<Button> buttons_;
 };
