@@ -1,12 +1,12 @@
 #include "support/desktop_run.h"
 
 #include <QAbstractButton>
+#include <QClipboard>
 #include <QDir>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPointer>
-#include <QClipboard>
 #include <QSettings>
 #include <QTemporaryFile>
 #include <QTest>
