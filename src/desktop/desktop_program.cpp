@@ -44,7 +44,8 @@ DesktopProgram::DesktopProgram(const std::string& programFolder)
              clipboard_,
              installedFonts(),
              [] { return QRandomGenerator::global()->generateDouble(); },
-             fromHostPath(absoluteHostPath(stateFolder()))},
+             fromHostPath(absoluteHostPath(stateFolder())),
+             [this](const Action& work) { view_.runAside(work); }},
       main_(ports_, fromHostPath(programFolder)),
       view_(main_) {
   BrowserView::setPages(&pages_);

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMenu>
+#include <QScopeGuard>
 #include <QStatusBar>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -14,6 +15,7 @@
 #include "desktop/icons.h"
 #include "desktop/main_area.h"
 #include "desktop/run_action.h"
+#include "desktop/run_aside.h"
 #include "desktop/sheet/entry_edit.h"
 #include "desktop/system_clipboard.h"
 #include "desktop/window_place.h"
@@ -231,12 +233,25 @@ void MainView::setModalOpen(bool isOpen) {
 
 bool MainView::mayClose() {
   if (isClosed_) return true;
+  if (isWorkAside_) {
+    isClosedAfterWork_ = true;
+    return false;
+  }
   if (auto* popup = QApplication::activePopupWidget()) popup->close();  // it would swallow the first click
   recordGeometry();
   bool mayClose = false;
   runAction([&] { mayClose = main_.QueryClose(); });
   isClosed_ = mayClose;
   return mayClose;
+}
+
+void MainView::runAside(const Action& work) {
+  isWorkAside_ = true;
+  const auto done = qScopeGuard([this] {
+    isWorkAside_ = false;
+    if (std::exchange(isClosedAfterWork_, false)) QTimer::singleShot(0, this, &QWidget::close);
+  });
+  nimbrel::runAside(work);
 }
 
 void MainView::closeEvent(QCloseEvent* event) {
@@ -269,7 +284,7 @@ void MainView::changeEvent(QEvent* event) {
 }
 
 void MainView::lookForOtherChanges() {
-  if (!isStarted_ || isStarting_ || isClosed_ || isModalOpen_ || !isActiveWindow()) return;
+  if (!isStarted_ || isStarting_ || isClosed_ || isModalOpen_ || isWorkAside_ || !isActiveWindow()) return;
   nimbrel::runAction([this] { main_.offerReload(); }, {[this] { refresh(); }});
 }
 

@@ -15,6 +15,6 @@ SharedText::SharedText(std::string_view text) {
   std::memcpy(shared_->bytes(), text.data(), text.size());
 }
 
-void SharedText::release() noexcept { ::operator delete(shared_); }
+void SharedText::free() noexcept { ::operator delete(shared_); }
 
 }  // namespace nimbrel

@@ -13,7 +13,9 @@
 #include <QTabBar>
 #include <QTest>
 #include <QTextBrowser>
+#include <QThread>
 #include <QToolBar>
+#include <atomic>
 #include <csignal>
 #include <gmock/gmock.h>
 
@@ -486,6 +488,26 @@ TEST_F(Desktop, ErrorsAreReportedAfterTheWindowsAreUpToDate) {
   expectError("/site/a.js: disk full");
   preview.refresh();
   EXPECT_TRUE(waitFor([&] { return run.isAnswered() && QApplication::activeModalWidget() == nullptr; }));
+}
+
+TEST_F(Desktop, WorkAsideLeavesTheWindowAliveAndTellsItsErrors) {
+  run.start();
+  QThread* worker = nullptr;
+  std::atomic<bool> isTimerRun = false;
+  QTimer::singleShot(10, &run.view(), [&] {
+    run.view().close();  // as the end of the session would
+    EXPECT_TRUE(run.view().isVisible());
+    isTimerRun = true;
+  });
+  const auto work = [&] {
+    worker = QThread::currentThread();
+    while (!isTimerRun) QThread::msleep(1);
+    throw FileError("\\site\\a.js", "disk full");
+  };
+  EXPECT_THROW(run.view().runAside(work), FileError);
+  EXPECT_NE(worker, nullptr);
+  EXPECT_NE(worker, QThread::currentThread());
+  EXPECT_TRUE(waitFor([&] { return !run.view().isVisible(); }));
 }
 
 TEST_F(Desktop, LiveExamplesAndHelpTopicsOpenAndTheHelpFindsWords) {

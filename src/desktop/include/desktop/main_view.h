@@ -32,6 +32,8 @@ class MainView : public QMainWindow {
   void setModalOpen(bool isOpen);
   /// Asks whether to save. Returns whether the window may close.
   bool mayClose();
+  /// Does work of a command beside the window (`Ports::aside`). A wish to close it waits until the work is done.
+  void runAside(const Action& work);
 
   TreeView& tree() { return tree_; }
   SheetView& sheet(Kind kind);
@@ -82,6 +84,8 @@ class MainView : public QMainWindow {
   bool isStarted_ = false;
   bool isStarting_ = false;
   bool isModalOpen_ = false;
+  bool isWorkAside_ = false;
+  bool isClosedAfterWork_ = false;
   bool isClosed_ = false;
 };
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -10,7 +11,7 @@ namespace nimbrel {
 
 /// An immutable one-byte text with a reference count. A document repeats a few texts ("n", "sans-serif",
 /// "#FFFFFF") a million times; a copy is one pointer, so elements are small and cheap to copy.
-/// Not thread-safe.
+/// Copies may live in different threads; one object may not be changed in one thread and used in another.
 class SharedText {
  public:
   SharedText() = default;
@@ -20,7 +21,7 @@ class SharedText {
   SharedText(const char* text) : SharedText(std::string_view(text)) {}
   // NOLINTEND(google-explicit-constructor)
   SharedText(const SharedText& other) noexcept : shared_(other.shared_) {
-    if (shared_ != nullptr) ++shared_->owners;
+    if (shared_ != nullptr) shared_->owners.fetch_add(1, std::memory_order_relaxed);
   }
   SharedText(SharedText&& other) noexcept : shared_(std::exchange(other.shared_, nullptr)) {}
   SharedText& operator=(SharedText other) noexcept {
@@ -28,7 +29,7 @@ class SharedText {
     return *this;
   }
   ~SharedText() {
-    if (shared_ != nullptr && --shared_->owners == 0) release();
+    if (shared_ != nullptr) release();
   }
 
   std::string_view view() const noexcept {
@@ -47,12 +48,16 @@ class SharedText {
  private:
   /// The header of the allocation; the bytes follow it.
   struct Shared {
-    std::uint32_t owners;
+    std::atomic<std::uint32_t> owners;
     std::uint32_t size;
     char* bytes() { return reinterpret_cast<char*>(this + 1); }
   };
 
-  void release() noexcept;
+  /// Gives up one ownership; the last one frees the text.
+  void release() noexcept {
+    if (shared_->owners.fetch_sub(1, std::memory_order_acq_rel) == 1) free();
+  }
+  void free() noexcept;
 
   Shared* shared_ = nullptr;  // nullptr: the empty text
 };
